@@ -1,0 +1,29 @@
+# Shared by the scripts beside it: installs what is missing, configures and builds one preset.
+set -euo pipefail
+top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+install_missing() {
+    local wanted missing=() root=()
+    wanted=$(sed -e 's/#.*//' -e '/^\s*$/d' "$top/scripts/packages.txt")
+    local installed
+    # Exits with 1 when a package is unknown; the comparison below sees that.
+    # shellcheck disable=SC2086
+    installed=$(dpkg-query -W -f '${db:Status-Abbrev}${Package}\n' $wanted 2>/dev/null |
+        sed -n 's/^ii //p') || true
+    for package in $wanted; do
+        grep -qx "$package" <<<"$installed" || missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    echo "Installing: ${missing[*]}"
+    [ "$(id -u)" -eq 0 ] || root=(sudo)
+    "${root[@]}" apt-get update -q
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -q --no-install-recommends "${missing[@]}"
+}
+
+# Ninja configures anew by itself when a CMake file has changed.
+build() {
+    local preset=$1
+    [ -e "$top/build/$preset/build.ninja" ] || (cd "$top" && cmake --preset "$preset")
+    cmake --build "$top/build/$preset"
+}

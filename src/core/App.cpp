@@ -1,0 +1,58 @@
+#include "core/App.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// It keeps the curious out and no more: the same key is in every copy of the program.
+QByteArray FixedKey() {
+    return "rk7WPNdTLqhvM4"_ba;
+}
+
+} // namespace
+
+App::App(Desktop &desktop, const UserLocale &locale)
+    : desktop_(desktop), locale_(locale), kvoDB_(std::make_unique<SQLiteDatabase>()) {}
+
+SQLiteDatabase &App::NewDatabase() {
+    kvoDB_ = std::make_unique<SQLiteDatabase>();
+    return *kvoDB_;
+}
+
+FolderItem App::DefaultDatabaseFile() const {
+    return desktop_.ApplicationData().Child(u"Brevant"_s).Child(u"Zolmark.sdb"_s);
+}
+
+bool App::DBLoad() {
+    SQLiteDatabase &database = NewDatabase();
+    const FolderItem file = DefaultDatabaseFile();
+    if (!file.Exists()) {
+        return false;
+    }
+    database.SetDatabaseFile(file);
+    database.SetEncryptionKey(FixedKey());
+    return true;
+}
+
+bool App::DBLoad1() {
+    const std::optional<FolderItem> file = desktop_.GetOpenFolderItem();
+    if (!file || !file->Exists()) {
+        return false;
+    }
+    NewDatabase().SetDatabaseFile(*file);
+    return true;
+}
+
+void App::Connect() {
+    if (!kvoDB().Connect()) {
+        desktop_.MsgBox(u"DB Connection Error: "_s + kvoDB().ErrorMessage());
+    }
+}
+
+bool App::ReportError() const {
+    if (!kvoDB().Error()) {
+        return false;
+    }
+    desktop_.MsgBox(u"DB Error: "_s + kvoDB().ErrorMessage());
+    return true;
+}

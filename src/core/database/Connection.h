@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+
+struct sqlite3;
+
+/// An open SQLCipher database and the outcome of the last operation on it. It is shared by the
+/// database object and by all statements and record sets that came from it, and closes with the
+/// last.
+class Connection {
+public:
+    enum class Missing { Refuse, Create };
+
+    /// Opens the file with the key, an empty path in memory and without one. A file is opened when
+    /// the key fits and its first page could be read; otherwise Error is set.
+    Connection(const QString &path, const QByteArray &key, Missing missing);
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
+
+    bool IsOpen() const { return open_; }
+    sqlite3 *Handle() const { return handle_.get(); }
+
+    /// Runs one statement or a script, up to its first failing statement.
+    bool Execute(const QByteArray &sql);
+    qint64 LastRowID() const;
+    /// Rows changed by the last INSERT, UPDATE or DELETE.
+    int Changes() const;
+
+    /// Keeps the outcome of a call of the library; true for a success.
+    bool Note(int resultCode);
+    /// An outcome that no call of the library gave; a null text is a success.
+    void NoteFailure(const QString &message);
+    bool Error() const { return !message_.isNull(); }
+    QString ErrorMessage() const { return message_; }
+
+private:
+    struct Closer {
+        void operator()(sqlite3 *handle) const;
+    };
+
+    bool Open(const QString &path, const QByteArray &key, Missing missing);
+    bool Unlock(const QByteArray &key);
+    bool Settle();
+
+    std::unique_ptr<sqlite3, Closer> handle_;
+    QString message_;
+    bool open_ = false; // Behind what opening writes to.
+};

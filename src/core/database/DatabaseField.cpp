@@ -1,0 +1,35 @@
+#include "core/database/DatabaseField.h"
+
+#include "core/TLXModule.h"
+#include "core/database/RecordSet.h"
+
+using namespace Qt::StringLiterals;
+
+QString DatabaseField::StringValue() const {
+    if (!records_->CanRead(column_)) {
+        return {};
+    }
+    const Statement &statement = *records_->statement_;
+    if (records_->IsBoolean(column_) && statement.ColumnKind(column_) != Statement::Kind::Null) {
+        return statement.Number(column_) != 0 ? u"True"_s : u"False"_s;
+    }
+    return statement.Text(column_);
+}
+
+void DatabaseField::SetStringValue(const QString &text) {
+    records_->changes_[column_] = text;
+}
+
+double DatabaseField::DoubleValue() const {
+    if (!records_->CanRead(column_)) {
+        return 0;
+    }
+    const Statement &statement = *records_->statement_;
+    return statement.ColumnKind(column_) == Statement::Kind::Text
+               ? TLXModule::AmountText2Value(statement.Text(column_))
+               : statement.Number(column_);
+}
+
+std::optional<Date> DatabaseField::DateValue() const {
+    return Date::FromSQL(StringValue());
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+#include <utility>
+#include <vector>
+
+/// The columns of a row to insert, each with its value as text.
+class DatabaseRecord {
+public:
+    using Columns = std::vector<std::pair<QString, QString>>;
+
+    void SetColumn(const QString &name, const QString &text) { columns_.emplace_back(name, text); }
+    const Columns &AllColumns() const { return columns_; }
+
+private:
+    Columns columns_;
+};

@@ -1,0 +1,84 @@
+#include "core/database/RecordSet.h"
+
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString RowHasGone() {
+    return u"Der Datensatz ist nicht mehr vorhanden."_s;
+}
+
+} // namespace
+
+RecordSet::RecordSet(std::unique_ptr<Statement> statement, bool hasRow)
+    : statement_(std::move(statement)), hasRow_(hasRow) {
+    for (int column = 0; column < statement_->ColumnCount(); ++column) {
+        const bool isBoolean = statement_->DeclaredType(column).toLower() == "boolean";
+        columns_.push_back({statement_->ColumnName(column), isBoolean});
+    }
+}
+
+void RecordSet::MoveNext() {
+    if (hasRow_) {
+        hasRow_ = statement_->Step();
+        ++row_;
+    }
+}
+
+int RecordSet::RecordCount() {
+    int count = row_;
+    while (hasRow_) {
+        hasRow_ = statement_->Step();
+        ++count;
+    }
+    statement_->Reset();
+    for (int row = 0; row <= row_; ++row) {
+        hasRow_ = statement_->Step();
+    }
+    return count;
+}
+
+DatabaseField RecordSet::Field(QLatin1StringView name) {
+    for (size_t column = 0; column < columns_.size(); ++column) {
+        if (name.compare(QLatin1StringView(columns_[column].name), Qt::CaseInsensitive) == 0) {
+            return {*this, static_cast<int>(column)};
+        }
+    }
+    return {*this, -1};
+}
+
+void RecordSet::Edit() {
+    changes_.clear();
+    statement_->Owner()->NoteFailure(AtEnd() ? RowHasGone() : QString());
+}
+
+void RecordSet::Update() {
+    if (AtEnd() || changes_.empty()) {
+        return;
+    }
+    Statement update(statement_->Owner(), UpdateText());
+    int parameter = 0;
+    bool fine = update.IsValid();
+    for (const auto &[column, text] : changes_) {
+        fine = fine && update.Bind(parameter++, text);
+    }
+    if (!fine || !update.Bind(parameter, Field("id"_L1).StringValue())) {
+        return;
+    }
+    update.Step();
+    if (!update.Owner()->Error() && update.Owner()->Changes() == 0) {
+        update.Owner()->NoteFailure(RowHasGone());
+    }
+}
+
+QString RecordSet::UpdateText() const {
+    QStringList assignments;
+    for (const auto &change : changes_) {
+        const QByteArray &name = columns_[static_cast<size_t>(change.first)].name;
+        assignments.append(QString::fromUtf8(name) + u" = ?"_s);
+    }
+    return u"UPDATE %1 SET %2 WHERE id = ?"_s.arg(QString::fromUtf8(statement_->TableName(0)),
+                                                  assignments.join(u", "_s));
+}

@@ -1,0 +1,98 @@
+#include "core/database/SQLiteDatabase.h"
+
+#include "core/database/Connection.h"
+
+#include <QFile>
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The library would make the file readable for everybody.
+void CreateForOwnerAlone(const QString &path) {
+    QFile file(path);
+    // A failure shows at once when the library opens the file, and it has the better message.
+    static_cast<void>(
+        file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner));
+}
+
+} // namespace
+
+SQLiteDatabase::SQLiteDatabase() = default;
+SQLiteDatabase::~SQLiteDatabase() = default;
+
+bool SQLiteDatabase::CreateDatabaseFile() {
+    if (file_ && !file_->Exists()) {
+        CreateForOwnerAlone(file_->Path());
+    }
+    return Open(true);
+}
+
+bool SQLiteDatabase::Connect() {
+    return Open(false);
+}
+
+bool SQLiteDatabase::Open(bool create) {
+    const auto missing = create ? Connection::Missing::Create : Connection::Missing::Refuse;
+    connection_ = std::make_shared<Connection>(file_ ? file_->Path() : QString(), key_, missing);
+    return connection_->IsOpen();
+}
+
+void SQLiteDatabase::SQLExecute(const QString &sql) {
+    if (connection_ && connection_->IsOpen()) {
+        connection_->Execute(sql.toUtf8());
+    }
+}
+
+std::unique_ptr<Statement> SQLiteDatabase::Compile(const QString &sql) {
+    if (!connection_ || !connection_->IsOpen()) {
+        return nullptr;
+    }
+    auto statement = std::make_unique<Statement>(connection_, sql);
+    return statement->IsValid() ? std::move(statement) : nullptr;
+}
+
+std::unique_ptr<RecordSet> SQLiteDatabase::SQLSelect(const QString &sql) {
+    return Prepare(sql).SQLSelect();
+}
+
+SQLitePreparedStatement SQLiteDatabase::Prepare(const QString &sql) {
+    return SQLitePreparedStatement(Compile(sql));
+}
+
+void SQLiteDatabase::InsertRecord(const QString &table, const DatabaseRecord &record) {
+    QStringList names;
+    QStringList markers;
+    for (const auto &column : record.AllColumns()) {
+        names.append(column.first);
+        markers.append(u"?"_s);
+    }
+    SQLitePreparedStatement insert = Prepare(
+        u"INSERT INTO %1 (%2) VALUES (%3)"_s.arg(table, names.join(u','), markers.join(u',')));
+    int parameter = 0;
+    for (const auto &column : record.AllColumns()) {
+        insert.Bind(parameter++, column.second);
+    }
+    insert.SQLExecute();
+}
+
+void SQLiteDatabase::Commit() {
+    SQLExecute(u"COMMIT"_s);
+}
+
+void SQLiteDatabase::Rollback() {
+    SQLExecute(u"ROLLBACK"_s);
+}
+
+qint64 SQLiteDatabase::LastRowID() const {
+    return connection_ && connection_->IsOpen() ? connection_->LastRowID() : 0;
+}
+
+bool SQLiteDatabase::Error() const {
+    return !connection_ || connection_->Error();
+}
+
+QString SQLiteDatabase::ErrorMessage() const {
+    return connection_ ? connection_->ErrorMessage() : u"Es ist keine Datenbank geöffnet."_s;
+}

@@ -1,0 +1,29 @@
+#include "core/database/SQLitePreparedStatement.h"
+
+SQLitePreparedStatement::SQLitePreparedStatement(std::unique_ptr<Statement> statement)
+    : statement_(std::move(statement)) {}
+
+void SQLitePreparedStatement::Bind(int parameter, const QString &text) {
+    if (statement_ && !statement_->Bind(parameter, text)) {
+        statement_.reset();
+    }
+}
+
+void SQLitePreparedStatement::SQLExecute() {
+    if (statement_) {
+        statement_->Step();
+        statement_.reset();
+    }
+}
+
+std::unique_ptr<RecordSet> SQLitePreparedStatement::SQLSelect() {
+    if (!statement_) {
+        return nullptr;
+    }
+    const bool hasRow = statement_->Step();
+    if (statement_->Owner()->Error()) {
+        statement_.reset();
+        return nullptr;
+    }
+    return std::make_unique<RecordSet>(std::move(statement_), hasRow);
+}

@@ -1,0 +1,71 @@
+#include "core/database/Statement.h"
+
+#include <sqlite3.h>
+
+void Statement::Finalizer::operator()(sqlite3_stmt *handle) const {
+    // Repeats the outcome of the last step, which has been noted.
+    sqlite3_finalize(handle);
+}
+
+Statement::Statement(std::shared_ptr<Connection> connection, const QString &sql)
+    : connection_(std::move(connection)) {
+    const QByteArray text = sql.toUtf8();
+    sqlite3_stmt *handle = nullptr;
+    connection_->Note(sqlite3_prepare_v2(connection_->Handle(), text.constData(),
+                                         static_cast<int>(text.size()), &handle, nullptr));
+    handle_.reset(handle);
+}
+
+bool Statement::Bind(int parameter, const QString &text) {
+    const QByteArray bytes = text.toUtf8();
+    return connection_->Note(sqlite3_bind_text(handle_.get(), parameter + 1, bytes.constData(),
+                                               static_cast<int>(bytes.size()), SQLITE_TRANSIENT));
+}
+
+bool Statement::Step() {
+    const int result = sqlite3_step(handle_.get());
+    connection_->Note(result);
+    return result == SQLITE_ROW;
+}
+
+void Statement::Reset() {
+    // Repeats the outcome of the last step, which has been noted.
+    sqlite3_reset(handle_.get());
+}
+
+int Statement::ColumnCount() const {
+    return sqlite3_column_count(handle_.get());
+}
+
+QByteArray Statement::ColumnName(int column) const {
+    return sqlite3_column_name(handle_.get(), column);
+}
+
+QByteArray Statement::DeclaredType(int column) const {
+    return sqlite3_column_decltype(handle_.get(), column);
+}
+
+QByteArray Statement::TableName(int column) const {
+    return sqlite3_column_table_name(handle_.get(), column);
+}
+
+Statement::Kind Statement::ColumnKind(int column) const {
+    switch (sqlite3_column_type(handle_.get(), column)) {
+    case SQLITE_NULL:
+        return Kind::Null;
+    case SQLITE_INTEGER:
+    case SQLITE_FLOAT:
+        return Kind::Number;
+    default:
+        return Kind::Text;
+    }
+}
+
+QString Statement::Text(int column) const {
+    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(handle_.get(), column));
+    return QString::fromUtf8(text, sqlite3_column_bytes(handle_.get(), column));
+}
+
+double Statement::Number(int column) const {
+    return sqlite3_column_double(handle_.get(), column);
+}

@@ -1,0 +1,109 @@
+#include "journal/Balances.h"
+
+#include "core/App.h"
+#include "core/TLXModule.h"
+#include "journal/Journal.h"
+#include "journal/Selectors.h"
+#include "platform/DebugLog.h"
+#include "platform/Text.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Receipts less expenses; a booking of any other type does not count.
+Currency SumOf(RecordSet &records) {
+    Currency receipts;
+    Currency expenses;
+    const auto type = records.Field("type"_L1);
+    const auto amount = records.Field("amount"_L1);
+    for (; !records.AtEnd(); records.MoveNext()) {
+        const QString kind = type.StringValue();
+        if (SameText(kind, u"A")) {
+            expenses += amount.CurrencyValue();
+        } else if (SameText(kind, u"E")) {
+            receipts += amount.CurrencyValue();
+        }
+    }
+    return receipts - expenses;
+}
+
+} // namespace
+
+Balances::Balances(App &app, Selectors &selectors, Journal &journal)
+    : OpeningBalanceLabel(u"OpeningBalanceLabel"_s, u"0,00"_s),
+      LastAmountLabel(u"LastAmountLabel"_s, u"0,00"_s), app_(app), selectors_(selectors),
+      journal_(journal) {
+    connect(&selectors_, &Selectors::RefreshJournal, this, &Balances::Refresh);
+}
+
+void Balances::Refresh() {
+    journal_.LoadJournal();
+    ReCalcAmount();
+}
+
+void Balances::ReCalcAmount() {
+    const Currency opening = GetOpeningBalance(SelectedCashbookID());
+    const QString sql = u"SELECT * FROM cash_journal WHERE vdate  < '"_s +
+                        selectors_.PeriodStartSQL() + u"' AND "_s + selectors_.CashbookCondition();
+    const auto records = app_.kvoDB().SQLSelect(sql);
+    DebugLog(sql);
+    if (app_.ReportError()) {
+        return;
+    }
+    const Currency start = opening + SumOf(*records);
+    OpeningBalanceLabel.SetText(app_.Locale().FormatBalance(start.ToDouble()));
+    RunBalance(start);
+    const Listbox &list = journal_.CashList;
+    LastAmountLabel.SetText(list.Cell(list.LastIndex(), Journal::Balance));
+}
+
+void Balances::RunBalance(Currency balance) {
+    Listbox &list = journal_.CashList;
+    std::vector<QString> texts;
+    texts.reserve(static_cast<size_t>(list.ListCount()));
+    for (int row = 0; row < list.ListCount(); ++row) {
+        const QString input = list.Cell(row, Journal::Input);
+        const QString output = list.Cell(row, Journal::Output);
+        if (!input.isEmpty()) {
+            balance = Currency::FromDouble(balance.ToDouble() + TLXModule::AmountText2Value(input));
+        } else if (!output.isEmpty()) {
+            balance =
+                Currency::FromDouble(balance.ToDouble() - TLXModule::AmountText2Value(output));
+        }
+        texts.push_back(app_.Locale().FormatBalance(balance.ToDouble()));
+    }
+    list.SetColumn(Journal::Balance, texts);
+}
+
+int Balances::SelectedCashbookID() const {
+    const PopupMenu &cashbooks = selectors_.CashbookPopup;
+    return cashbooks.RowTag(cashbooks.ListIndex()).toInt();
+}
+
+std::unique_ptr<RecordSet> Balances::SelectCashbook(int id) {
+    auto records = app_.kvoDB().SQLSelect(u"SELECT * FROM cash_book WHERE id = '%1'"_s.arg(id));
+    app_.ReportError();
+    return records;
+}
+
+Currency Balances::GetOpeningBalance(int id) {
+    const auto records = SelectCashbook(id);
+    return records ? records->Field("opening_balance"_L1).CurrencyValue() : Currency();
+}
+
+std::optional<Date> Balances::GetOpeningDate() {
+    const auto records = SelectCashbook(SelectedCashbookID());
+    return records ? records->Field("opening_balance_date"_L1).DateValue() : std::nullopt;
+}
+
+QString Balances::CalcAmount(const QString &type, const QString &from, const QString &to) {
+    QString sql = u"SELECT SUM(amount) AS sum FROM cash_journal WHERE type = '%1' "_s.arg(type);
+    if (!from.isEmpty()) {
+        sql += u"AND vdate BETWEEN '%1' AND '%2'"_s.arg(from, to);
+    }
+    const auto records = app_.kvoDB().SQLSelect(sql);
+    app_.ReportError();
+    return records ? app_.Locale().FormatBalance(records->Field("sum"_L1).DoubleValue())
+                   : QString();
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/Listbox.h"
+
+#include <QObject>
+
+class App;
+class Selectors;
+
+/// The list of bookings of the selected cash book and period. Its rows are the only copy of the
+/// bookings that the entry row and the report read; the columns are their contract.
+class Journal : public QObject {
+    Q_OBJECT
+
+public:
+    /// The cells of a row; the row tag is the booking's id. Exactly one of Input and Output holds
+    /// text. The Date column is tagged with the Date, Tax with the tax key, Category with the
+    /// account.
+    enum Column { DateColumn, Input, Output, Tax, Category, SaleNumber, Note, Balance };
+
+    Journal(App &app, Selectors &selectors);
+
+    Listbox CashList;
+
+    /// Fills CashList from the database, in order of date and of entry on the same date. The
+    /// balance column is left empty. If the query fails the rows stay as they were, without a
+    /// message.
+    void LoadJournal();
+
+private:
+    void CashList_Open();
+    void CashList_CompareRows(int first, int second, int column, int &result, bool &handled) const;
+    QString Statement() const;
+
+    App &app_;
+    Selectors &selectors_;
+};

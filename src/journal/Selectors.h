@@ -1,0 +1,66 @@
+#pragma once
+
+#include "platform/Date.h"
+#include "platform/PopupMenu.h"
+
+#include <QObject>
+
+class App;
+
+/// Cash book, year and month: what the journal shows. A change of a selector asks for a fresh
+/// journal through RefreshJournal; so does a rebuilding of the lists, which selects by position
+/// again.
+class Selectors : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Selectors(App &app);
+
+    PopupMenu CashbookPopup;
+    PopupMenu YearPopup;
+    PopupMenu MonthPopup;
+
+    /// While it lives, changes wait: RefreshJournal is fired once at its end, if any change asked.
+    class Hold {
+    public:
+        explicit Hold(Selectors &selectors);
+        ~Hold();
+        Hold(const Hold &) = delete;
+        Hold &operator=(const Hold &) = delete;
+
+    private:
+        Selectors &selectors_;
+    };
+
+    /// Rebuild their selector from the database and select what stands at the remembered position,
+    /// or the last row when that lies beyond the list. A failed query leaves the selector empty.
+    void GetCashbooks();
+    void GetJournalYears();
+    void LoadMonths();
+
+    /// Selects year and month of the date. A year that is not in the list leaves the year.
+    void ShowPeriod(const Date &date);
+
+    /// "cashbookID = '...'", for behind a WHERE or an AND. The first row stands for the main cash
+    /// book, whatever its tag says.
+    QString CashbookCondition() const;
+    /// The first day of the selected month or year, as a SQL date.
+    QString PeriodStartSQL() const;
+
+Q_SIGNALS:
+    /// Load the journal and compute its balances anew.
+    void RefreshJournal();
+
+private:
+    void CashbookPopup_Change();
+    void YearPopup_Change();
+    void MonthPopup_Change();
+    void AskForRefresh();
+
+    App &app_;
+    // Positions in their lists, not ids or years; they outlive a rebuilding of the lists.
+    int mCashbookID_ = 0;
+    int mYear_ = 0;
+    int holds_ = 0;
+    bool refreshWanted_ = false;
+};

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+/// What every control has: a name, whether it shows and can be used, and the keyboard focus.
+///
+/// A control holds state and fires events, and has nothing to draw with: a view shows it and hands
+/// back what the user does. Events run inside the write that sets them off.
+class Control : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Control(const QString &name);
+
+    bool Visible() const { return visible_; }
+    void SetVisible(bool visible);
+    bool Enabled() const { return enabled_; }
+    void SetEnabled(bool enabled);
+
+    /// Asks for the keyboard focus. The control that loses it gets LostFocus.
+    void SetFocus() { Q_EMIT FocusRequested(); }
+
+Q_SIGNALS:
+    void GotFocus();
+    void LostFocus();
+    /// For the view: what it shows has changed. Comes before the event of the control itself.
+    void Updated();
+    /// For the view: give the control the keyboard focus.
+    void FocusRequested();
+
+private:
+    bool visible_ = true;
+    bool enabled_ = true;
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QString>
+
+#include <vector>
+
+/// The rows of a selection control: a text to show and a tag to find the row by.
+class RowModel : public QAbstractListModel {
+    Q_OBJECT
+
+public:
+    int Count() const { return static_cast<int>(rows_.size()); }
+    /// Empty for an index outside the list; so is Tag.
+    QString Text(int row) const;
+    QString Tag(int row) const;
+    void SetTag(int row, const QString &tag);
+    void Append(const QString &text);
+    void Clear();
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+
+private:
+    struct Row {
+        QString text;
+        QString tag;
+    };
+
+    bool Has(int row) const { return row >= 0 && row < Count(); }
+
+    std::vector<Row> rows_;
+};

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+/// Text functions of the desktop's own kind. Texts are compared without regard to case everywhere.
+
+/// The number at the start of the text, with a dot as decimal mark; 0 if there is none.
+double Val(QStringView text);
+
+/// The piece with the given number, from 1; empty beyond the last.
+QString NthField(const QString &text, QChar separator, int number);
+
+bool SameText(QStringView a, QStringView b);

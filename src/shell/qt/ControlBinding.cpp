@@ -1,0 +1,54 @@
+#include "shell/qt/ControlBinding.h"
+
+#include "platform/Control.h"
+
+#include <QFocusEvent>
+#include <QWidget>
+
+namespace {
+
+/// Hands the focus events of a widget to its control.
+class FocusWatcher : public QObject {
+public:
+    FocusWatcher(Control &control, QWidget &widget) : QObject(&widget), control_(control) {
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        if (event->type() == QEvent::FocusIn) {
+            Q_EMIT control_.GotFocus();
+        } else if (event->type() == QEvent::FocusOut &&
+                   LeavesForGood(*static_cast<QFocusEvent *>(event))) {
+            Q_EMIT control_.LostFocus();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    Control &control_;
+};
+
+} // namespace
+
+void BindControl(Control &control, QWidget &widget) {
+    widget.setObjectName(control.objectName());
+    const auto show = [&control, &widget] {
+        widget.setVisible(control.Visible());
+        widget.setEnabled(control.Enabled());
+    };
+    // A widget that was never told to show comes up with its window.
+    if (!control.Visible()) {
+        widget.hide();
+    }
+    widget.setEnabled(control.Enabled());
+    QObject::connect(&control, &Control::Updated, &widget, show);
+    QObject::connect(&control, &Control::FocusRequested, &widget,
+                     [&widget] { widget.setFocus(Qt::OtherFocusReason); });
+    // Owned by the widget.
+    new FocusWatcher(control, widget);
+}
+
+bool LeavesForGood(const QFocusEvent &event) {
+    return event.reason() != Qt::PopupFocusReason && event.reason() != Qt::MenuBarFocusReason &&
+           event.reason() != Qt::ActiveWindowFocusReason;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+class Control;
+class QWidget;
+
+/// Names the widget after its control, keeps it shown, usable and focused as the control says, and
+/// tells the control when the focus comes and goes.
+void BindControl(Control &control, QWidget &widget);
+
+class QFocusEvent;
+
+/// Whether the focus went to another control. A menu, a pop-up list or another window takes the
+/// keys for a while only, and the focus comes back from there.
+bool LeavesForGood(const QFocusEvent &event);

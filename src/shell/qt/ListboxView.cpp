@@ -1,0 +1,117 @@
+#include "shell/qt/ListboxView.h"
+
+#include "platform/Listbox.h"
+#include "shell/qt/ControlBinding.h"
+#include "shell/qt/PainterGraphics.h"
+
+#include <QFocusEvent>
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+namespace {
+
+constexpr int lineHeight = 18;
+
+} // namespace
+
+ListboxView::ListboxView(Listbox &list, QWidget *parent) : QTableView(parent), list_(list) {
+    setObjectName(list.objectName());
+    setModel(&list);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setTabKeyNavigation(false);
+    setShowGrid(false);
+    setWordWrap(false);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    horizontalHeader()->hide();
+    horizontalHeader()->setMinimumSectionSize(0);
+    horizontalHeader()->setStretchLastSection(true);
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(lineHeight);
+    verticalHeader()->setDefaultSectionSize(lineHeight);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    connect(&list, &Listbox::SelectionMoved, this, &ListboxView::ShowSelection);
+    connect(&list, &Listbox::ScrollRequested, this,
+            [this](int row) { scrollTo(list_.index(row, 0)); });
+    KeepPlaceThroughRefills();
+}
+
+void ListboxView::KeepPlaceThroughRefills() {
+    const auto place = std::make_shared<int>(0);
+    connect(&list_, &Listbox::modelAboutToBeReset, this,
+            [this, place] { *place = verticalScrollBar()->value(); });
+    connect(&list_, &Listbox::modelReset, this, [this, place] {
+        updateGeometries();
+        verticalScrollBar()->setValue(*place);
+    });
+}
+
+void ListboxView::SetColumnWidths(std::initializer_list<int> widths) {
+    int column = 0;
+    for (const int width : widths) {
+        horizontalHeader()->resizeSection(column++, width);
+    }
+}
+
+void ListboxView::ShowSelection() {
+    const QScopedValueRollback<bool> guard(showing_, true);
+    if (list_.ListIndex() < 0) {
+        clearSelection();
+        setCurrentIndex({});
+    } else {
+        selectRow(list_.ListIndex());
+    }
+}
+
+void ListboxView::selectionChanged(const QItemSelection &now, const QItemSelection &before) {
+    QTableView::selectionChanged(now, before);
+    if (!showing_) {
+        const QModelIndexList rows = selectionModel()->selectedRows();
+        list_.SetListIndex(rows.isEmpty() ? -1 : rows.first().row());
+    }
+}
+
+void ListboxView::paintEvent(QPaintEvent *event) {
+    QPainter painter(viewport());
+    int row = std::max(0, rowAt(0));
+    int top = row < list_.ListCount() ? rowViewportPosition(row) : 0;
+    for (; top < viewport()->height(); top += lineHeight) {
+        PaintRow(painter, row++, top);
+    }
+    painter.end();
+    QTableView::paintEvent(event);
+}
+
+void ListboxView::PaintRow(QPainter &painter, int row, int top) {
+    for (int column = 0; column < list_.ColumnCount(); ++column) {
+        PainterGraphics graphics(
+            painter, QRectF(columnViewportPosition(column), top, columnWidth(column), lineHeight));
+        Q_EMIT list_.CellBackgroundPaint(graphics, row, column);
+    }
+}
+
+void ListboxView::mousePressEvent(QMouseEvent *event) {
+    const QModelIndex cell = indexAt(event->position().toPoint());
+    if (cell.isValid() && event->button() == Qt::LeftButton) {
+        Q_EMIT list_.CellClick(cell.row(), cell.column());
+    }
+    QTableView::mousePressEvent(event);
+}
+
+void ListboxView::mouseDoubleClickEvent(QMouseEvent *event) {
+    QTableView::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton) {
+        Q_EMIT list_.DoubleClick();
+    }
+}
+
+void ListboxView::focusOutEvent(QFocusEvent *event) {
+    QTableView::focusOutEvent(event);
+    if (LeavesForGood(*event)) {
+        Q_EMIT list_.LostFocus();
+    }
+}

@@ -1,0 +1,26 @@
+#include "shell/qt/PopupMenuView.h"
+
+#include "platform/PopupMenu.h"
+#include "shell/qt/ControlBinding.h"
+
+#include <QWheelEvent>
+
+PopupMenuView::PopupMenuView(PopupMenu &menu, QWidget *parent) : QComboBox(parent) {
+    setModel(menu.Rows());
+    setFocusPolicy(Qt::StrongFocus);
+    BindControl(menu, *this);
+    const auto show = [this, &menu] { setCurrentIndex(menu.ListIndex()); };
+    show();
+    connect(&menu, &PopupMenu::Updated, this, show);
+    // The first row added would be taken for the selected one.
+    connect(menu.Rows(), &QAbstractItemModel::rowsInserted, this, show);
+    connect(this, &QComboBox::activated, &menu, &PopupMenu::SetListIndex);
+}
+
+void PopupMenuView::wheelEvent(QWheelEvent *event) {
+    if (hasFocus()) {
+        QComboBox::wheelEvent(event);
+    } else {
+        event->ignore();
+    }
+}

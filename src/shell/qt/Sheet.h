@@ -1,0 +1,40 @@
+#pragma once
+
+#include "shell/qt/LockLayout.h"
+
+#include <QColor>
+#include <QString>
+#include <QWidget>
+
+#include <optional>
+
+class Label;
+class QLabel;
+
+/// A surface that widgets are laid out on at given places, in points from its top left corner.
+class Sheet : public QWidget {
+    Q_OBJECT
+
+public:
+    Sheet(QSize design, QWidget *parent);
+
+    struct Frame {
+        QRgb fill;
+        QRgb border;
+    };
+    /// Fills the sheet and draws a line of one point around it.
+    void SetFrame(Frame frame);
+
+    /// Adds a widget; the sheet owns it.
+    void Add(QWidget *widget, const QRect &place, Locks locks = LT);
+    /// Adds a caption that never changes.
+    QLabel *AddCaption(const QString &name, const QString &text, const QRect &place,
+                       Locks locks = LT, Qt::Alignment alignment = Qt::AlignLeft);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    LockLayout *layout_;
+    std::optional<Frame> frame_;
+};

@@ -1,0 +1,14 @@
+#include "core/App.h"
+#include "shell/qt/QtDesktop.h"
+#include "shell/qt/Windows.h"
+#include "shell/qt/ZolmarkApplication.h"
+
+int main(int argc, char *argv[]) {
+    QtDesktop desktop;
+    ZolmarkApplication application(argc, argv, desktop);
+    App app(desktop, UserLocale(QLocale::system()));
+    QLocale::setDefault(app.Locale().Locale());
+    Windows windows(app);
+    windows.Open();
+    return ZolmarkApplication::exec();
+}

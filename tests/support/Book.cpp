@@ -1,0 +1,67 @@
+#include "support/Book.h"
+
+#include "core/Scripts.h"
+
+#include <QProcess>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+Book::Book() : Book(Place::Memory) {}
+
+Book::Book(Place place) : app(desktop, UserLocale(QLocale(QLocale::German, QLocale::Germany))) {
+    SQLiteDatabase &database = app.NewDatabase();
+    if (place == Place::File) {
+        const FolderItem file = app.DefaultDatabaseFile();
+        EXPECT_TRUE(file.Parent().CreateAsFolder());
+        database.SetDatabaseFile(file);
+        database.SetEncryptionKey("rk7WPNdTLqhvM4"_ba);
+    }
+    EXPECT_TRUE(database.CreateDatabaseFile()) << qPrintable(database.ErrorMessage());
+    Run(u"BEGIN TRANSACTION"_s);
+    Run(CashBookDDL());
+    Run(ReferenceDataSQL());
+    Run(ChartSKR03SQL());
+    Run(u"INSERT INTO core_company (id, company, account_frame) VALUES ('1', 'Muster', 'SKR-03')"_s);
+    Run(u"INSERT INTO cash_book (id, name, account, opening_balance, opening_balance_date) "
+        "VALUES ('1', 'Kasse', '1000', '100.00', '2026-01-01')"_s);
+    Run(u"COMMIT"_s);
+}
+
+void Book::Add(const Booking &booking) {
+    DatabaseRecord record;
+    record.SetColumn(u"vdate"_s, booking.date);
+    record.SetColumn(u"type"_s, booking.type);
+    record.SetColumn(u"amount"_s, booking.amount);
+    record.SetColumn(u"tax"_s, booking.tax);
+    record.SetColumn(u"category"_s, booking.category);
+    record.SetColumn(u"salesnumber"_s, booking.number);
+    record.SetColumn(u"note"_s, booking.note);
+    record.SetColumn(u"cashbookID"_s, booking.cashbook);
+    record.SetColumn(u"account"_s, booking.account);
+    app.kvoDB().InsertRecord(u"cash_journal"_s, record);
+    EXPECT_FALSE(app.kvoDB().Error()) << qPrintable(app.kvoDB().ErrorMessage());
+}
+
+void Book::Run(const QString &sql) {
+    app.kvoDB().SQLExecute(sql);
+    EXPECT_FALSE(app.kvoDB().Error()) << qPrintable(app.kvoDB().ErrorMessage());
+}
+
+QString Book::Value(const QString &sql) {
+    const auto records = app.kvoDB().SQLSelect(sql);
+    EXPECT_TRUE(records) << qPrintable(app.kvoDB().ErrorMessage());
+    return records ? records->IdxField(1).StringValue() : QString();
+}
+
+QString ReadWithShell(const QString &file, const QString &sql) {
+    QProcess shell;
+    shell.start(u"sqlcipher"_s, {file});
+    shell.write("PRAGMA key = 'rk7WPNdTLqhvM4';\nPRAGMA cipher_compatibility = 3;\n");
+    shell.write(sql.toUtf8() + ";\n");
+    shell.closeWriteChannel();
+    EXPECT_TRUE(shell.waitForFinished());
+    // Newer shells answer "ok" to the key.
+    QString output = QString::fromUtf8(shell.readAllStandardOutput());
+    return output.startsWith(u"ok\n"_s) ? output.mid(3) : output;
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "core/App.h"
+#include "support/FakeDesktop.h"
+
+#include <QString>
+
+/// A booking to put into a book; the amount and the date as the database stores them.
+struct Booking {
+    QString date;
+    QString type;
+    QString amount;
+    QString tax = QStringLiteral("3");
+    QString category = QStringLiteral("Erlöse 19% USt");
+    QString cashbook = QStringLiteral("1");
+    QString account = QStringLiteral("8400");
+    QString number = {};
+    QString note = {};
+};
+
+/// An application on an open book: schema, reference data and the chart SKR-03, one company, and
+/// one cash book, 1000:Kasse, that opens with 100.00 on 2026-01-01.
+class Book {
+public:
+    /// In memory.
+    Book();
+    /// In the default file of the desktop.
+    enum class Place { Memory, File };
+    explicit Book(Place place);
+
+    FakeDesktop desktop;
+    App app;
+
+    void Add(const Booking &booking);
+    /// Runs a statement, which must not fail.
+    void Run(const QString &sql);
+    /// The first column of the first row, as text.
+    QString Value(const QString &sql);
+};
+
+/// Runs the standard sqlcipher shell on a keyed book and gives what it prints for the statement.
+QString ReadWithShell(const QString &file, const QString &sql);

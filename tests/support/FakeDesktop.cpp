@@ -1,0 +1,7 @@
+#include "support/FakeDesktop.h"
+
+using namespace Qt::StringLiterals;
+
+FolderItem FakeDesktop::ApplicationData() const {
+    return FolderItem(Path(u"data"_s));
+}
