@@ -1,0 +1,117 @@
+#include "platform/DateControl.h"
+
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A control that shows the given day, on 15 March 2026.
+struct Field : DateControl {
+    explicit Field(const QString &day)
+        : DateControl(u"DateField"_s, *Date::FromSQL(day),
+                      [] { return Date(QDateTime(QDate(2026, 3, 15), QTime(12, 0))); }) {}
+
+    QString Shown() const { return DateValue().SQLDate(); }
+};
+
+TEST(DateControl, ReadsEveryFormOfADay) {
+    const struct {
+        QString typed;
+        QString day;
+    } cases[] = {
+        {u"0102"_s, u"2025-02-01"_s},        {u"010226"_s, u"2026-02-01"_s},
+        {u"01022026"_s, u"2026-02-01"_s},    {u"1.2."_s, u"2025-02-01"_s},
+        {u"1.2"_s, u"2025-02-01"_s},         {u"1.2.26"_s, u"2026-02-01"_s},
+        {u"01.02.2026"_s, u"2026-02-01"_s},  {u"2026-02-01"_s, u"2026-02-01"_s},
+        {u"7"_s, u"2025-11-07"_s},           {u"07"_s, u"2025-11-07"_s},
+        {u" 31.12.99\n"_s, u"2099-12-31"_s}, {u"1.1.00"_s, u"2000-01-01"_s},
+        {u"29.2.24"_s, u"2024-02-29"_s},     {u"01.01.1999"_s, u"1999-01-01"_s},
+        {u"31.12.9999"_s, u"9999-12-31"_s},  {u"01.01.0001"_s, u"0001-01-01"_s},
+    };
+    for (const auto &each : cases) {
+        Field field(u"2025-11-15"_s);
+        EXPECT_TRUE(field.SetTyped(each.typed)) << qPrintable(each.typed);
+        EXPECT_EQ(field.Shown(), each.day) << qPrintable(each.typed);
+    }
+}
+
+TEST(DateControl, KeepsItsDayWhenTheTextIsNoDay) {
+    const QString cases[] = {
+        u""_s,           u" "_s,          u"31.02."_s,   u"29.2."_s,     u"29.02.2026"_s,
+        u"0.1."_s,       u"1.13."_s,      u"1.0."_s,     u"31"_s,        u"00"_s,
+        u"3102"_s,       u"0113"_s,       u"102"_s,      u"01022"_s,     u"0102202"_s,
+        u"010220260"_s,  u"1.2.6"_s,      u"1.2.026"_s,  u"1.2.12026"_s, u"1.2.2026."_s,
+        u"1..2"_s,       u".2"_s,         u"1.2.-26"_s,  u"-1"_s,        u"1-2-2026"_s,
+        u"2026-13-01"_s, u"2026-02-30"_s, u"26-02-01"_s, u"2026-02"_s,   u"2026-02-01-"_s,
+        u"1/2/2026"_s,   u"1. 2. 2026"_s, u"abc"_s,      u"1.2.2026x"_s, u"01.01.0000"_s,
+        u"١.٢.٢٠٢٦"_s,
+    };
+    for (const QString &typed : cases) {
+        Field field(u"2025-11-15"_s);
+        const QSignalSpy updates(&field, &Control::Updated);
+        EXPECT_FALSE(field.SetTyped(typed)) << qPrintable(typed);
+        EXPECT_EQ(field.Shown(), u"2025-11-15"_s) << qPrintable(typed);
+        EXPECT_TRUE(updates.isEmpty());
+    }
+}
+
+TEST(DateControl, StepsAcrossMonthsAndYears) {
+    const struct {
+        QString start;
+        int days;
+        int months;
+        QString end;
+    } cases[] = {
+        {u"2025-11-30"_s, 1, 0, u"2025-12-01"_s}, {u"2026-01-01"_s, -1, 0, u"2025-12-31"_s},
+        {u"2024-02-28"_s, 1, 0, u"2024-02-29"_s}, {u"2025-02-28"_s, 1, 0, u"2025-03-01"_s},
+        {u"2025-12-31"_s, 0, 1, u"2026-01-31"_s}, {u"2026-01-15"_s, 0, -1, u"2025-12-15"_s},
+        {u"2025-01-31"_s, 0, 1, u"2025-02-28"_s}, {u"2024-03-31"_s, 0, -1, u"2024-02-29"_s},
+        {u"9999-12-31"_s, 1, 0, u"9999-12-31"_s}, {u"0001-01-01"_s, -1, 0, u"0001-01-01"_s},
+        {u"9999-12-31"_s, 0, 1, u"9999-12-31"_s},
+    };
+    for (const auto &each : cases) {
+        Field field(each.start);
+        field.Step(each.days);
+        field.StepMonths(each.months);
+        EXPECT_EQ(field.Shown(), each.end) << qPrintable(each.start);
+    }
+}
+
+TEST(DateControl, ReplacesTheYearAlone) {
+    Field field(u"2024-02-29"_s);
+    field.SetYear(2028);
+    EXPECT_EQ(field.Shown(), u"2028-02-29"_s);
+    field.SetYear(2026);
+    EXPECT_EQ(field.Shown(), u"2026-02-28"_s);
+    EXPECT_EQ(field.Year(), 2026);
+    EXPECT_EQ(field.Month(), 2);
+    EXPECT_EQ(field.Day(), 28);
+}
+
+TEST(DateControl, GivesADayOfItsOwn) {
+    Field field(u"2025-11-15"_s);
+    const Date before = field.DateValue();
+    field.Today();
+    EXPECT_EQ(before, Date(QDate(2025, 11, 15)));
+    // Without the hour of the clock.
+    EXPECT_EQ(field.DateValue(), Date(QDate(2026, 3, 15)));
+}
+
+TEST(DateControl, TellsOfAnotherDayOnly) {
+    Field field(u"2026-03-15"_s);
+    const QSignalSpy updates(&field, &Control::Updated);
+    field.SetDateValue(Date(QDateTime(QDate(2026, 3, 15), QTime(8, 0))));
+    field.SetDateValue(Date(QDate()));
+    field.SetTyped(u"15.3."_s);
+    field.SetYear(2026);
+    field.Step(0);
+    field.Today();
+    EXPECT_EQ(updates.count(), 0);
+    field.SetDateValue(Date(QDate(2026, 3, 14)));
+    EXPECT_EQ(updates.count(), 1);
+    EXPECT_EQ(field.Shown(), u"2026-03-14"_s);
+}
+
+} // namespace
