@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QLineEdit>
+
+class DateControl;
+class QAbstractButton;
+class UserLocale;
+
+/// Shows a DateControl: a day to type over, to step with keys and wheel, or to choose in a
+/// calendar. A text that is no day is refused for all to see and never reaches the control.
+class DateControlView : public QLineEdit {
+    Q_OBJECT
+
+public:
+    DateControlView(DateControl &control, const UserLocale &locale, QWidget *parent);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    /// The wheel changes nothing while the focus is elsewhere.
+    void wheelEvent(QWheelEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    /// Shows the control's day in place of what was typed.
+    void ShowDay();
+    void ShowRefused(bool refused);
+    /// At once, and whenever the mouse rests on the field; empty for none.
+    void ShowTip(const QString &tip);
+    /// Hands the typed text to the control; false if it had to be refused.
+    bool TakeTyped();
+    /// Hands the typed text to the control, or drops it.
+    void Leave();
+
+    bool TakeKey(const QKeyEvent &event);
+    bool StepBy(int key);
+    void Step(void (DateControl::*step)(int), int count);
+    bool TypesISO() const;
+    void OpenCalendar();
+
+    DateControl &control_;
+    const UserLocale &locale_;
+    QAbstractButton *button_;
+    bool refused_ = false;
+    /// From the press that brought the focus to its release.
+    bool focusingClick_ = false;
+    /// What the wheel has turned beyond the last whole step, in eighths of a degree.
+    int wheelRest_ = 0;
+};
