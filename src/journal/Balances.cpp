@@ -48,10 +48,11 @@ void Balances::ReCalcAmount() {
                         selectors_.PeriodStartSQL() + u"' AND "_s + selectors_.CashbookCondition();
     const auto records = app_.kvoDB().SQLSelect(sql);
     DebugLog(sql);
+    // The rows are read one by one, so that a damaged page shows only on the way.
+    const Currency start = opening + (records ? SumOf(*records) : Currency());
     if (app_.ReportError()) {
         return;
     }
-    const Currency start = opening + SumOf(*records);
     OpeningBalanceLabel.SetText(app_.Locale().FormatBalance(start.ToDouble()));
     RunBalance(start);
     const Listbox &list = journal_.CashList;

@@ -40,7 +40,8 @@ Currency operator+(Currency a, Currency b) {
 Currency operator-(Currency a, Currency b) {
     qint64 difference = 0;
     if (__builtin_sub_overflow(a.tenThousandths_, b.tenThousandths_, &difference)) {
-        return Currency(a.tenThousandths_ > 0 ? largest : smallest);
+        // Taking the smallest from 0 overflows upwards.
+        return Currency(a.tenThousandths_ >= 0 ? largest : smallest);
     }
     return Currency(difference);
 }

@@ -63,7 +63,7 @@ void Listbox::SetSelected(int row, bool selected) {
 
 QString Listbox::Cell(int row, int column) const {
     if (row >= 0) {
-        if (!Has(row)) {
+        if (!Has(row) || column >= columnCount_) {
             return {};
         }
         return column < 0 ? Joined(At(row)) : At(row).cells[static_cast<size_t>(column)];

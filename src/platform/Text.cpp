@@ -1,8 +1,6 @@
 #include "platform/Text.h"
 
 #include <charconv>
-#include <cmath>
-#include <limits>
 
 double Val(QStringView text) {
     const QByteArray number = text.trimmed().toUtf8();
@@ -17,10 +15,8 @@ double Val(QStringView text) {
         return 0;
     }
     double value = 0;
-    if (std::from_chars(begin, end, value).ec == std::errc::result_out_of_range) {
-        const bool tiny = number.toLower().contains("e-");
-        value = tiny ? 0 : std::numeric_limits<double>::infinity();
-    }
+    // A number beyond the range of a double stays 0, as what is not finite counts everywhere else.
+    std::from_chars(begin, end, value);
     return negative ? -value : value;
 }
 

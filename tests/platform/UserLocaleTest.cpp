@@ -9,11 +9,7 @@ namespace {
 const UserLocale german(QLocale(QLocale::German, QLocale::Germany));
 
 TEST(UserLocale, RoundsHalfAwayFromZeroOnTheShortestText) {
-    const struct {
-        double value;
-        QString amount;
-        QString balance;
-    } cases[] = {
+    const std::tuple<double, QString, QString> cases[] = {
         {0, u"0,00"_s, u",00"_s},
         {0.5, u"0,50"_s, u",50"_s},
         {-0.5, u"-0,50"_s, u"-,50"_s},
@@ -28,9 +24,30 @@ TEST(UserLocale, RoundsHalfAwayFromZeroOnTheShortestText) {
         {1e15, u"1000000000000000,00"_s, u"1000000000000000,00"_s},
         {5e-324, u"0,00"_s, u",00"_s},
     };
-    for (const auto &each : cases) {
-        EXPECT_EQ(german.FormatAmount(each.value), each.amount);
-        EXPECT_EQ(german.FormatBalance(each.value), each.balance);
+    for (const auto &[value, amount, balance] : cases) {
+        EXPECT_EQ(german.FormatAmount(value), amount);
+        EXPECT_EQ(german.FormatBalance(value), balance);
+    }
+}
+
+TEST(UserLocale, ReadsTheShortDatesThatItWrites) {
+    const std::pair<QLocale, QString> cases[] = {
+        {QLocale(QLocale::German, QLocale::Germany), u"-1234,50"_s},
+        {QLocale(QLocale::German, QLocale::Austria), u"-1234,50"_s},
+        {QLocale(QLocale::German, QLocale::Switzerland), u"-1234.50"_s},
+        {QLocale(QLocale::English, QLocale::UnitedStates), u"-1234,50"_s},
+        {QLocale::c(), u"-1234,50"_s}};
+    for (const auto &[desktop, amount] : cases) {
+        const UserLocale locale(desktop);
+        EXPECT_EQ(locale.FormatAmount(-1234.5), amount);
+        EXPECT_EQ(locale.LongDate(Date(QDate(2026, 3, 1))), u"Sonntag, 1. März 2026"_s);
+        EXPECT_EQ(locale.ShortDate(Date(QDate(2026, 3, 1))), u"01.03.2026"_s);
+        for (const QDate day : {QDate(1949, 12, 31), QDate(2026, 3, 1), QDate(2124, 2, 29)}) {
+            EXPECT_EQ(locale.ParseDate(locale.ShortDate(Date(day))), std::optional(Date(day)));
+        }
+        for (const auto &text : {u""_s, u"31.02.2026"_s, u"2026-03-01"_s, u"gestern"_s}) {
+            EXPECT_FALSE(locale.ParseDate(text)) << qPrintable(text);
+        }
     }
 }
 

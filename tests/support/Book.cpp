@@ -15,7 +15,7 @@ Book::Book(Place place) : app(desktop, UserLocale(QLocale(QLocale::German, QLoca
         const FolderItem file = app.DefaultDatabaseFile();
         EXPECT_TRUE(file.Parent().CreateAsFolder());
         database.SetDatabaseFile(file);
-        database.SetEncryptionKey("rk7WPNdTLqhvM4"_ba);
+        database.SetEncryptionKey(fixedKey);
     }
     EXPECT_TRUE(database.CreateDatabaseFile()) << qPrintable(database.ErrorMessage());
     Run(u"BEGIN TRANSACTION"_s);
@@ -57,7 +57,7 @@ QString Book::Value(const QString &sql) {
 QString ReadWithShell(const QString &file, const QString &sql) {
     QProcess shell;
     shell.start(u"sqlcipher"_s, {file});
-    shell.write("PRAGMA key = 'rk7WPNdTLqhvM4';\nPRAGMA cipher_compatibility = 3;\n");
+    shell.write("PRAGMA key = '" + fixedKey + "';\nPRAGMA cipher_compatibility = 3;\n");
     shell.write(sql.toUtf8() + ";\n");
     shell.closeWriteChannel();
     EXPECT_TRUE(shell.waitForFinished());

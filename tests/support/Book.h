@@ -38,5 +38,8 @@ public:
     QString Value(const QString &sql);
 };
 
+/// The key of every book.
+inline const QByteArray fixedKey("rk7WPNdTLqhvM4");
+
 /// Runs the standard sqlcipher shell on a keyed book and gives what it prints for the statement.
 QString ReadWithShell(const QString &file, const QString &sql);

@@ -2,12 +2,18 @@
 
 #include <QStringList>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 QString RowHasGone() {
     return u"Der Datensatz ist nicht mehr vorhanden."_s;
+}
+
+QString ColumnIsMissing() {
+    return u"In der Datenbank fehlt eine Spalte."_s;
 }
 
 } // namespace
@@ -56,6 +62,11 @@ void RecordSet::Edit() {
 
 void RecordSet::Update() {
     if (AtEnd() || changes_.empty()) {
+        return;
+    }
+    const auto isKnown = [this](const auto &change) { return Knows(change.first); };
+    if (!std::all_of(changes_.begin(), changes_.end(), isKnown)) {
+        statement_->Owner()->NoteFailure(ColumnIsMissing());
         return;
     }
     Statement update(statement_->Owner(), UpdateText());

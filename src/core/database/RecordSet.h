@@ -25,7 +25,7 @@ public:
     /// The number of all rows. Runs the query once more to count them, then returns to its row.
     int RecordCount();
 
-    /// A column by name. One that the query lacks reads as empty.
+    /// A column by name. One that the query lacks reads as empty, and lets Update fail.
     DatabaseField Field(QLatin1StringView name);
     /// A column by position, from 1.
     DatabaseField IdxField(int position) { return {*this, position - 1}; }
@@ -44,9 +44,10 @@ private:
         bool isBoolean;
     };
 
-    bool CanRead(int column) const {
-        return hasRow_ && column >= 0 && column < static_cast<int>(columns_.size());
+    bool Knows(int column) const {
+        return column >= 0 && column < static_cast<int>(columns_.size());
     }
+    bool CanRead(int column) const { return hasRow_ && Knows(column); }
     bool IsBoolean(int column) const { return columns_[static_cast<size_t>(column)].isBoolean; }
     QString UpdateText() const;
 

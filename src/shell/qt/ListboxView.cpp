@@ -67,6 +67,13 @@ void ListboxView::ShowSelection() {
     }
 }
 
+QModelIndex ListboxView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    if (action == MoveHome || action == MoveEnd) {
+        return list_.index(action == MoveHome ? 0 : list_.LastIndex(), 0);
+    }
+    return QTableView::moveCursor(action, modifiers);
+}
+
 void ListboxView::selectionChanged(const QItemSelection &now, const QItemSelection &before) {
     QTableView::selectionChanged(now, before);
     if (!showing_) {

@@ -1,0 +1,81 @@
+#include "support/Book.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class RecordSetTest : public testing::Test {
+protected:
+    RecordSetTest() {
+        book.Add({u"2026-01-01"_s, u"E"_s, u"1"_s});
+        book.Add({u"2026-01-02"_s, u"E"_s, u"2"_s});
+    }
+
+    Book book;
+    SQLiteDatabase &database = book.app.kvoDB();
+};
+
+TEST_F(RecordSetTest, CountsItsRowsAndStaysWhereItIs) {
+    const auto records = database.SQLSelect(u"SELECT * FROM cash_tax LIMIT 3"_s);
+    auto id = records->Field("ID"_L1);
+    for (const auto &expected : {u"1"_s, u"2"_s, u"3"_s, u""_s}) {
+        EXPECT_EQ(records->RecordCount(), 3);
+        EXPECT_EQ(id.StringValue(), expected);
+        records->MoveNext();
+    }
+    EXPECT_TRUE(records->AtEnd());
+    EXPECT_EQ(database.SQLSelect(u"SELECT * FROM cash_tax WHERE 0"_s)->RecordCount(), 0);
+}
+
+TEST_F(RecordSetTest, WritesOnlyTheFieldsThatWereSet) {
+    const auto records = database.SQLSelect(u"SELECT * FROM cash_journal WHERE id = 2"_s);
+    records->Edit();
+    records->Field("category"_L1).SetStringValue(u"verworfen"_s);
+    records->Edit();
+    records->Field("NOTE"_L1).SetStringValue(u"it's; 'new'"_s);
+    records->Field("amount"_L1).SetStringValue(u"12.50"_s);
+    book.Run(u"UPDATE cash_journal SET category = 'meanwhile', note = 'old'"_s);
+    records->Update();
+    EXPECT_FALSE(database.Error()) << qPrintable(database.ErrorMessage());
+    EXPECT_EQ(book.Value(u"SELECT group_concat(category || note || amount) FROM cash_journal"_s),
+              u"meanwhileold1.0,meanwhileit's; 'new'12.5"_s);
+}
+
+TEST_F(RecordSetTest, TellsWhatCannotBeChanged) {
+    const std::tuple<QString, QLatin1StringView> cases[] = {
+        {u"SELECT * FROM cash_journal WHERE id = 3"_s, "note"_L1}, // No row.
+        {u"SELECT * FROM cash_journal"_s, "missing"_L1},           // No such column.
+        {u"SELECT * FROM cash_journal WHERE id = 2"_s, "note"_L1}};
+    for (const auto &[sql, column] : cases) {
+        const auto records = database.SQLSelect(sql);
+        book.Run(u"DELETE FROM cash_journal WHERE id = 2"_s); // Meanwhile.
+        records->Edit();
+        records->Field(column).SetStringValue(u"x"_s);
+        records->Update();
+        EXPECT_NE(database.ErrorMessage(), u""_s) << qPrintable(sql);
+        book.Run(u"INSERT INTO cash_journal (id) VALUES (2)"_s);
+    }
+}
+
+TEST_F(RecordSetTest, ReadsEveryKindOfValue) {
+    book.Run(u"CREATE TABLE t (flag boolean, amount double, day date)"_s);
+    book.Run(u"INSERT INTO t VALUES ('1', '12.50', '2026-02-28 10:00:00'), "
+             "('0', '12,50', '2026-02-30'), (NULL, NULL, NULL), (2, 'abc', 2026)"_s);
+    const std::tuple<QString, double, bool> rows[] = {{u"True"_s, 12.5, true},
+                                                      {u"False"_s, 12.5, false},
+                                                      {u""_s, 0, false},
+                                                      {u"True"_s, 0, false}};
+    const auto records = database.SQLSelect(u"SELECT * FROM t"_s);
+    for (const auto &[flag, amount, isDate] : rows) {
+        EXPECT_EQ(records->Field("flag"_L1).StringValue(), flag);
+        EXPECT_EQ(records->IdxField(2).DoubleValue(), amount);
+        EXPECT_EQ(records->Field("day"_L1).DateValue().has_value(), isDate);
+        EXPECT_EQ(records->Field("missing"_L1).StringValue(), u""_s);
+        EXPECT_EQ(records->IdxField(0).StringValue() + records->IdxField(4).StringValue(), u""_s);
+        records->MoveNext();
+    }
+}
+
+} // namespace

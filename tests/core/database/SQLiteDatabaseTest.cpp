@@ -1,0 +1,126 @@
+#include "support/Book.h"
+
+#include <QDir>
+#include <gtest/gtest.h>
+
+#include <thread>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray Bytes(const QString &path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+}
+
+/// What Connect answers on a file; a refusal comes with a message.
+bool Connects(const QString &path, const QByteArray &key = fixedKey) {
+    SQLiteDatabase database;
+    database.SetDatabaseFile(FolderItem(path));
+    database.SetEncryptionKey(key);
+    const bool connected = database.Connect();
+    EXPECT_EQ(database.Error(), !connected);
+    EXPECT_EQ(database.ErrorMessage().isEmpty(), connected);
+    return connected;
+}
+
+TEST(SQLiteDatabase, KeepsItsFileFromOthers) {
+    Book book(Book::Place::File);
+    const QFileInfo file(book.app.DefaultDatabaseFile().Path());
+    EXPECT_EQ(file.permissions() & 0x77, QFile::Permissions());
+    EXPECT_EQ(QFileInfo(file.path()).permissions() & 0x77, QFile::Permissions());
+    const QByteArray bytes = Bytes(file.filePath());
+    EXPECT_FALSE(bytes.contains("SQLite format") || bytes.contains("Kasse"));
+}
+
+TEST(SQLiteDatabase, LeavesAFileThatItCannotReadAsItIs) {
+    Book book(Book::Place::File);
+    const QByteArray keyed = Bytes(book.app.DefaultDatabaseFile().Path());
+    const QByteArray text = QByteArray("Kein Kassenbuch. ").repeated(200);
+    QByteArray damaged = keyed;
+    damaged[100] = char(~damaged[100]);
+    const std::tuple<QByteArray, QByteArray, bool> cases[] = {
+        {keyed, fixedKey, true},
+        {"", fixedKey, true},
+        {"xy", fixedKey, false},
+        {text, fixedKey, false},
+        {text, "", false},
+        {keyed, "rk7WPNdTLqhvM5", false},
+        {keyed, "", false},
+        {keyed.left(1500), fixedKey, false}, // Cut in a page and behind one.
+        {keyed.left(4096), fixedKey, false},
+        {damaged, fixedKey, false},
+    };
+    const QDir folder(book.desktop.Path(u"files"_s));
+    ASSERT_TRUE(folder.mkpath(u"."_s));
+    for (const auto &[content, key, opens] : cases) {
+        QFile file(folder.filePath(u"Zolmark.sdb"_s));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        file.close();
+        const auto which = &content - &std::get<0>(cases[0]);
+        EXPECT_EQ(Connects(file.fileName(), key), opens) << which;
+        EXPECT_EQ(Bytes(file.fileName()), content) << which;
+        EXPECT_EQ(folder.entryList(QDir::Files).size(), 1) << which;
+    }
+}
+
+TEST(SQLiteDatabase, RefusesWhatIsNoReadableFile) {
+    const FakeDesktop desktop;
+    EXPECT_FALSE(Connects(desktop.Path(u"nichts"_s)));
+    EXPECT_FALSE(QFile::exists(desktop.Path(u"nichts"_s)));
+    EXPECT_FALSE(Connects(desktop.Path(u"."_s)));
+    QFile closed(desktop.Path(u"zu"_s));
+    ASSERT_TRUE(closed.open(QIODevice::WriteOnly) && closed.setPermissions({}));
+    const uid_t user = geteuid();
+    if (user == 0) { // Who may read everything.
+        ASSERT_EQ(seteuid(65534), 0);
+    }
+    EXPECT_FALSE(Connects(closed.fileName()));
+    ASSERT_EQ(seteuid(user), 0);
+}
+
+TEST(SQLiteDatabase, StopsAScriptAtItsFirstFailingStatement) {
+    Book book;
+    book.app.kvoDB().SQLExecute(u"UPDATE cash_book SET name = 'a'; INSERT INTO missing VALUES (1);"
+                                "UPDATE cash_book SET name = 'b'"_s);
+    EXPECT_TRUE(book.app.kvoDB().ErrorMessage().contains(u"missing"_s));
+    EXPECT_EQ(book.Value(u"SELECT name FROM cash_book"_s), u"a"_s);
+    EXPECT_FALSE(book.app.kvoDB().Error());
+}
+
+TEST(SQLiteDatabase, InsertsAnyTextAsItIs) {
+    Book book;
+    for (const QString &text :
+         {u"O'Neill; DROP TABLE cash_journal; --"_s, u"ß"_s.repeated(99999),
+          u"🧾 \U0001F469\u200D\U0001F4BB e\u0301 „\"%1\t?1\n"_s, QString()}) {
+        book.Add({.date = u"2026-01-01"_s, .type = u"E"_s, .amount = u"12.50"_s, .note = text});
+        const QString row = QString::number(book.app.kvoDB().LastRowID());
+        EXPECT_EQ(book.Value(u"SELECT note FROM cash_journal WHERE id = "_s + row), text);
+    }
+    EXPECT_EQ(book.Value(u"SELECT count(note) || min(typeof(amount)) FROM cash_journal"_s),
+              u"4real"_s);
+}
+
+TEST(SQLiteDatabase, WaitsForAnotherProgramsLockButNotForEver) {
+    Book book(Book::Place::File);
+    SQLiteDatabase other;
+    other.SetDatabaseFile(book.app.DefaultDatabaseFile());
+    other.SetEncryptionKey(fixedKey);
+    ASSERT_TRUE(other.Connect());
+    other.SQLExecute(u"BEGIN EXCLUSIVE"_s);
+    book.app.kvoDB().SQLExecute(u"UPDATE cash_book SET name = 'zu früh'"_s);
+    EXPECT_TRUE(book.app.ReportError());
+    std::thread release([&other] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        other.Commit();
+    });
+    book.Run(u"UPDATE cash_book SET name = 'Laden'"_s);
+    release.join();
+    EXPECT_EQ(book.Value(u"SELECT name FROM cash_book"_s), u"Laden"_s);
+}
+
+} // namespace
