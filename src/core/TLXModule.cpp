@@ -65,14 +65,21 @@ int GetRowTag(const SelectionControl &list, const QString &tag) {
     return -1;
 }
 
-int IndexOf(SelectionControl &list, const QString &text) {
+int FindText(const SelectionControl &list, const QString &text) {
     for (int row = 0; row < list.ListCount(); ++row) {
         if (SameText(list.List(row), text)) {
-            list.SetListIndex(row);
             return row;
         }
     }
     return -1;
+}
+
+int IndexOf(SelectionControl &list, const QString &text) {
+    const int row = FindText(list, text);
+    if (row >= 0) {
+        list.SetListIndex(row);
+    }
+    return row;
 }
 
 } // namespace TLXModule

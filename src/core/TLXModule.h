@@ -33,6 +33,8 @@ extern const std::array<MonthTag, 13> MonthTagTable;
 
 /// The index of the first row with the tag, -1 if there is none. Selects nothing.
 int GetRowTag(const SelectionControl &list, const QString &tag);
+/// The index of the first row with the text, -1 if there is none. Selects nothing.
+int FindText(const SelectionControl &list, const QString &text);
 /// The index of the first row with the text, which it selects; -1 and no change if there is none.
 int IndexOf(SelectionControl &list, const QString &text);
 

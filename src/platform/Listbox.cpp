@@ -187,7 +187,7 @@ QVariant Listbox::data(const QModelIndex &index, int role) const {
     }
     if (role == Qt::TextAlignmentRole) {
         const bool right = alignments_[static_cast<size_t>(index.column())] == Alignment::Right;
-        return QVariant(Qt::AlignVCenter | (right ? Qt::AlignRight : Qt::AlignLeft));
+        return {Qt::AlignVCenter | (right ? Qt::AlignRight : Qt::AlignLeft)};
     }
     return {};
 }

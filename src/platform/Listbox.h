@@ -9,6 +9,8 @@
 #include <variant>
 #include <vector>
 
+class MenuItem;
+
 /// A list of rows with a text in each cell, at most one row selected. It is the model that its view
 /// shows. Rows and columns count from 0, -1 is none; outside the list cells and tags read as empty.
 class Listbox : public QAbstractTableModel {
@@ -83,6 +85,10 @@ Q_SIGNALS:
     void CellBackgroundPaint(Graphics &graphics, int row, int column);
     /// Asks how two rows compare: the handler sets the result to -1, 0 or 1 and handled to true.
     void CompareRows(int first, int second, int column, int &result, bool &handled);
+
+    /// Asks for a context menu: the handler appends its entries to the base.
+    void ConstructContextualMenu(MenuItem &base);
+    void ContextualMenuAction(const MenuItem &chosen);
 
     /// For the view: the selected row is another. Follows every end of a Refill too.
     void SelectionMoved();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "journal/Balances.h"
+#include "journal/EntryRow.h"
 #include "journal/Journal.h"
 #include "journal/Selectors.h"
 
@@ -18,7 +19,22 @@ public:
     Selectors selectors;
     Journal journal;
     Balances balances;
+    EntryRow entryRow;
 
     /// Runs once, when the window with all its controls is there.
     void Event_Open();
+
+    /// Whether the commands that work on a booking are open: a click in the list opens them, and
+    /// they close when the focus leaves the list.
+    bool MenuItemEnable() const { return menuItemEnable_; }
+
+Q_SIGNALS:
+    void MenuItemEnableChanged();
+
+private:
+    void CashList_CellClick();
+    void CashList_LostFocus();
+    void SetMenuItemEnable(bool enable);
+
+    bool menuItemEnable_ = false;
 };

@@ -25,7 +25,7 @@ protected:
 
     Book book;
     MainWindow window{book.app};
-    MainWindowView view{window};
+    MainWindowView view{window, book.app.Locale()};
     QTableView &list = *view.findChild<QTableView *>(u"CashList"_s);
 };
 

@@ -2,6 +2,7 @@
 
 #include "core/App.h"
 #include "support/FakeDesktop.h"
+#include "support/PrintText.h"
 
 #include <QString>
 

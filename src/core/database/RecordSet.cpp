@@ -46,9 +46,9 @@ int RecordSet::RecordCount() {
     return count;
 }
 
-DatabaseField RecordSet::Field(QLatin1StringView name) {
+DatabaseField RecordSet::Field(QAnyStringView name) {
     for (size_t column = 0; column < columns_.size(); ++column) {
-        if (name.compare(QLatin1StringView(columns_[column].name), Qt::CaseInsensitive) == 0) {
+        if (QAnyStringView::compare(name, columns_[column].name, Qt::CaseInsensitive) == 0) {
             return {*this, static_cast<int>(column)};
         }
     }

@@ -3,6 +3,7 @@
 #include "core/database/DatabaseField.h"
 #include "core/database/Statement.h"
 
+#include <QAnyStringView>
 #include <QByteArray>
 #include <QString>
 
@@ -26,7 +27,7 @@ public:
     int RecordCount();
 
     /// A column by name. One that the query lacks reads as empty, and lets Update fail.
-    DatabaseField Field(QLatin1StringView name);
+    DatabaseField Field(QAnyStringView name);
     /// A column by position, from 1.
     DatabaseField IdxField(int position) { return {*this, position - 1}; }
 

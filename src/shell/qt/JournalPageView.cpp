@@ -1,10 +1,18 @@
 #include "shell/qt/JournalPageView.h"
 
 #include "shell/MainWindow.h"
+#include "shell/qt/AmountFieldView.h"
+#include "shell/qt/ComboBoxView.h"
+#include "shell/qt/ControlBinding.h"
+#include "shell/qt/DateControlView.h"
 #include "shell/qt/LabelView.h"
 #include "shell/qt/ListboxView.h"
 #include "shell/qt/MainWindowView.h"
 #include "shell/qt/PopupMenuView.h"
+#include "shell/qt/PushButtonView.h"
+#include "shell/qt/TextFieldView.h"
+
+#include <QKeyEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -14,11 +22,70 @@ constexpr Sheet::Frame frameOfControls{0xffececec, 0xffcccccc};
 
 } // namespace
 
-JournalPageView::JournalPageView(MainWindow &window, QWidget *parent)
-    : Sheet(MainWindowView::designSize, parent) {
-    AddSelectors(window);
+JournalPageView::JournalPageView(MainWindow &window, const UserLocale &locale, QWidget *parent)
+    : Sheet(MainWindowView::designSize, parent), entryRow_(window.entryRow) {
+    // In the order of the Tab key.
+    AddCaptions(window.entryRow);
+    AddEntryRow(window.entryRow, locale);
+    AddButtons(window.entryRow);
+    AddErrorBar(window.entryRow);
     AddCashList(window);
+    AddSelectors(window);
     AddBalances(window);
+}
+
+void JournalPageView::AddCaptions(EntryRow &row) {
+    AddCaption(u"CashLabel(6)"_s, u"Datum"_s, {20, 86, 80, 20});
+    AddCaption(u"CashLabel(5)"_s, u"Einnahme"_s, {141, 86, 62, 20});
+    AddCaption(u"CashLabel(4)"_s, u"Ausgabe"_s, {211, 86, 58, 20});
+    AddCaption(u"CashLabel(3)"_s, u"Steuer"_s, {281, 86, 58, 20});
+    Add(new LabelView(row.CategoryLabel, this), {370, 86, 148, 20});
+    AddCaption(u"CashLabel(1)"_s, u"Beleg-Nr."_s, {552, 86, 60, 20});
+    AddCaption(u"CashLabel(0)"_s, u"Notiz"_s, {626, 86, 137, 20});
+}
+
+void JournalPageView::AddEntryRow(EntryRow &row, const UserLocale &locale) {
+    Add(new DateControlView(row.DateField, locale, this), {20, 110, 108, 23});
+    Add(new AmountFieldView(row.InputField, this), {141, 110, 60, 22});
+    Add(new AmountFieldView(row.OutputField, this), {211, 110, 60, 22});
+    Add(new ComboBoxView(row.pickLists.TaxCombo, this), {281, 110, 80, 21});
+    Add(new ComboBoxView(row.pickLists.CategoryCombo, this), {370, 110, 169, 21});
+    Add(new TextFieldView(row.SaleNumberField, this), {552, 110, 60, 22});
+    Add(new TextFieldView(row.NoteField, this), {626, 110, 277, 22}, LTR);
+}
+
+void JournalPageView::AddButtons(EntryRow &row) {
+    // The last two share the place of the first; only it or they show.
+    Add(new PushButtonView(row.SubmitButton, this), {915, 110, 145, 20}, TR);
+    Add(new PushButtonView(row.CancelButton, this), {978, 110, 82, 20}, TR);
+    Add(new PushButtonView(row.ChangeButton, this), {915, 110, 59, 20}, TR);
+}
+
+void JournalPageView::AddErrorBar(EntryRow &row) {
+    auto *bar = new Sheet({471, 20}, this);
+    bar->SetFrame({0xffff0000, 0xffff0000});
+    BindControl(row.ErrorRect, *bar);
+    auto *message = new LabelView(row.ErrorLabel, bar);
+    QPalette colours = message->palette();
+    colours.setColor(QPalette::WindowText, Qt::white);
+    message->setPalette(colours);
+    bar->Add(message, {13, 0, 448, 18});
+    Add(bar, {141, 135, 471, 20});
+}
+
+void JournalPageView::keyPressEvent(QKeyEvent *event) {
+    const bool accepts = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool rejects = event->key() == Qt::Key_Escape;
+    for (PushButton *button :
+         {&entryRow_.SubmitButton, &entryRow_.ChangeButton, &entryRow_.CancelButton}) {
+        const bool wanted = (accepts && button->Kind() == PushButton::Role::Default) ||
+                            (rejects && button->Kind() == PushButton::Role::Cancel);
+        if (wanted && button->Visible()) {
+            button->Press();
+            return;
+        }
+    }
+    Sheet::keyPressEvent(event);
 }
 
 void JournalPageView::AddSelectors(MainWindow &window) {

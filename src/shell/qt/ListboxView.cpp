@@ -1,25 +1,42 @@
 #include "shell/qt/ListboxView.h"
 
 #include "platform/Listbox.h"
+#include "platform/MenuItem.h"
 #include "shell/qt/ControlBinding.h"
 #include "shell/qt/PainterGraphics.h"
 
+#include <QContextMenuEvent>
 #include <QFocusEvent>
 #include <QHeaderView>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 
 namespace {
 
 constexpr int lineHeight = 18;
+
+/// The row is what is selected: no cell of it is marked on its own.
+class RowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->state &= ~QStyle::State_HasFocus;
+    }
+};
 
 } // namespace
 
 ListboxView::ListboxView(Listbox &list, QWidget *parent) : QTableView(parent), list_(list) {
     setObjectName(list.objectName());
     setModel(&list);
+    setItemDelegate(new RowDelegate(this));
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
@@ -114,6 +131,23 @@ void ListboxView::mouseDoubleClickEvent(QMouseEvent *event) {
     if (event->button() == Qt::LeftButton) {
         Q_EMIT list_.DoubleClick();
     }
+}
+
+void ListboxView::contextMenuEvent(QContextMenuEvent *event) {
+    if (event->reason() == QContextMenuEvent::Mouse) {
+        if (const QModelIndex cell = indexAt(event->pos()); cell.isValid()) {
+            list_.SetListIndex(cell.row());
+        }
+    }
+    const auto base = std::make_shared<MenuItem>();
+    Q_EMIT list_.ConstructContextualMenu(*base);
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (int item = 0; item < base->Count(); ++item) {
+        connect(menu->addAction(base->Item(item).Text()), &QAction::triggered, this,
+                [this, base, item] { Q_EMIT list_.ContextualMenuAction(base->Item(item)); });
+    }
+    menu->popup(event->globalPos());
 }
 
 void ListboxView::focusOutEvent(QFocusEvent *event) {

@@ -21,6 +21,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     /// Home and End go to the first and the last row: rows are chosen whole.
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;

@@ -22,13 +22,13 @@ QPalette GivenColours(QPalette palette) {
 
 } // namespace
 
-MainWindowView::MainWindowView(MainWindow &window) {
+MainWindowView::MainWindowView(MainWindow &window, const UserLocale &locale) {
     setObjectName(u"MainWindow"_s);
     setWindowTitle(u"Kassenbuch"_s);
     setPalette(GivenColours(palette()));
     auto *pages = new QStackedWidget(this);
     pages->setObjectName(u"PagePanel1"_s);
-    pages->addWidget(new JournalPageView(window, pages));
+    pages->addWidget(new JournalPageView(window, locale, pages));
     setCentralWidget(pages);
     setMinimumSize(64, 64);
     resize(sizeHint().boundedTo(screen()->availableSize()));

@@ -3,6 +3,7 @@
 #include <QMainWindow>
 
 class MainWindow;
+class UserLocale;
 
 /// The main window on the desktop.
 class MainWindowView : public QMainWindow {
@@ -12,5 +13,5 @@ public:
     /// The size of its pages, in points, at which every control has its design place.
     static constexpr QSize designSize{1080, 770};
 
-    explicit MainWindowView(MainWindow &window);
+    MainWindowView(MainWindow &window, const UserLocale &locale);
 };

@@ -1,5 +1,6 @@
 #include "shell/qt/Windows.h"
 
+#include "core/App.h"
 #include "setup/WelcomeWindow.h"
 #include "shell/MainWindow.h"
 #include "shell/qt/MainWindowView.h"
@@ -21,7 +22,7 @@ void Windows::Open() {
 
 void Windows::ShowMainWindow() {
     mainWindow_ = std::make_unique<MainWindow>(app_);
-    mainView_ = std::make_unique<MainWindowView>(*mainWindow_);
+    mainView_ = std::make_unique<MainWindowView>(*mainWindow_, app_.Locale());
     mainWindow_->Event_Open();
     mainView_->show();
 }

@@ -1,0 +1,93 @@
+#include "shell/qt/ComboBoxView.h"
+
+#include "core/TLXModule.h"
+#include "platform/ComboBox.h"
+#include "shell/qt/ControlBinding.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QWheelEvent>
+
+ComboBoxView::ComboBoxView(ComboBox &combo, QWidget *parent) : QComboBox(parent), combo_(combo) {
+    setEditable(true);
+    setInsertPolicy(NoInsert);
+    setModel(combo.Rows());
+    BindControl(combo, *this);
+    OfferCompletions();
+    ShowCombo();
+    connect(&combo, &ComboBox::Updated, this, &ComboBoxView::ShowCombo);
+    // The first row added would be taken for the selected one.
+    connect(combo.Rows(), &QAbstractItemModel::rowsInserted, this, &ComboBoxView::ShowCombo);
+    connect(this, &QComboBox::activated, &combo, &ComboBox::SetListIndex);
+    connect(lineEdit(), &QLineEdit::textEdited, &combo, &ComboBox::SetText);
+}
+
+void ComboBoxView::ShowCombo() {
+    if (currentIndex() != combo_.ListIndex()) {
+        setCurrentIndex(combo_.ListIndex());
+    }
+    if (currentText() != combo_.Text()) {
+        setEditText(combo_.Text());
+    }
+}
+
+void ComboBoxView::OfferCompletions() {
+    // Owned by the combo box. The list of its own would replace what was typed.
+    auto *completer = new QCompleter(combo_.Rows(), this);
+    completer->setCompletionMode(QCompleter::PopupCompletion);
+    completer->setFilterMode(Qt::MatchContains);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    setCompleter(completer);
+    completer->popup()->installEventFilter(this);
+}
+
+QString ComboBoxView::Completion() const {
+    const QAbstractItemView &popup = *completer()->popup();
+    if (popup.currentIndex().isValid()) {
+        return popup.currentIndex().data().toString();
+    }
+    const QAbstractItemModel &rows = *completer()->completionModel();
+    for (int row = 0; row < rows.rowCount(); ++row) {
+        QString text = rows.index(row, 0).data().toString();
+        if (text.startsWith(combo_.Text(), Qt::CaseInsensitive)) {
+            return text;
+        }
+    }
+    return {};
+}
+
+bool ComboBoxView::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::KeyPress && watched == completer()->popup()) {
+        return CompletionKey(static_cast<QKeyEvent *>(event));
+    }
+    return QComboBox::eventFilter(watched, event);
+}
+
+bool ComboBoxView::CompletionKey(QKeyEvent *event) {
+    const bool isTab = event->key() == Qt::Key_Tab;
+    if (!isTab && event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        return false;
+    }
+    const QString completion = Completion();
+    const bool completes = !completion.isEmpty() && completion != combo_.Text();
+    completer()->popup()->hide();
+    if (completes) {
+        TLXModule::IndexOf(combo_, completion);
+    }
+    // The Return that completes does not save as well.
+    if (isTab || !completes) {
+        QCoreApplication::sendEvent(this, event);
+    }
+    return true;
+}
+
+void ComboBoxView::wheelEvent(QWheelEvent *event) {
+    if (hasFocus()) {
+        QComboBox::wheelEvent(event);
+    } else {
+        event->ignore();
+    }
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QComboBox>
+
+class ComboBox;
+
+/// Shows a ComboBox, with a list of the rows that hold the typed text anywhere in theirs.
+///
+/// Return and Tab take the row that is marked in the list, else the first one that begins with the
+/// typed text; Escape closes the list and leaves the text.
+class ComboBoxView : public QComboBox {
+    Q_OBJECT
+
+public:
+    ComboBoxView(ComboBox &combo, QWidget *parent);
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+protected:
+    /// The wheel changes nothing while the focus is elsewhere.
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    void ShowCombo();
+    void OfferCompletions();
+    bool CompletionKey(QKeyEvent *event);
+    QString Completion() const;
+
+    ComboBox &combo_;
+};

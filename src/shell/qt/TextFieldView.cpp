@@ -1,0 +1,19 @@
+#include "shell/qt/TextFieldView.h"
+
+#include "platform/TextField.h"
+#include "shell/qt/ControlBinding.h"
+
+#include <QSignalBlocker>
+
+TextFieldView::TextFieldView(TextField &field, QWidget *parent) : QLineEdit(parent) {
+    setText(field.Text());
+    BindControl(field, *this);
+    connect(&field, &TextField::Updated, this, [this, &field] {
+        if (text() != field.Text()) {
+            // Unheard, for the line edit may hold less than the field: it cuts a very long text.
+            const QSignalBlocker unheard(this);
+            setText(field.Text());
+        }
+    });
+    connect(this, &QLineEdit::textChanged, &field, &TextField::SetText);
+}

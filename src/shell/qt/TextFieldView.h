@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QLineEdit>
+
+class TextField;
+
+/// Shows a TextField.
+class TextFieldView : public QLineEdit {
+    Q_OBJECT
+
+public:
+    TextFieldView(TextField &field, QWidget *parent);
+};
