@@ -96,6 +96,10 @@ bool EntryRow::CheckFields() {
     if (DateIsBeforeOpening()) {
         message = u"Buchungsdatum darf nicht unter dem Eröffnungsdatum liegen!"_s;
     }
+    // A click on the button leaves a field whose text is no day; the day from before is not meant.
+    if (DateField.TakeRefusal()) {
+        message = u"Bitte das Datum prüfen!"_s;
+    }
     ErrorLabel.SetText(message);
     ErrorRect.SetVisible(!message.isEmpty());
     return message.isEmpty();

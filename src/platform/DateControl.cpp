@@ -7,6 +7,11 @@ using namespace Qt::StringLiterals;
 DateControl::DateControl(const QString &name, const Date &start, std::function<Date()> now)
     : Control(name), day_(start.Day()), now_(std::move(now)) {}
 
+bool DateControl::SetTyped(const QString &text) {
+    refused_ = !Take(Read(text));
+    return !refused_;
+}
+
 QDate DateControl::Read(const QString &text) const {
     static const QRegularExpression iso(u"^(\\d{4})-(\\d\\d?)-(\\d\\d?)$"_s);
     // Day, month and year, whichever of the forms fits.
@@ -42,6 +47,7 @@ bool DateControl::Take(QDate day) {
     if (!day.isValid() || day.year() < 1 || day.year() > 9999) {
         return false;
     }
+    refused_ = false;
     if (day != day_) {
         day_ = day;
         Q_EMIT Updated();

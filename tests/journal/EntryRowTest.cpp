@@ -121,6 +121,16 @@ TEST_F(EntryRowTest, SaysTheLastThingThatIsMissingAndSavesNothing) {
     EXPECT_EQ(Columns(u"tax || '|' || category || '|' || account"_s), u"0|frei|"_s);
 }
 
+TEST_F(EntryRowTest, AsksOnceWhenTheTypedDayWasRefused) {
+    TypeReceipt(u"1"_s);
+    row.DateField.SetTyped(u"31.02."_s);
+    row.SubmitButton.Press();
+    EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte das Datum prüfen!"_s);
+    EXPECT_EQ(Count(), u"0"_s);
+    row.SubmitButton.Press();
+    EXPECT_EQ(Columns(u"vdate"_s), u"2026-03-15"_s);
+}
+
 TEST_F(EntryRowTest, LocksTheOtherAmountAndOffersItsSide) {
     row.InputField.SetText(u"1"_s);
     EXPECT_FALSE(row.OutputField.Enabled());

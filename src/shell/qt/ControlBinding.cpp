@@ -15,10 +15,12 @@ public:
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override {
-        if (event->type() == QEvent::FocusIn) {
+        if (event->type() == QEvent::FocusIn && !focused_) {
+            focused_ = true;
             Q_EMIT control_.GotFocus();
         } else if (event->type() == QEvent::FocusOut &&
                    LeavesForGood(*static_cast<QFocusEvent *>(event))) {
+            focused_ = false;
             Q_EMIT control_.LostFocus();
         }
         return QObject::eventFilter(watched, event);
@@ -26,6 +28,7 @@ public:
 
 private:
     Control &control_;
+    bool focused_ = false;
 };
 
 } // namespace
