@@ -259,6 +259,14 @@ TEST_F(ChangeTest, AsksForATaxWhenTheBookingsIsNoLongerOffered) {
     EXPECT_EQ(row.ErrorLabel.Text(), QString::fromUtf16(noTax));
 }
 
+TEST_F(ChangeTest, ABookingOfASwitchedOffAccountKeepsItsNameAndLosesItsNumber) {
+    book.Run(u"UPDATE cash_accounts SET active = 0 WHERE account = '8400'"_s);
+    row.EditSale(EntryRow::EditMode::Change);
+    EXPECT_EQ(row.pickLists.CategoryCombo.Text(), u"Erlöse 19% USt"_s);
+    row.ChangeButton.Press();
+    EXPECT_EQ(Columns(u"category || '|' || account"_s), u"Erlöse 19% USt|"_s);
+}
+
 TEST_F(ChangeTest, AReadOnlyBookLosesNothing) {
     row.EditSale(EntryRow::EditMode::Change);
     book.Run(u"PRAGMA query_only = ON"_s);

@@ -8,9 +8,10 @@
 #include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
-#include <QSignalSpy>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTest>
+#include <QWheelEvent>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -189,6 +190,42 @@ TEST_F(EntryRowViewTest, TypedTextOfNoRowLeavesNoStaleRowBehind) {
     EXPECT_EQ(row.pickLists.TaxCombo.ListIndex(), -1);
     Find<QWidget>(u"NoteField"_s)->setFocus();
     EXPECT_EQ(row.pickLists.TaxCombo.ListIndex(), 2);
+}
+
+TEST_F(EntryRowViewTest, ShowsTheNewBookingInALongListAndKeepsThePlaceAfterADelete) {
+    for (int day = 1; day <= 200; ++day) {
+        book.Add({u"2026-03-%1"_s.arg(1 + day % 28, 2, 10, QChar(u'0')), u"E"_s, u"1"_s});
+    }
+    row.NewSale();
+    row.InputField.SetText(u"5"_s);
+    row.pickLists.CategoryCombo.SetText(u"frei"_s);
+    row.SubmitButton.Press();
+    const int added = window.journal.CashList.FindRow(u"201"_s);
+    EXPECT_TRUE(list->viewport()->rect().contains(RowCentre(added))) << added;
+
+    ClickRow(added);
+    const int place = list->verticalScrollBar()->value();
+    ASSERT_GT(place, 0);
+    row.DeleteSale();
+    EXPECT_EQ(list->verticalScrollBar()->value(), place);
+}
+
+TEST_F(EntryRowViewTest, LetsTheWheelPassBothComboBoxes) {
+    row.InputField.SetText(u"1"_s);
+    for (const QString &name : {u"TaxCombo"_s, u"CategoryCombo"_s}) {
+        auto *combo = Find<QComboBox>(name);
+        const QString before = combo->currentText();
+        const auto turn = [combo] {
+            QWheelEvent event({5, 5}, combo->mapToGlobal(QPointF(5, 5)), {}, {0, -120},
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(combo, &event);
+        };
+        turn();
+        EXPECT_EQ(combo->currentText(), before);
+        combo->setFocus();
+        turn();
+        EXPECT_NE(combo->currentText(), before);
+    }
 }
 
 TEST_F(EntryRowViewTest, KeepsALongNoteWithLineBreaksThroughAChange) {

@@ -9,7 +9,6 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QWheelEvent>
 
 ComboBoxView::ComboBoxView(ComboBox &combo, QWidget *parent) : QComboBox(parent), combo_(combo) {
     setEditable(true);
@@ -82,12 +81,4 @@ bool ComboBoxView::CompletionKey(QKeyEvent *event) {
         QCoreApplication::sendEvent(this, event);
     }
     return true;
-}
-
-void ComboBoxView::wheelEvent(QWheelEvent *event) {
-    if (hasFocus()) {
-        QComboBox::wheelEvent(event);
-    } else {
-        event->ignore();
-    }
 }

@@ -16,10 +16,6 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-protected:
-    /// The wheel changes nothing while the focus is elsewhere.
-    void wheelEvent(QWheelEvent *event) override;
-
 private:
     void ShowCombo();
     void OfferCompletions();

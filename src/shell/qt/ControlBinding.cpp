@@ -7,10 +7,12 @@
 
 namespace {
 
-/// Hands the focus events of a widget to its control.
+/// Hands the focus events of a widget to its control, and keeps the wheel away without the focus:
+/// who scrolls past changes nothing.
 class FocusWatcher : public QObject {
 public:
-    FocusWatcher(Control &control, QWidget &widget) : QObject(&widget), control_(control) {
+    FocusWatcher(Control &control, QWidget &widget)
+        : QObject(&widget), control_(control), widget_(widget) {
         widget.installEventFilter(this);
     }
 
@@ -22,12 +24,16 @@ public:
                    LeavesForGood(*static_cast<QFocusEvent *>(event))) {
             focused_ = false;
             Q_EMIT control_.LostFocus();
+        } else if (event->type() == QEvent::Wheel && !widget_.hasFocus()) {
+            event->ignore();
+            return true;
         }
         return QObject::eventFilter(watched, event);
     }
 
 private:
     Control &control_;
+    QWidget &widget_;
     bool focused_ = false;
 };
 

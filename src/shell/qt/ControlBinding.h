@@ -4,7 +4,8 @@ class Control;
 class QWidget;
 
 /// Names the widget after its control, keeps it shown, usable and focused as the control says, and
-/// tells the control when the focus comes and goes.
+/// tells the control when the focus comes and goes. Without the focus the wheel passes the widget
+/// by.
 void BindControl(Control &control, QWidget &widget);
 
 class QFocusEvent;

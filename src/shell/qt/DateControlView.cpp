@@ -266,10 +266,6 @@ void DateControlView::mouseReleaseEvent(QMouseEvent *event) {
 }
 
 void DateControlView::wheelEvent(QWheelEvent *event) {
-    if (!hasFocus()) {
-        event->ignore();
-        return;
-    }
     wheelRest_ += event->angleDelta().y();
     const int days = wheelRest_ / QWheelEvent::DefaultDeltasPerStep;
     wheelRest_ %= QWheelEvent::DefaultDeltasPerStep;

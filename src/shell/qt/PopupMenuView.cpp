@@ -3,8 +3,6 @@
 #include "platform/PopupMenu.h"
 #include "shell/qt/ControlBinding.h"
 
-#include <QWheelEvent>
-
 PopupMenuView::PopupMenuView(PopupMenu &menu, QWidget *parent) : QComboBox(parent) {
     setModel(menu.Rows());
     setFocusPolicy(Qt::StrongFocus);
@@ -15,12 +13,4 @@ PopupMenuView::PopupMenuView(PopupMenu &menu, QWidget *parent) : QComboBox(paren
     // The first row added would be taken for the selected one.
     connect(menu.Rows(), &QAbstractItemModel::rowsInserted, this, show);
     connect(this, &QComboBox::activated, &menu, &PopupMenu::SetListIndex);
-}
-
-void PopupMenuView::wheelEvent(QWheelEvent *event) {
-    if (hasFocus()) {
-        QComboBox::wheelEvent(event);
-    } else {
-        event->ignore();
-    }
 }

@@ -10,8 +10,4 @@ class PopupMenuView : public QComboBox {
 
 public:
     PopupMenuView(PopupMenu &menu, QWidget *parent);
-
-protected:
-    /// The wheel changes nothing while the focus is elsewhere.
-    void wheelEvent(QWheelEvent *event) override;
 };
