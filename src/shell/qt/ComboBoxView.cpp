@@ -31,6 +31,7 @@ void ComboBoxView::ShowCombo() {
     if (currentText() != combo_.Text()) {
         setEditText(combo_.Text());
     }
+    ShowBeginning(*lineEdit());
 }
 
 void ComboBoxView::OfferCompletions() {

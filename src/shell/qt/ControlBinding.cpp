@@ -3,6 +3,7 @@
 #include "platform/Control.h"
 
 #include <QFocusEvent>
+#include <QLineEdit>
 #include <QWidget>
 
 namespace {
@@ -60,4 +61,10 @@ void BindControl(Control &control, QWidget &widget) {
 bool LeavesForGood(const QFocusEvent &event) {
     return event.reason() != Qt::PopupFocusReason && event.reason() != Qt::MenuBarFocusReason &&
            event.reason() != Qt::ActiveWindowFocusReason;
+}
+
+void ShowBeginning(QLineEdit &edit) {
+    if (!edit.hasFocus()) {
+        edit.setCursorPosition(0);
+    }
 }

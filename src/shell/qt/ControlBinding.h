@@ -1,6 +1,8 @@
 #pragma once
 
 class Control;
+class QFocusEvent;
+class QLineEdit;
 class QWidget;
 
 /// Names the widget after its control, keeps it shown, usable and focused as the control says, and
@@ -8,8 +10,9 @@ class QWidget;
 /// by.
 void BindControl(Control &control, QWidget &widget);
 
-class QFocusEvent;
-
 /// Whether the focus went to another control. A menu, a pop-up list or another window takes the
 /// keys for a while only, and the focus comes back from there.
 bool LeavesForGood(const QFocusEvent &event);
+
+/// Shows a long text that the program has written from its beginning, unless the user is in it.
+void ShowBeginning(QLineEdit &edit);

@@ -19,10 +19,23 @@ namespace {
 
 constexpr int lineHeight = 18;
 
-/// The row is what is selected: no cell of it is marked on its own.
+/// More than any column shows; laying out more would only cost time.
+constexpr int longestShownText = 1000;
+
+/// Shows each text on one line. The row is what is selected: no cell of it is marked on its own.
 class RowDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant &value, const QLocale & /*locale*/) const override {
+        QString text = value.toString().left(longestShownText);
+        for (QChar &each : text) {
+            if (each.category() == QChar::Other_Control) {
+                each = u' ';
+            }
+        }
+        return text;
+    }
 
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {

@@ -13,6 +13,7 @@ TextFieldView::TextFieldView(TextField &field, QWidget *parent) : QLineEdit(pare
             // Unheard, for the line edit may hold less than the field: it cuts a very long text.
             const QSignalBlocker unheard(this);
             setText(field.Text());
+            ShowBeginning(*this);
         }
     });
     connect(this, &QLineEdit::textChanged, &field, &TextField::SetText);
