@@ -73,7 +73,7 @@ TEST(Balances, RunExactlyThroughAnyAmounts) {
         const auto cents = qint64(random() % (i % 9 == 0 ? 100'000'000 : 1000));
         const bool receipt = random() % 2 == 0;
         booked.push_back(receipt ? cents : -cents);
-        book.Add({QDate(2026, 1, 1).addDays(random() % 365).toString(Qt::ISODate),
+        book.Add({QDate(2026, 1, 1).addDays(qint64(random() % 365)).toString(Qt::ISODate),
                   receipt ? u"E"_s : u"A"_s,
                   u"%1.%2"_s.arg(cents / 100).arg(cents % 100, 2, 10, QChar(u'0'))});
     }
