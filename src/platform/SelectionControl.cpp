@@ -1,7 +1,7 @@
 #include "platform/SelectionControl.h"
 
 void SelectionControl::DeleteAllRows() {
-    ForgetSelection();
     rows_.Clear();
+    ForgetSelection();
     Q_EMIT Updated();
 }

@@ -9,7 +9,8 @@ class SelectionControl : public Control {
 
 public:
     void AddRow(const QString &text) { rows_.Append(text); }
-    /// Leaves no rows, ListIndex -1 and Text empty. Fires nothing.
+    /// Leaves no rows, ListIndex -1 and Text empty. A pop-up menu fires nothing, a combo box
+    /// TextChanged if it had a text.
     void DeleteAllRows();
 
     int ListCount() const { return rows_.Count(); }

@@ -85,18 +85,6 @@ TEST(DateControl, ReplacesTheYearAlone) {
     EXPECT_EQ(field.Shown(), u"2028-02-29"_s);
     field.SetYear(2026);
     EXPECT_EQ(field.Shown(), u"2026-02-28"_s);
-    EXPECT_EQ(field.Year(), 2026);
-    EXPECT_EQ(field.Month(), 2);
-    EXPECT_EQ(field.Day(), 28);
-}
-
-TEST(DateControl, GivesADayOfItsOwn) {
-    Field field(u"2025-11-15"_s);
-    const Date before = field.DateValue();
-    field.Today();
-    EXPECT_EQ(before, Date(QDate(2025, 11, 15)));
-    // Without the hour of the clock.
-    EXPECT_EQ(field.DateValue(), Date(QDate(2026, 3, 15)));
 }
 
 TEST(DateControl, TellsOfAnotherDayOnly) {

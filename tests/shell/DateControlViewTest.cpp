@@ -200,13 +200,6 @@ TEST(DateControlView, KeepsWhatIsHalfTypedWhileAnotherWindowIsActive) {
     EXPECT_EQ(window.field.text(), u"1.20."_s);
 }
 
-TEST(DateControlView, ShowsTheDayThatTheProgramSets) {
-    DateWindow window;
-    QTest::keyClicks(&window.field, u"31.2"_s);
-    window.date.SetYear(2024);
-    EXPECT_TRUE(window.Selects(u"15.11.2024"_s));
-}
-
 TEST(DateControlView, TurnsByTheWheelOnlyWithTheFocus) {
     DateWindow window;
     window.TurnWheel(60);

@@ -53,20 +53,24 @@ TEST_F(JournalPageTest, ShowsTheBookingsOfThePeriodThatTheKeysChoose) {
     }
 }
 
-TEST_F(JournalPageTest, LetsTheWheelTurnOnlyTheSelectorWithTheFocus) {
+TEST_F(JournalPageTest, LetsTheWheelTurnOnlyTheControlWithTheFocus) {
     Open();
-    QComboBox &months = Menu(u"MonthPopup"_s);
-    const auto turn = [&months] {
-        QWheelEvent event({5, 5}, months.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&months, &event);
-    };
-    list.setFocus();
-    turn();
-    EXPECT_EQ(window.selectors.MonthPopup.ListIndex(), 0);
-    months.setFocus();
-    turn();
-    EXPECT_EQ(window.selectors.MonthPopup.ListIndex(), 1);
+    window.entryRow.InputField.SetText(u"1"_s);
+    for (const QString &name : {u"MonthPopup"_s, u"TaxCombo"_s, u"CategoryCombo"_s}) {
+        QComboBox &menu = Menu(name);
+        const QString before = menu.currentText();
+        const auto turn = [&menu] {
+            QWheelEvent event({5, 5}, menu.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(&menu, &event);
+        };
+        list.setFocus();
+        turn();
+        EXPECT_EQ(menu.currentText(), before);
+        menu.setFocus();
+        turn();
+        EXPECT_NE(menu.currentText(), before);
+    }
 }
 
 TEST_F(JournalPageTest, KeepsThePlaceInALongListThroughAReload) {

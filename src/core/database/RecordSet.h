@@ -3,7 +3,6 @@
 #include "core/database/DatabaseField.h"
 #include "core/database/Statement.h"
 
-#include <QAnyStringView>
 #include <QByteArray>
 #include <QString>
 

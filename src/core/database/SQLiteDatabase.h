@@ -30,8 +30,8 @@ public:
 
     /// Creates the file for its owner alone, and opens it. An existing file is opened as it is.
     bool CreateDatabaseFile();
-    /// Opens the file, which must exist; true when the key fits and the file can be read. A file
-    /// is never created or changed by this.
+    /// Opens the file, which must exist; true when the key fits and the file can be read. It
+    /// creates no file, and changes none but to roll back what a crash has left half-written.
     bool Connect();
 
     /// Runs a statement, or a script of several up to its first failing one.

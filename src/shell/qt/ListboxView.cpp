@@ -12,7 +12,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
-#include <QScrollBar>
 #include <QStyledItemDelegate>
 
 namespace {
@@ -65,18 +64,10 @@ ListboxView::ListboxView(Listbox &list, QWidget *parent) : QTableView(parent), l
     verticalHeader()->setDefaultSectionSize(lineHeight);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     connect(&list, &Listbox::SelectionMoved, this, &ListboxView::ShowSelection);
-    connect(&list, &Listbox::ScrollRequested, this,
-            [this](int row) { scrollTo(list_.index(row, 0)); });
-    KeepPlaceThroughRefills();
-}
-
-void ListboxView::KeepPlaceThroughRefills() {
-    const auto place = std::make_shared<int>(0);
-    connect(&list_, &Listbox::modelAboutToBeReset, this,
-            [this, place] { *place = verticalScrollBar()->value(); });
-    connect(&list_, &Listbox::modelReset, this, [this, place] {
+    connect(&list, &Listbox::ScrollRequested, this, [this](int row) {
+        // Right after a refill the scroll bar still has the range of the rows before.
         updateGeometries();
-        verticalScrollBar()->setValue(*place);
+        scrollTo(list_.index(row, 0));
     });
 }
 

@@ -6,8 +6,7 @@
 
 class Listbox;
 
-/// Shows a Listbox and hands it what the user does. Where the user was in the list stays through a
-/// refill.
+/// Shows a Listbox and hands it what the user does.
 class ListboxView : public QTableView {
     Q_OBJECT
 
@@ -28,7 +27,6 @@ protected:
     void selectionChanged(const QItemSelection &now, const QItemSelection &before) override;
 
 private:
-    void KeepPlaceThroughRefills();
     void ShowSelection();
     void PaintRow(QPainter &painter, int row, int top);
 
