@@ -28,7 +28,7 @@ Book::Book(Place place) : app(desktop, UserLocale(QLocale(QLocale::German, QLoca
     Run(u"COMMIT"_s);
 }
 
-void Book::Add(const Booking &booking) {
+void Book::Add(const Booking &booking) const {
     DatabaseRecord record;
     record.SetColumn(u"vdate"_s, booking.date);
     record.SetColumn(u"type"_s, booking.type);
@@ -43,12 +43,12 @@ void Book::Add(const Booking &booking) {
     EXPECT_FALSE(app.kvoDB().Error()) << qPrintable(app.kvoDB().ErrorMessage());
 }
 
-void Book::Run(const QString &sql) {
+void Book::Run(const QString &sql) const {
     app.kvoDB().SQLExecute(sql);
     EXPECT_FALSE(app.kvoDB().Error()) << qPrintable(app.kvoDB().ErrorMessage());
 }
 
-QString Book::Value(const QString &sql) {
+QString Book::Value(const QString &sql) const {
     const auto records = app.kvoDB().SQLSelect(sql);
     EXPECT_TRUE(records) << qPrintable(app.kvoDB().ErrorMessage());
     return records ? records->IdxField(1).StringValue() : QString();

@@ -32,11 +32,11 @@ public:
     FakeDesktop desktop;
     App app;
 
-    void Add(const Booking &booking);
+    void Add(const Booking &booking) const;
     /// Runs a statement, which must not fail.
-    void Run(const QString &sql);
+    void Run(const QString &sql) const;
     /// The first column of the first row, as text.
-    QString Value(const QString &sql);
+    QString Value(const QString &sql) const;
 };
 
 /// The key of every book.

@@ -94,10 +94,10 @@ void JournalPageView::AddSelectors(MainWindow &window) {
     frame->setObjectName(u"YearRect"_s);
     frame->SetFrame(frameOfControls);
     frame->AddCaption(u"Label1"_s, u"Kasse"_s, {11, 9, 46, 20});
-    frame->Add(new PopupMenuView(selectors.CashbookPopup, frame), {59, 9, 140, 21});
     frame->AddCaption(u"Label2"_s, u"Jahr/Monat"_s, {234, 9, 74, 20});
     frame->Add(new PopupMenuView(selectors.YearPopup, frame), {316, 9, 70, 21});
     frame->Add(new PopupMenuView(selectors.MonthPopup, frame), {396, 9, 105, 21});
+    frame->Add(new PopupMenuView(selectors.CashbookPopup, frame), {59, 9, 140, 21});
     Add(frame, {549, 15, 511, 40}, TR);
 }
 

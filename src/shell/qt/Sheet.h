@@ -8,7 +8,6 @@
 
 #include <optional>
 
-class Label;
 class QLabel;
 
 /// A surface that widgets are laid out on at given places, in points from its top left corner.
