@@ -69,13 +69,17 @@ void RecordSet::Update() {
         statement_->Owner()->NoteFailure(ColumnIsMissing());
         return;
     }
+    const QString id = Field("id"_L1).StringValue();
+    // The query's lock would keep another program from ending its write, and so this one waiting.
+    statement_->Reset();
+    hasRow_ = false;
     Statement update(statement_->Owner(), UpdateText());
     int parameter = 0;
     bool fine = update.IsValid();
     for (const auto &[column, text] : changes_) {
         fine = fine && update.Bind(parameter++, text);
     }
-    if (!fine || !update.Bind(parameter, Field("id"_L1).StringValue())) {
+    if (!fine || !update.Bind(parameter, id)) {
         return;
     }
     update.Step();

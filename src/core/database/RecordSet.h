@@ -33,7 +33,8 @@ public:
     /// Begins a change of the current row. The query must select from one table and name its id.
     /// Without a current row, Error is set.
     void Edit();
-    /// Writes the fields set since Edit into the row. A row that has gone meanwhile sets Error.
+    /// Writes the fields set since Edit into the row, and ends the walk through the rows. A row
+    /// that has gone meanwhile sets Error.
     void Update();
 
 private:

@@ -123,4 +123,24 @@ TEST(SQLiteDatabase, WaitsForAnotherProgramsLockButNotForEver) {
     EXPECT_EQ(book.Value(u"SELECT name FROM cash_book"_s), u"Laden"_s);
 }
 
+TEST(SQLiteDatabase, WaitsForAnotherProgramsWriteBeforeItRewritesARow) {
+    Book book(Book::Place::File);
+    SQLiteDatabase other;
+    other.SetDatabaseFile(book.app.DefaultDatabaseFile());
+    other.SetEncryptionKey(fixedKey);
+    ASSERT_TRUE(other.Connect());
+    const auto records = book.app.kvoDB().SQLSelect(u"SELECT * FROM cash_book"_s);
+    records->Edit();
+    records->Field("name"_L1).SetStringValue(u"Laden"_s);
+    other.SQLExecute(u"BEGIN IMMEDIATE"_s);
+    std::thread release([&other] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        other.Commit();
+    });
+    records->Update();
+    EXPECT_EQ(book.app.kvoDB().ErrorMessage(), QString());
+    release.join();
+    EXPECT_EQ(book.Value(u"SELECT name FROM cash_book"_s), u"Laden"_s);
+}
+
 } // namespace
