@@ -184,29 +184,27 @@ void EntryRow::ChangeButton_Action() {
     if (!CheckFields()) {
         return;
     }
-    if (!RewriteBooking()) {
-        app_.ReportError();
-    }
+    RewriteBooking();
+    app_.ReportError();
     NewSale();
 }
 
-bool EntryRow::RewriteBooking() {
+void EntryRow::RewriteBooking() {
     const QString sql = u"SELECT * FROM cash_journal WHERE id = "_s + QString::number(mRecID_);
     DebugLog(sql);
     const auto records = app_.kvoDB().SQLSelect(sql);
     if (!records) {
-        return false;
+        return;
     }
     records->Edit();
     if (app_.kvoDB().Error()) {
-        return false;
+        return;
     }
     const DatabaseRecord entry = Entry();
     for (const auto &[column, text] : entry.AllColumns()) {
         records->Field(column).SetStringValue(text);
     }
     records->Update();
-    return !app_.kvoDB().Error();
 }
 
 void EntryRow::DeleteSale() {

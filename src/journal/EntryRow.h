@@ -63,7 +63,8 @@ private:
     void AmountTyped(const TextField &field, Control &other, const QString &type);
     /// What the row holds, as the columns that a new and a changed booking share.
     DatabaseRecord Entry() const;
-    bool RewriteBooking();
+    /// Writes the row into the booking; the database's Error tells how that went.
+    void RewriteBooking();
 
     App &app_;
     Selectors &selectors_;

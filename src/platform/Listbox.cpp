@@ -53,14 +53,6 @@ void Listbox::SetListIndex(int row) {
     Q_EMIT SelectionMoved();
 }
 
-void Listbox::SetSelected(int row, bool selected) {
-    if (selected) {
-        SetListIndex(row);
-    } else if (Selected(row)) {
-        SetListIndex(-1);
-    }
-}
-
 QString Listbox::Cell(int row, int column) const {
     if (row >= 0) {
         if (!Has(row) || column >= columnCount_) {

@@ -45,8 +45,6 @@ public:
 
     int ListIndex() const { return listIndex_; }
     void SetListIndex(int row);
-    bool Selected(int row) const { return row >= 0 && row == listIndex_; }
-    void SetSelected(int row, bool selected);
 
     /// Row -1 stands for all rows, column -1 for all columns: cells are then joined by a Tab, rows
     /// by a line feed.

@@ -18,17 +18,10 @@ void MainWindow::Event_Open() {
 
 void MainWindow::CashList_CellClick() {
     if (journal.CashList.ListCount() >= 1) {
-        SetMenuItemEnable(true);
+        menuItemEnable_ = true;
     }
 }
 
 void MainWindow::CashList_LostFocus() {
-    SetMenuItemEnable(false);
-}
-
-void MainWindow::SetMenuItemEnable(bool enable) {
-    if (enable != menuItemEnable_) {
-        menuItemEnable_ = enable;
-        Q_EMIT MenuItemEnableChanged();
-    }
+    menuItemEnable_ = false;
 }

@@ -28,13 +28,9 @@ public:
     /// they close when the focus leaves the list.
     bool MenuItemEnable() const { return menuItemEnable_; }
 
-Q_SIGNALS:
-    void MenuItemEnableChanged();
-
 private:
     void CashList_CellClick();
     void CashList_LostFocus();
-    void SetMenuItemEnable(bool enable);
 
     bool menuItemEnable_ = false;
 };
