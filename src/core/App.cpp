@@ -23,14 +23,21 @@ FolderItem App::DefaultDatabaseFile() const {
     return desktop_.ApplicationData().Child(u"Brevant"_s).Child(u"Zolmark.sdb"_s);
 }
 
+void App::UseDefaultFile(SQLiteDatabase &database) const {
+    database.SetDatabaseFile(DefaultDatabaseFile());
+    database.SetEncryptionKey(FixedKey());
+}
+
+FolderItem App::Resource(const QString &name) const {
+    return desktop_.ExecutableFile().Parent().Parent().Child(u"Resources"_s).Child(name);
+}
+
 bool App::DBLoad() {
     SQLiteDatabase &database = NewDatabase();
-    const FolderItem file = DefaultDatabaseFile();
-    if (!file.Exists()) {
+    if (!DefaultDatabaseFile().Exists()) {
         return false;
     }
-    database.SetDatabaseFile(file);
-    database.SetEncryptionKey(FixedKey());
+    UseDefaultFile(database);
     return true;
 }
 

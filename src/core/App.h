@@ -21,6 +21,10 @@ public:
 
     /// Zolmark.sdb in the folder Brevant of the user's application data.
     FolderItem DefaultDatabaseFile() const;
+    /// Gives a database the default file and its key. The folder may not be there yet.
+    void UseDefaultFile(SQLiteDatabase &database) const;
+    /// A picture or the manual, in the folder Resources beside the program's own folder.
+    FolderItem Resource(const QString &name) const;
 
     /// Prepares the default file with its key; false when there is no such file. Opens nothing.
     bool DBLoad();

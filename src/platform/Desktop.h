@@ -7,6 +7,8 @@
 
 #include <optional>
 
+class MenuItem;
+
 /// What the program asks of the world outside its windows. Everything modal goes through here.
 class Desktop {
 public:
@@ -19,9 +21,19 @@ public:
     virtual Date Now() const = 0;
     /// The user's folder for application data.
     virtual FolderItem ApplicationData() const = 0;
+    /// The file of the running program.
+    virtual FolderItem ExecutableFile() const = 0;
 
     /// A message with one button; returns when the user has closed it.
     virtual void MsgBox(const QString &message) = 0;
     /// Asks for a file to open, of any type; nothing when the user cancels.
     virtual std::optional<FolderItem> GetOpenFolderItem() = 0;
+    /// Shows the entries under the item as a menu at the mouse; the position of the chosen one,
+    /// nothing when the user closes the menu.
+    virtual std::optional<int> PopUp(const MenuItem &base) = 0;
+    /// Name and version of the program, in a small window.
+    virtual void ShowAboutPanel() = 0;
+
+    /// Opens a file in the program that the system assigns to it; tells nothing when there is none.
+    virtual void Launch(const FolderItem &file) = 0;
 };

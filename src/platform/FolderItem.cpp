@@ -19,3 +19,7 @@ bool FolderItem::CreateAsFolder() const {
     const auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
     return QDir().mkpath(Parent().Path()) && QDir().mkdir(path_, ownerOnly);
 }
+
+bool FolderItem::Delete() const {
+    return QFile::remove(path_);
+}

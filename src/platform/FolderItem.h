@@ -13,6 +13,8 @@ public:
     bool Exists() const;
     /// Makes the folder for its owner alone; false when that fails or something else has the name.
     bool CreateAsFolder() const;
+    /// Removes the file; false when that fails.
+    bool Delete() const;
 
 private:
     QString path_;

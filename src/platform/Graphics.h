@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include "platform/FolderItem.h"
 
 /// A colour as 24-bit RGB.
 struct Color {
@@ -22,5 +22,12 @@ public:
 
     /// The colour of the drawing that follows.
     virtual void SetForeColor(Color color) = 0;
+    /// A line of one point, both of its ends included.
+    virtual void DrawLine(double x1, double y1, double x2, double y2) = 0;
+    /// An outline of one point, from left and top to left + width and top + height, both included,
+    /// or to the last point of the surface.
+    virtual void DrawRect(double left, double top, double width, double height) = 0;
     virtual void FillRect(double left, double top, double width, double height) = 0;
+    /// The picture in a file, in its own size. A missing file draws nothing.
+    virtual void DrawPicture(const FolderItem &file, double x, double y) = 0;
 };

@@ -12,16 +12,40 @@ CanvasView::CanvasView(Canvas &canvas, QWidget *parent) : QWidget(parent), canva
     connect(&canvas, &Canvas::Updated, this, qOverload<>(&QWidget::update));
 }
 
+void CanvasView::showEvent(QShowEvent *event) {
+    QWidget::showEvent(event);
+    if (!opened_) {
+        opened_ = true;
+        Q_EMIT canvas_.Open();
+    }
+}
+
+void CanvasView::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    canvas_.SetSize(width(), height());
+}
+
 void CanvasView::paintEvent(QPaintEvent *event) {
     QWidget::paintEvent(event);
     QPainter painter(this);
     PainterGraphics graphics(painter, rect());
+    if (const Picture *backdrop = canvas_.Backdrop()) {
+        backdrop->DrawOn(graphics);
+    }
     Q_EMIT canvas_.Paint(graphics);
 }
 
 void CanvasView::mousePressEvent(QMouseEvent *event) {
     if (event->button() == Qt::LeftButton) {
-        Q_EMIT canvas_.MouseDown(event->position().toPoint().x(), event->position().toPoint().y());
+        const QPoint place = event->position().toPoint();
+        Q_EMIT canvas_.MouseDown(place.x(), place.y());
+    }
+}
+
+void CanvasView::mouseReleaseEvent(QMouseEvent *event) {
+    if (event->button() == Qt::LeftButton) {
+        const QPoint place = event->position().toPoint();
+        Q_EMIT canvas_.MouseUp(place.x(), place.y());
     }
 }
 

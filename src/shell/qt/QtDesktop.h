@@ -7,6 +7,10 @@ class QtDesktop : public Desktop {
 public:
     Date Now() const override;
     FolderItem ApplicationData() const override;
+    FolderItem ExecutableFile() const override;
     void MsgBox(const QString &message) override;
     std::optional<FolderItem> GetOpenFolderItem() override;
+    std::optional<int> PopUp(const MenuItem &base) override;
+    void ShowAboutPanel() override;
+    void Launch(const FolderItem &file) override;
 };

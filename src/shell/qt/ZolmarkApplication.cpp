@@ -11,6 +11,7 @@ using namespace Qt::StringLiterals;
 ZolmarkApplication::ZolmarkApplication(int &argc, char **argv, Desktop &desktop)
     : QApplication(argc, argv), desktop_(desktop) {
     setApplicationName(u"Zolmark"_s);
+    setApplicationVersion(QStringLiteral(ZOLMARK_VERSION));
     setDesktopFileName(u"zolmark"_s);
     auto *translator = new QTranslator(this);
     if (translator->load(u"qtbase_de"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
