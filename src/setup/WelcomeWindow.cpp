@@ -2,13 +2,65 @@
 
 #include "core/App.h"
 #include "core/Scripts.h"
+#include "core/TLXModule.h"
+#include "platform/Text.h"
 #include "setup/SampleBook.h"
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+enum Page { Company = 1, CashBook = 2 };
+
+/// Where a button's picture stands on it, in points.
+constexpr int pictureLeft = 14;
+constexpr int pictureTop = 26;
+
+} // namespace
+
 WelcomeWindow::WelcomeWindow(App &app)
-    : PagePanel1(u"PagePanel1"_s), DemoCanvas(u"DemoCanvas"_s), app_(app) {
+    : PagePanel1(u"PagePanel1"_s), DemoCanvas(u"DemoCanvas"_s), NewCanvas(u"NewCanvas"_s),
+      ManualCanvas(u"ManualCanvas"_s), Canvas1(u"Canvas1"_s), CompanyField(u"CompanyField"_s),
+      DepartmendField(u"DepartmendField"_s), StreetField(u"StreetField"_s), ZipField(u"ZipField"_s),
+      CityField(u"CityField"_s), PhoneField(u"PhoneField"_s),
+      ForwardButton(u"ForwardButton"_s, u"Weiter"_s, PushButton::Role::Default),
+      AccountsPopup(u"AccountsPopup"_s), AccountNameField(u"AccountNameField"_s, u"Kasse"_s),
+      AccountField(u"AccountField"_s, u"1000"_s),
+      OpeningBalanceField(u"OpeningBalanceField"_s, u"0,00"_s), CurrencyPopup(u"CurrencyPopup"_s),
+      OpeningDate(u"OpeningDate"_s, Date(QDate(2000, 1, 1)),
+                  [&app] { return app.GetDesktop().Now(); }),
+      BackButton(u"BackButton"_s, u"Zurück"_s, PushButton::Role::Cancel),
+      SaveButton(u"SaveButton"_s, u"Übernehmen"_s, PushButton::Role::Default), app_(app) {
+    for (const auto &chart : {u"Leeren Kontorahmen verwenden"_s, u"SKR-03"_s, u"SKR-04"_s}) {
+        AccountsPopup.AddRow(chart);
+    }
+    AccountsPopup.SetListIndex(0);
+    CurrencyPopup.AddRow(u"EUR"_s);
+    CurrencyPopup.SetListIndex(0);
+    OpeningDate_Open();
+    auto greeting = std::make_unique<Picture>(0, 0);
+    greeting->DrawPicture(app_.Resource(u"welcome_image.png"_s), 0, 0);
+    Canvas1.SetBackdrop(std::move(greeting));
+    ConnectEvents();
+}
+
+void WelcomeWindow::ConnectEvents() {
+    DrawPicture(DemoCanvas, u"48_copy_record.png"_s);
+    DrawPicture(NewCanvas, u"48_add_record.png"_s);
+    DrawPicture(ManualCanvas, u"48_address-book.png"_s);
     connect(&DemoCanvas, &Canvas::MouseDown, this, &WelcomeWindow::CreateDemoDatabase);
+    connect(&NewCanvas, &Canvas::MouseDown, this, &WelcomeWindow::NewCanvas_MouseDown);
+    connect(&ManualCanvas, &Canvas::MouseDown, this, &WelcomeWindow::ManualCanvas_MouseDown);
+    connect(&ForwardButton, &PushButton::Action, this, &WelcomeWindow::ForwardButton_Action);
+    connect(&BackButton, &PushButton::Action, this, &WelcomeWindow::BackButton_Action);
+    connect(&SaveButton, &PushButton::Action, this, &WelcomeWindow::SaveButton_Action);
+    connect(&AccountsPopup, &PopupMenu::Change, this, &WelcomeWindow::AccountsPopup_Change);
+}
+
+void WelcomeWindow::DrawPicture(Canvas &canvas, const QString &name) {
+    connect(&canvas, &Canvas::Paint, this, [file = app_.Resource(name)](Graphics &graphics) {
+        graphics.DrawPicture(file, pictureLeft, pictureTop);
+    });
 }
 
 void WelcomeWindow::Event_Open() {
@@ -20,6 +72,96 @@ void WelcomeWindow::Event_Open() {
     Q_EMIT MainWindowWanted();
 }
 
+void WelcomeWindow::Event_Close() {
+    if (creationFailed_ && HasNoTables()) {
+        // If it can't be removed, nothing is worse than it was.
+        static_cast<void>(app_.DefaultDatabaseFile().Delete());
+    }
+}
+
+bool WelcomeWindow::HasNoTables() const {
+    SQLiteDatabase leftover;
+    app_.UseDefaultFile(leftover);
+    if (!leftover.Connect()) {
+        return false;
+    }
+    const auto tables = leftover.SQLSelect(u"SELECT count(*) FROM sqlite_master"_s);
+    return tables && tables->IdxField(1).DoubleValue() == 0;
+}
+
+void WelcomeWindow::NewCanvas_MouseDown() {
+    PagePanel1.SetValue(Page::Company);
+    CompanyField.SetFocus();
+}
+
+void WelcomeWindow::ManualCanvas_MouseDown() {
+    app_.GetDesktop().Launch(app_.Resource(u"Zolmark.pdf"_s));
+}
+
+void WelcomeWindow::ForwardButton_Action() {
+    if (CompanyField.Text().isEmpty()) {
+        app_.GetDesktop().MsgBox(u"Bitte geben Sie einen Firmannamen an"_s);
+        return;
+    }
+    PagePanel1.SetValue(Page::CashBook);
+}
+
+void WelcomeWindow::BackButton_Action() {
+    PagePanel1.SetValue(Page::Company);
+}
+
+void WelcomeWindow::AccountsPopup_Change() {
+    AccountField.SetText(SameText(AccountsPopup.Text(), u"SKR-04"_s) ? u"1600"_s : u"1000"_s);
+}
+
+void WelcomeWindow::OpeningDate_Open() {
+    OpeningDate.SetYear(app_.GetDesktop().Now().Year());
+}
+
+void WelcomeWindow::AboutItem_Action() {
+    app_.GetDesktop().ShowAboutPanel();
+}
+
+void WelcomeWindow::SaveButton_Action() {
+    if (AccountNameField.Text().isEmpty() || AccountField.Text().isEmpty() ||
+        OpeningBalanceField.Text().isEmpty()) {
+        app_.GetDesktop().MsgBox(u"Bitte füllen Sie alle Felder aus: \r\r- Kassenbezeichnung\r"
+                                 "- Konto\r- Anfangsbestand"_s);
+        return;
+    }
+    // The shown day is not the one that was meant if a typed text was refused and left behind.
+    if (OpeningDate.TakeRefusal()) {
+        app_.GetDesktop().MsgBox(u"Bitte das Datum prüfen!"_s);
+        OpeningDate.SetFocus();
+        return;
+    }
+    CreateDatabase();
+}
+
+void WelcomeWindow::CreateDatabase() {
+    SQLiteDatabase &database = app_.NewDatabase();
+    const FolderItem folder = app_.DefaultDatabaseFile().Parent();
+    if (!folder.Exists()) {
+        // A failure shows when the file can't be made.
+        static_cast<void>(folder.CreateAsFolder());
+    }
+    app_.UseDefaultFile(database);
+    if (!database.CreateDatabaseFile()) {
+        app_.GetDesktop().MsgBox(u"Die Datenbank konnte nicht erstellt werden: "_s +
+                                 database.ErrorMessage());
+        creationFailed_ = true;
+        return;
+    }
+    creationFailed_ = !BuildBook(AccountsPopup.Text(), ClosingSQL());
+    if (creationFailed_) {
+        // Lets go of the file, so that it can be removed when the window closes.
+        app_.NewDatabase();
+        return;
+    }
+    Q_EMIT MainWindowWanted();
+    Q_EMIT Closed();
+}
+
 void WelcomeWindow::CreateDemoDatabase() {
     Desktop &desktop = app_.GetDesktop();
     SQLiteDatabase &database = app_.NewDatabase();
@@ -28,20 +170,52 @@ void WelcomeWindow::CreateDemoDatabase() {
                        database.ErrorMessage());
         return;
     }
-    database.SQLExecute(u"BEGIN TRANSACTION"_s);
-    database.SQLExecute(CashBookDDL());
-    database.SQLExecute(ReferenceDataSQL());
-    database.SQLExecute(ChartSKR03SQL());
-    database.SQLExecute(SampleBookSQL(desktop.Now().Year()));
-    if (database.Error()) {
-        desktop.MsgBox(u"Error: "_s + database.ErrorMessage());
-        database.Rollback();
+    if (!BuildBook(u"SKR-03"_s, SampleBookSQL(desktop.Now().Year()))) {
         return;
     }
-    database.Commit();
     desktop.MsgBox(
         u"In der Demo werden Beispieldaten geladen. Sie können alle Funktionen des Programms "
         "testen. Die eingegebenen Daten gehen beim beenden des Programmes verloren."_s);
     Q_EMIT MainWindowWanted();
     Q_EMIT Closed();
+}
+
+QString WelcomeWindow::ClosingSQL() const {
+    // Joined as typed: an apostrophe fails the statement, and the user hears of it.
+    const QStringList company = {CompanyField.Text(), DepartmendField.Text(), StreetField.Text(),
+                                 ZipField.Text(),     CityField.Text(),       PhoneField.Text(),
+                                 AccountsPopup.Text()};
+    const QStringList cashBook = {AccountNameField.Text(), AccountField.Text(),
+                                  TLXModule::AmountText2SQL(OpeningBalanceField.Text()),
+                                  OpeningDate.DateValue().SQLDate()};
+    return u"INSERT INTO core_company (id, company, lastname, street, zipcode, city, phone, "
+           "account_frame) VALUES ('1', '"_s +
+           company.join(u"', '"_s) +
+           u"');INSERT INTO cash_book (ID, name, account, opening_balance, opening_balance_date) "
+           "VALUES ('1', '"_s +
+           cashBook.join(u"', '"_s) + u"');"_s;
+}
+
+bool WelcomeWindow::BuildBook(const QString &chart, const QString &closingSQL) {
+    SQLiteDatabase &database = app_.kvoDB();
+    database.SQLExecute(u"BEGIN TRANSACTION"_s);
+    database.SQLExecute(CashBookDDL());
+    database.SQLExecute(ReferenceDataSQL());
+    if (SameText(chart, u"SKR-03"_s)) {
+        database.SQLExecute(ChartSKR03SQL());
+    }
+    if (SameText(chart, u"SKR-04"_s)) {
+        database.SQLExecute(ChartSKR04SQL());
+    }
+    database.SQLExecute(closingSQL);
+    if (!database.Error()) {
+        // This is where a full disk shows.
+        database.Commit();
+    }
+    if (database.Error()) {
+        app_.GetDesktop().MsgBox(u"Error: "_s + database.ErrorMessage());
+        database.Rollback();
+        return false;
+    }
+    return true;
 }

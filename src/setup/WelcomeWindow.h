@@ -1,14 +1,20 @@
 #pragma once
 
-#include "platform/Canvas.h"
+#include "platform/DateControl.h"
 #include "platform/PagePanel.h"
+#include "platform/PopupMenu.h"
+#include "platform/PushButton.h"
+#include "platform/TextField.h"
+#include "shell/TLXCanvasButton.h"
 
 #include <QObject>
 
 class App;
 
 /// The first window of every start. With a book in its place it hands over to the main window at
-/// once; without one it stays and offers the ways to a book.
+/// once; without one it stays and offers the ways to a book: the sample book, or one of the user's
+/// own from what is typed on two pages. Page 0 is the greeting, 1 the company, 2 chart and cash
+/// book.
 class WelcomeWindow : public QObject {
     Q_OBJECT
 
@@ -16,13 +22,40 @@ public:
     explicit WelcomeWindow(App &app);
 
     PagePanel PagePanel1;
-    Canvas DemoCanvas;
+    TLXCanvasButton DemoCanvas;
+    TLXCanvasButton NewCanvas;
+    TLXCanvasButton ManualCanvas;
+    Canvas Canvas1;
+
+    TextField CompanyField;
+    TextField DepartmendField;
+    TextField StreetField;
+    TextField ZipField;
+    TextField CityField;
+    TextField PhoneField;
+    PushButton ForwardButton;
+
+    PopupMenu AccountsPopup;
+    TextField AccountNameField;
+    TextField AccountField;
+    TextField OpeningBalanceField;
+    PopupMenu CurrencyPopup;
+    DateControl OpeningDate;
+    PushButton BackButton;
+    PushButton SaveButton;
 
     void Event_Open();
+    /// Runs when the window closes. The file of a failed creation goes if no table is in it, for
+    /// the next start would take it for a book.
+    void Event_Close();
+    void AboutItem_Action();
 
     /// Makes the sample book in memory and opens the main window on it. A failure is told, and the
     /// window stays.
     void CreateDemoDatabase();
+    /// Makes the default file from what is typed and opens the main window on it. A failure is
+    /// told, and the window stays with all that is typed; a later attempt uses the same file.
+    void CreateDatabase();
 
 Q_SIGNALS:
     /// Show the main window; the database is dealt with.
@@ -31,5 +64,21 @@ Q_SIGNALS:
     void Closed();
 
 private:
+    void NewCanvas_MouseDown();
+    void ManualCanvas_MouseDown();
+    void ForwardButton_Action();
+    void BackButton_Action();
+    void SaveButton_Action();
+    void AccountsPopup_Change();
+    void OpeningDate_Open();
+
+    void ConnectEvents();
+    void DrawPicture(Canvas &canvas, const QString &name);
+    QString ClosingSQL() const;
+    bool HasNoTables() const;
+    bool BuildBook(const QString &chart, const QString &closingSQL);
+
     App &app_;
+    /// A creation has failed and may have left its file.
+    bool creationFailed_ = false;
 };

@@ -1,10 +1,15 @@
 #include "shell/qt/Windows.h"
 
+#include "setup/WelcomeWindow.h"
 #include "shell/qt/QtDesktop.h"
+#include "shell/qt/WelcomeWindowView.h"
 #include "support/Book.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QMainWindow>
 #include <QMessageBox>
+#include <QStackedWidget>
 #include <QTableView>
 #include <QTest>
 #include <QTimer>
@@ -23,18 +28,11 @@ QWidget *ShownWindow(const QString &name) {
     return nullptr;
 }
 
-TEST(Windows, LeadFromTheWelcomeWindowIntoTheSampleBook) {
-    QtDesktop desktop;
-    App app(desktop, UserLocale(QLocale::c()));
-    ASSERT_FALSE(app.DefaultDatabaseFile().Exists());
-    Windows windows(app);
-    windows.Open();
-    QWidget *welcome = ShownWindow(u"WelcomeWindow"_s);
-    ASSERT_TRUE(welcome);
-    EXPECT_FALSE(ShownWindow(u"MainWindow"_s));
-
+/// Does what opens message boxes, closes each with Return and gives their texts.
+template <typename Action>
+QStringList Boxes(const Action &action) {
     QStringList boxes;
-    QTimer look; // The box blocks the click that opens it.
+    QTimer look; // A box blocks the click that opens it.
     int looks = 0;
     QObject::connect(&look, &QTimer::timeout, &look, [&] {
         if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
@@ -45,8 +43,28 @@ TEST(Windows, LeadFromTheWelcomeWindowIntoTheSampleBook) {
         }
     });
     look.start(10);
+    action();
+    return boxes;
+}
+
+/// A press on a point of the welcome window's 810 by 300 points.
+void Click(QWidget *welcome, QPoint place) {
+    auto *sheet = static_cast<QMainWindow *>(welcome)->centralWidget();
+    QTest::mouseClick(welcome->windowHandle(), Qt::LeftButton, {}, sheet->pos() + place);
+}
+
+TEST(Windows, LeadFromTheWelcomeWindowIntoTheSampleBook) {
+    QtDesktop desktop;
+    App app(desktop, UserLocale(QLocale::c()));
+    ASSERT_FALSE(app.DefaultDatabaseFile().Exists());
+    Windows windows(app);
+    windows.Open();
+    QWidget *welcome = ShownWindow(u"WelcomeWindow"_s);
+    ASSERT_TRUE(welcome);
+    EXPECT_FALSE(ShownWindow(u"MainWindow"_s));
+
     // On the title that lies over the button.
-    QTest::mouseClick(welcome->windowHandle(), Qt::LeftButton, {}, {700, 22});
+    const QStringList boxes = Boxes([&] { Click(welcome, {700, 22}); });
     EXPECT_EQ(boxes.size(), 1);
     EXPECT_FALSE(ShownWindow(u"WelcomeWindow"_s));
     QWidget *main = ShownWindow(u"MainWindow"_s);
@@ -61,6 +79,67 @@ TEST(Windows, OpenTheMainWindowAtOnceOnABookInItsPlace) {
     windows.Open();
     EXPECT_TRUE(ShownWindow(u"MainWindow"_s));
     EXPECT_FALSE(ShownWindow(u"WelcomeWindow"_s));
+}
+
+TEST(Windows, LeadByTheKeysFromTheFirstStartToABookOfOnesOwn) {
+    QtDesktop desktop;
+    App app(desktop, UserLocale(QLocale::c()));
+    Windows windows(app);
+    windows.Open();
+    QWidget *welcome = ShownWindow(u"WelcomeWindow"_s);
+    ASSERT_TRUE(welcome);
+    const auto key = [&](Qt::Key each) {
+        ASSERT_TRUE(welcome->focusWidget());
+        QTest::keyClick(welcome->focusWidget(), each);
+    };
+    const auto *pages = welcome->findChild<QStackedWidget *>(u"PagePanel1"_s);
+    Click(welcome, {700, 150});
+    EXPECT_EQ(Boxes([&] { key(Qt::Key_Return); }),
+              QStringList(u"Bitte geben Sie einen Firmannamen an"_s));
+    QTest::keyClicks(welcome->focusWidget(), u"Peter's"_s);
+    key(Qt::Key_Return);
+    EXPECT_EQ(pages->currentIndex(), 2);
+    key(Qt::Key_Escape);
+    EXPECT_EQ(pages->currentIndex(), 1);
+    EXPECT_EQ(welcome->focusWidget()->objectName(), u"CompanyField"_s);
+    key(Qt::Key_Return);
+    key(Qt::Key_Down);
+    EXPECT_EQ(Boxes([&] { key(Qt::Key_Return); }).size(), 1);
+    EXPECT_TRUE(app.DefaultDatabaseFile().Exists());
+    key(Qt::Key_Escape);
+    key(Qt::Key_Backspace);
+    key(Qt::Key_Backspace);
+    key(Qt::Key_Return);
+    key(Qt::Key_Return);
+    EXPECT_FALSE(ShownWindow(u"WelcomeWindow"_s));
+    EXPECT_TRUE(ShownWindow(u"MainWindow"_s));
+    app.NewDatabase();
+    EXPECT_EQ(ReadWithShell(app.DefaultDatabaseFile().Path(),
+                            u"SELECT company, account_frame FROM core_company"_s),
+              u"Peter|SKR-03\n"_s);
+    EXPECT_TRUE(app.DefaultDatabaseFile().Delete());
+}
+
+TEST(Windows, CloseOnAFailedCreationWithoutItsFile) {
+    Book book; // Its desktop tells without a box, and has no pictures.
+    WelcomeWindow welcome(book.app);
+    WelcomeWindowView view(welcome, book.app.Locale());
+    view.show();
+    const QImage plain = view.grab().toImage();
+    QTest::mouseMove(view.windowHandle(), {600, 200});
+    QTest::mouseMove(view.windowHandle(), {700, 250});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return view.grab().toImage() != plain; }));
+    welcome.AccountNameField.SetText(u"'"_s);
+    welcome.SaveButton.Press();
+    EXPECT_EQ(book.desktop.messages.size(), 1);
+    EXPECT_TRUE(book.app.DefaultDatabaseFile().Exists());
+    view.findChild<QAction *>(u"AboutItem"_s)->trigger();
+    Click(&view, {700, 250});
+    EXPECT_EQ(book.desktop.opened,
+              QStringList({u"about"_s, book.desktop.Path(u"Resources/Zolmark.pdf"_s)}));
+    view.findChild<QAction *>(u"FileQuit"_s)->trigger();
+    EXPECT_FALSE(view.isVisible());
+    EXPECT_FALSE(book.app.DefaultDatabaseFile().Exists());
 }
 
 } // namespace

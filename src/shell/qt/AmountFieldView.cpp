@@ -4,11 +4,6 @@
 
 using namespace Qt::StringLiterals;
 
-AmountFieldView::AmountFieldView(TextField &field, QWidget *parent) : TextFieldView(field, parent) {
-    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    setPlaceholderText(u"in €"_s);
-}
-
 void AmountFieldView::keyPressEvent(QKeyEvent *event) {
     const bool decimal = event->key() == Qt::Key_Period || event->key() == Qt::Key_Comma;
     if (decimal && event->modifiers() == Qt::KeypadModifier) {

@@ -7,7 +7,7 @@ class AmountFieldView : public TextFieldView {
     Q_OBJECT
 
 public:
-    AmountFieldView(TextField &field, QWidget *parent);
+    using TextFieldView::TextFieldView;
 
 protected:
     /// The decimal key of the keypad writes a comma, whichever sign the keyboard layout gives it.

@@ -9,10 +9,7 @@
 #include "shell/qt/ListboxView.h"
 #include "shell/qt/MainWindowView.h"
 #include "shell/qt/PopupMenuView.h"
-#include "shell/qt/PushButtonView.h"
 #include "shell/qt/TextFieldView.h"
-
-#include <QKeyEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -23,7 +20,7 @@ constexpr Sheet::Frame frameOfControls{0xffececec, 0xffcccccc};
 } // namespace
 
 JournalPageView::JournalPageView(MainWindow &window, const UserLocale &locale, QWidget *parent)
-    : Sheet(MainWindowView::designSize, parent), entryRow_(window.entryRow) {
+    : Sheet(MainWindowView::designSize, parent) {
     // In the order of the Tab key.
     AddCaptions(window.entryRow);
     AddEntryRow(window.entryRow, locale);
@@ -46,19 +43,26 @@ void JournalPageView::AddCaptions(EntryRow &row) {
 
 void JournalPageView::AddEntryRow(EntryRow &row, const UserLocale &locale) {
     Add(new DateControlView(row.DateField, locale, this), {20, 110, 108, 23});
-    Add(new AmountFieldView(row.InputField, this), {141, 110, 60, 22});
-    Add(new AmountFieldView(row.OutputField, this), {211, 110, 60, 22});
+    AddAmountField(row.InputField, {141, 110, 60, 22});
+    AddAmountField(row.OutputField, {211, 110, 60, 22});
     Add(new ComboBoxView(row.pickLists.TaxCombo, this), {281, 110, 80, 21});
     Add(new ComboBoxView(row.pickLists.CategoryCombo, this), {370, 110, 169, 21});
     Add(new TextFieldView(row.SaleNumberField, this), {552, 110, 60, 22});
     Add(new TextFieldView(row.NoteField, this), {626, 110, 277, 22}, LTR);
 }
 
+void JournalPageView::AddAmountField(TextField &field, const QRect &place) {
+    auto *view = new AmountFieldView(field, this);
+    view->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    view->setPlaceholderText(u"in €"_s);
+    Add(view, place);
+}
+
 void JournalPageView::AddButtons(EntryRow &row) {
     // The last two share the place of the first; only it or they show.
-    Add(new PushButtonView(row.SubmitButton, this), {915, 110, 145, 20}, TR);
-    Add(new PushButtonView(row.CancelButton, this), {978, 110, 82, 20}, TR);
-    Add(new PushButtonView(row.ChangeButton, this), {915, 110, 59, 20}, TR);
+    AddButton(row.SubmitButton, {915, 110, 145, 20}, TR);
+    AddButton(row.CancelButton, {978, 110, 82, 20}, TR);
+    AddButton(row.ChangeButton, {915, 110, 59, 20}, TR);
 }
 
 void JournalPageView::AddErrorBar(EntryRow &row) {
@@ -71,21 +75,6 @@ void JournalPageView::AddErrorBar(EntryRow &row) {
     message->setPalette(colours);
     bar->Add(message, {13, 0, 448, 18});
     Add(bar, {141, 135, 471, 20});
-}
-
-void JournalPageView::keyPressEvent(QKeyEvent *event) {
-    const bool accepts = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const bool rejects = event->key() == Qt::Key_Escape;
-    for (PushButton *button :
-         {&entryRow_.SubmitButton, &entryRow_.ChangeButton, &entryRow_.CancelButton}) {
-        const bool wanted = (accepts && button->Kind() == PushButton::Role::Default) ||
-                            (rejects && button->Kind() == PushButton::Role::Cancel);
-        if (wanted && button->Visible()) {
-            button->Press();
-            return;
-        }
-    }
-    Sheet::keyPressEvent(event);
 }
 
 void JournalPageView::AddSelectors(MainWindow &window) {

@@ -4,27 +4,23 @@
 
 class EntryRow;
 class MainWindow;
+class TextField;
 class UserLocale;
 
-/// The journal page: selectors, entry row, list of bookings, balances. It takes the keys that no
-/// control took: Return presses the default button that shows, Escape the cancel button.
+/// The journal page: selectors, entry row, list of bookings, balances.
 class JournalPageView : public Sheet {
     Q_OBJECT
 
 public:
     JournalPageView(MainWindow &window, const UserLocale &locale, QWidget *parent);
 
-protected:
-    void keyPressEvent(QKeyEvent *event) override;
-
 private:
     void AddCaptions(EntryRow &row);
     void AddEntryRow(EntryRow &row, const UserLocale &locale);
+    void AddAmountField(TextField &field, const QRect &place);
     void AddButtons(EntryRow &row);
     void AddErrorBar(EntryRow &row);
     void AddSelectors(MainWindow &window);
     void AddCashList(MainWindow &window);
     void AddBalances(MainWindow &window);
-
-    EntryRow &entryRow_;
 };

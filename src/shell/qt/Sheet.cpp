@@ -1,5 +1,9 @@
 #include "shell/qt/Sheet.h"
 
+#include "platform/PushButton.h"
+#include "shell/qt/PushButtonView.h"
+
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 
@@ -15,12 +19,18 @@ void Sheet::Add(QWidget *widget, const QRect &place, Locks locks) {
     layout_->Place(widget, place, locks);
 }
 
+void Sheet::AddButton(PushButton &button, const QRect &place, Locks locks) {
+    Add(new PushButtonView(button, this), place, locks);
+    buttons_.push_back(&button);
+}
+
 QLabel *Sheet::AddCaption(const QString &name, const QString &text, const QRect &place, Locks locks,
                           Qt::Alignment alignment) {
     auto *caption = new QLabel(text, this);
     caption->setObjectName(name);
     caption->setTextFormat(Qt::PlainText);
-    caption->setAlignment(alignment | Qt::AlignVCenter);
+    const bool hasHeight = alignment & Qt::AlignVertical_Mask;
+    caption->setAlignment(hasHeight ? alignment : alignment | Qt::AlignVCenter);
     Add(caption, place, locks);
     return caption;
 }
@@ -34,4 +44,18 @@ void Sheet::paintEvent(QPaintEvent *event) {
     painter.setPen(QColor(frame_->border));
     painter.setBrush(QColor(frame_->fill));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void Sheet::keyPressEvent(QKeyEvent *event) {
+    const bool accepts = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool rejects = event->key() == Qt::Key_Escape;
+    for (PushButton *button : buttons_) {
+        const bool wanted = (accepts && button->Kind() == PushButton::Role::Default) ||
+                            (rejects && button->Kind() == PushButton::Role::Cancel);
+        if (wanted && button->Visible()) {
+            button->Press();
+            return;
+        }
+    }
+    QWidget::keyPressEvent(event);
 }

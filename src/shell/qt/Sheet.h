@@ -7,10 +7,14 @@
 #include <QWidget>
 
 #include <optional>
+#include <vector>
 
+class PushButton;
 class QLabel;
 
-/// A surface that widgets are laid out on at given places, in points from its top left corner.
+/// A surface that widgets are laid out on at given places, in points from its top left corner. It
+/// takes the keys that no control took: Return presses the default button that shows, Escape the
+/// cancel button.
 class Sheet : public QWidget {
     Q_OBJECT
 
@@ -26,14 +30,17 @@ public:
 
     /// Adds a widget; the sheet owns it.
     void Add(QWidget *widget, const QRect &place, Locks locks = LT);
-    /// Adds a caption that never changes.
+    void AddButton(PushButton &button, const QRect &place, Locks locks = LT);
+    /// Adds a caption that never changes; it stands in the middle of its height unless told.
     QLabel *AddCaption(const QString &name, const QString &text, const QRect &place,
                        Locks locks = LT, Qt::Alignment alignment = Qt::AlignLeft);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     LockLayout *layout_;
     std::optional<Frame> frame_;
+    std::vector<PushButton *> buttons_;
 };

@@ -2,19 +2,45 @@
 
 #include "shell/qt/Sheet.h"
 
+#include <QMainWindow>
+
 class QStackedWidget;
+class TLXCanvasButton;
+class UserLocale;
 class WelcomeWindow;
 
 /// The welcome window on the desktop: pages on the left, three large buttons on the right.
-class WelcomeWindowView : public Sheet {
+class WelcomeWindowView : public QMainWindow {
     Q_OBJECT
 
 public:
-    explicit WelcomeWindowView(WelcomeWindow &window);
+    WelcomeWindowView(WelcomeWindow &window, const UserLocale &locale);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
 
 private:
-    void AddGreeting();
-    void AddButtons(WelcomeWindow &window);
+    struct Text {
+        QString name;
+        QString text;
+        int top;
+    };
+    struct Choice {
+        int top;
+        Text title;
+        Text description;
+    };
 
+    void AddMenu();
+    Sheet *AddPage(const QString &name);
+    void AddGreeting();
+    void AddCompanyPage();
+    void AddCashBookPage(const UserLocale &locale);
+    void AddOpeningBalance(Sheet &page, const UserLocale &locale);
+    void AddChoices();
+    void AddChoice(TLXCanvasButton &button, const Choice &choice);
+
+    WelcomeWindow &window_;
+    Sheet *sheet_;
     QStackedWidget *pages_;
 };

@@ -15,7 +15,7 @@ void Windows::Open() {
     connect(welcomeWindow_.get(), &WelcomeWindow::MainWindowWanted, this, &Windows::ShowMainWindow);
     welcomeWindow_->Event_Open();
     if (!mainWindow_) {
-        welcomeView_ = std::make_unique<WelcomeWindowView>(*welcomeWindow_);
+        welcomeView_ = std::make_unique<WelcomeWindowView>(*welcomeWindow_, app_.Locale());
         welcomeView_->show();
     }
 }

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+/// The palette with the background of a window. The given colours are light, so what is written
+/// over them is dark under any desktop theme.
+QPalette GivenColours(QPalette palette, QRgb background);
