@@ -1,26 +1,19 @@
 #pragma once
 
-#include "platform/Date.h"
+#include "platform/CellModel.h"
 #include "platform/Graphics.h"
-
-#include <QAbstractTableModel>
-#include <QString>
-
-#include <variant>
-#include <vector>
 
 class MenuItem;
 
-/// A list of rows with a text in each cell, at most one row selected. It is the model that its view
-/// shows. Rows and columns count from 0, -1 is none; outside the list cells and tags read as empty.
-class Listbox : public QAbstractTableModel {
+/// A list of rows, at most one of them selected and at most one cell open for typing. It is the
+/// model that its view shows.
+///
+/// What has been typed belongs to its own row: before the rows change or another row is selected,
+/// the open cell is closed and written. A handler of CellAction must not change the rows.
+class Listbox : public CellModel {
     Q_OBJECT
 
 public:
-    /// A value stored with a cell, which the list does not show.
-    using Tag = std::variant<std::monostate, QString, Date>;
-    enum class Alignment { Default = 0, Right = 3 };
-
     Listbox(const QString &name, int columnCount);
 
     /// While it lives, the view waits: rows may be deleted and added, and are shown as a whole
@@ -36,49 +29,64 @@ public:
         Listbox &list_;
     };
 
-    /// Adds a row with the text in column 0; it is LastIndex then.
-    void AddRow(const QString &text);
     /// Leaves no rows and no selection.
     void DeleteAllRows();
-    int ListCount() const { return static_cast<int>(rows_.size()); }
-    int LastIndex() const { return ListCount() - 1; }
 
     int ListIndex() const { return listIndex_; }
     void SetListIndex(int row);
-
-    /// Row -1 stands for all rows, column -1 for all columns: cells are then joined by a Tab, rows
-    /// by a line feed.
-    QString Cell(int row, int column) const;
-    void SetCell(int row, int column, const QString &text);
-    /// Writes one column from the first row on, and shows it at once.
-    void SetColumn(int column, const std::vector<QString> &texts);
-    const Tag &CellTag(int row, int column) const;
-    void SetCellTag(int row, int column, Tag tag);
-    QString RowTag(int row) const;
-    void SetRowTag(int row, const QString &tag);
-    /// The first row with the tag, -1 if there is none.
-    int FindRow(const QString &tag) const;
-
-    int ColumnCount() const { return columnCount_; }
-    void SetColumnAlignment(int column, Alignment alignment);
-
-    void SetSortedColumn(int column) { sortedColumn_ = column; }
-    /// Sorts ascending by the sorted column, asking CompareRows, else by the texts without regard
-    /// to case. Rows that compare as equal keep their order; the selection stays with its row.
-    void Sort();
+    /// Whether the user can't clear the selection; the program always can.
+    bool RequiresSelection() const { return requiresSelection_; }
+    void SetRequiresSelection(bool required) { requiresSelection_ = required; }
 
     /// Brings the row into view.
     void ScrollTo(int row);
 
-    int rowCount(const QModelIndex &parent = {}) const override;
-    int columnCount(const QModelIndex &parent = {}) const override;
-    QVariant data(const QModelIndex &index, int role) const override;
+    /// The column that Sort sorts by; -1 at the start, and nothing is sorted.
+    int SortedColumn() const { return sortedColumn_; }
+    bool SortsDescending() const { return descending_; }
+    /// Ascending; takes effect with the next Sort.
+    void SetSortedColumn(int column) { SetOrder(column, false); }
+    /// Sorts by the sorted column, asking CompareRows, else by the texts without regard to case.
+    /// Rows that compare as equal keep their order; the selection stays with its row.
+    void Sort();
+    /// Whether a click on a heading sorts, as it does from the start.
+    bool SortsByHeading() const { return sortsByHeading_; }
+    void SetSortsByHeading(bool sorts) { sortsByHeading_ = sorts; }
+    /// A click on a heading: sorts by the column ascending, or the other way round if the list is
+    /// sorted by it already.
+    void PressHeading(int column);
+
+    /// Ends the edit, selects the row, brings it into view and opens the cell. A cell outside the
+    /// list, a check box and a list that is being refilled open nothing.
+    void EditCell(int row, int column);
+    /// The open cell, -1 when none is.
+    int EditedRow() const { return edit_.row; }
+    int EditedColumn() const { return edit_.column; }
+    /// What stands in the open cell. The cell keeps its own text until the end.
+    QString EditText() const { return edit_.text; }
+    void SetEditText(const QString &text);
+    /// Closes the cell and fires EditClosed. If the text is another than in the beginning, the cell
+    /// takes it, and CellAction follows.
+    void EndEdit();
+    /// Closes the cell, which keeps its text.
+    void DropEdit();
+    /// A click on a check box: ends the edit, then flips the box and fires CellAction.
+    void ToggleCheck(int row, int column);
 
 Q_SIGNALS:
-    /// A click in a cell, before the selection moves on.
-    void CellClick(int row, int column);
+    /// The button went down, over this cell, before anything else. Taken means that neither
+    /// CellClick nor a change of the selection follows, but MouseUp.
+    void MouseDown(int row, int column, bool &taken);
+    /// The button went up after a taken MouseDown, over this cell.
+    void MouseUp(int row, int column);
+    /// A click in a cell, before the selection moves on. Handled means that the list does no more.
+    void CellClick(int row, int column, bool &handled);
     void DoubleClick();
     void LostFocus();
+    /// The user has changed the cell: its edit ended with another text, or its box was flipped.
+    void CellAction(int row, int column);
+    /// A key in the open cell that is no text, such as the Tab u'\t'.
+    void CellKeyDown(int row, int column, QChar key);
     /// Asks for the background of a cell, also of the empty rows below the last one.
     void CellBackgroundPaint(Graphics &graphics, int row, int column);
     /// Asks how two rows compare: the handler sets the result to -1, 0 or 1 and handled to true.
@@ -92,24 +100,29 @@ Q_SIGNALS:
     void SelectionMoved();
     /// For the view: bring the row into view.
     void ScrollRequested(int row);
+    /// For the view: a cell has opened and wants the focus; the cell has closed.
+    void EditOpened();
+    void EditClosed();
 
 private:
-    struct Row {
-        std::vector<QString> cells;
-        std::vector<Tag> tags;
-        QString tag;
+    struct Edit {
+        int row = -1;
+        int column = -1;
+        QString before;
+        QString text;
     };
 
-    bool Has(int row) const { return row >= 0 && row < ListCount(); }
-    const Row &At(int row) const { return rows_[static_cast<size_t>(row)]; }
-    Row &At(int row) { return rows_[static_cast<size_t>(row)]; }
+    bool IsCheckBox(int row, int column) const;
+    bool CanEdit(int row, int column) const;
+    void SetOrder(int column, bool descending);
     bool Less(int first, int second);
-    QString Joined(const Row &row) const;
+    /// Ends the edit, and closes what a handler of CellAction may have opened.
+    void LeaveCell();
 
-    int columnCount_;
-    std::vector<Row> rows_;
-    std::vector<Alignment> alignments_;
+    Edit edit_;
     int listIndex_ = -1;
-    int sortedColumn_ = 0;
-    int refills_ = 0;
+    int sortedColumn_ = -1;
+    bool descending_ = false;
+    bool sortsByHeading_ = true;
+    bool requiresSelection_ = false;
 };

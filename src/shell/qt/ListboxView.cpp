@@ -125,7 +125,11 @@ void ListboxView::PaintRow(QPainter &painter, int row, int top) {
 void ListboxView::mousePressEvent(QMouseEvent *event) {
     const QModelIndex cell = indexAt(event->position().toPoint());
     if (cell.isValid() && event->button() == Qt::LeftButton) {
-        Q_EMIT list_.CellClick(cell.row(), cell.column());
+        bool handled = false;
+        Q_EMIT list_.CellClick(cell.row(), cell.column(), handled);
+        if (handled) {
+            return;
+        }
     }
     QTableView::mousePressEvent(event);
 }

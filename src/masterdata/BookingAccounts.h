@@ -1,0 +1,48 @@
+#pragma once
+
+#include "masterdata/RecordList.h"
+#include "platform/Listbox.h"
+#include "shell/TLXPlusMinusButton.h"
+
+#include <QObject>
+
+class App;
+
+/// The booking accounts, edited in their list. Bookings keep their own copies of an account's name
+/// and number, so nothing here alters them.
+class BookingAccounts : public QObject {
+    Q_OBJECT
+
+public:
+    /// The kind is "E" for receipts or "A" for expenses. Active is a check box; only active
+    /// accounts are offered to bookings.
+    enum Column { Name, Account, Kind, Active };
+
+    explicit BookingAccounts(App &app);
+
+    Listbox CashaccountList;
+    TLXPlusMinusButton AccountsAdd;
+
+    /// Fills the list from the book, sorted by name; an open cell is written first. The selected
+    /// account stays selected. A failure is told and leaves the list as it was.
+    void LoadCashAccounts();
+    /// Writes one cell into the book. A failure is not told.
+    void SaveAccount(int row, int column);
+
+private:
+    void CashaccountList_Open();
+    void CashaccountList_CellClick(int row, int column, bool &handled);
+    void CashaccountList_CellAction(int row, int column);
+    void CashaccountList_CellKeyDown(int row, int column, QChar key);
+    void CashaccountList_MouseDown(int row, int column, bool &taken) const;
+    void CashaccountList_MouseUp(int row, int column);
+    void CashaccountList_CompareRows(int first, int second, int column, int &result,
+                                     bool &handled) const;
+    void AccountsAdd_PlusPressed();
+    void AccountsAdd_MinusPressed();
+    void AddRow(RecordSet &record);
+    void FollowTheList();
+
+    App &app_;
+    RecordList records_;
+};

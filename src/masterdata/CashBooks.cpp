@@ -1,0 +1,89 @@
+#include "masterdata/CashBooks.h"
+
+#include "core/App.h"
+#include "platform/Text.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What the user can edit, in the order of the list's columns.
+constexpr std::array columns = {"name"_L1, "account"_L1, "opening_balance"_L1};
+
+constexpr int columnCount = static_cast<int>(columns.size());
+
+} // namespace
+
+CashBooks::CashBooks(App &app)
+    : CashbookList(u"CashbookList"_s, 4), CashBookAdd(u"CashBookAdd"_s), app_(app),
+      records_(app, CashbookList, u"cash_book"_s, [this](RecordSet &record) { AddRow(record); }) {
+    CashbookList.SetHasHeading(true);
+    CashbookList.SetHeading(Name, u"Kassen"_s);
+    CashbookList.SetHeading(Account, u"Konto"_s);
+    CashbookList.SetHeading(OpeningBalance, u"Anfangsbetsand"_s);
+    CashbookList.SetHeading(OpeningDate, u"Datum"_s);
+    CashbookList.SetRequiresSelection(true);
+    CashbookList.SetSortsByHeading(false);
+    CashBookAdd.FillColor = Color{0xC0C0C0};
+    CashBookAdd.HoverColor = Color{0xEBEBEB};
+    connect(&CashbookList, &Listbox::CellAction, this, &CashBooks::CashbookList_CellAction);
+    connect(&CashbookList, &Listbox::DoubleClick, this, &CashBooks::CashbookList_DoubleClick);
+    connect(&CashbookList, &Listbox::CellKeyDown, this, &CashBooks::CashbookList_CellKeyDown);
+    connect(&CashBookAdd, &TLXPlusMinusButton::PlusPressed, this,
+            &CashBooks::CashBookAdd_PlusPressed);
+    connect(&CashBookAdd, &TLXPlusMinusButton::MinusPressed, this,
+            &CashBooks::CashBookAdd_MinusPressed);
+}
+
+void CashBooks::LoadCashBook() {
+    records_.Load();
+}
+
+void CashBooks::AddRow(RecordSet &record) {
+    CashbookList.AddRow(record.Field("name"_L1).StringValue());
+    const int row = CashbookList.LastIndex();
+    CashbookList.SetCell(row, Account, record.Field("account"_L1).StringValue());
+    CashbookList.SetCell(row, OpeningBalance, record.Field("opening_balance"_L1).StringValue());
+    const DatabaseField date = record.Field("opening_balance_date"_L1);
+    const std::optional<Date> day = date.DateValue();
+    CashbookList.SetCell(row, OpeningDate,
+                         day ? app_.Locale().ShortDate(*day) : date.StringValue());
+}
+
+void CashBooks::CashbookList_CellAction(int row, int column) {
+    if (column < columnCount) {
+        records_.Save(row, columns[static_cast<size_t>(column)], CashbookList.Cell(row, column));
+    }
+}
+
+void CashBooks::CashbookList_DoubleClick() {
+    CashbookList.EditCell(CashbookList.ListIndex(), Name);
+}
+
+void CashBooks::CashbookList_CellKeyDown(int row, int column, QChar key) {
+    if (key == u'\t') {
+        CashbookList.EditCell(row, (column + 1) % columnCount);
+    }
+}
+
+void CashBooks::CashBookAdd_PlusPressed() {
+    // The last row's account may be the one that is just being typed.
+    CashbookList.EndEdit();
+    const int last = CashbookList.LastIndex();
+    const double account = Val(CashbookList.Cell(last, Account)) + 10.0;
+    records_.Add(
+        u"INSERT INTO cash_book (name,account,opening_balance,opening_balance_date) "
+        "VALUES ('Nebenkasse %1','%2', '0.00', '2015-01-01')"_s.arg(
+            QString::number(last), QString::number(account, 'f', QLocale::FloatingPointShortest)));
+}
+
+void CashBooks::CashBookAdd_MinusPressed() {
+    CashbookList.EndEdit();
+    if (CashbookList.ListIndex() == 0) {
+        app_.GetDesktop().MsgBox(u"Hauptkasse kann nicht gelöscht werden!"_s);
+        return;
+    }
+    records_.RemoveSelected();
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "masterdata/RecordList.h"
+#include "platform/Listbox.h"
+#include "shell/TLXPlusMinusButton.h"
+
+#include <QObject>
+
+class App;
+
+/// The cash books, edited in their list. The first row is the main cash book, which can't be
+/// removed; the list therefore keeps the table's order.
+class CashBooks : public QObject {
+    Q_OBJECT
+
+public:
+    enum Column { Name, Account, OpeningBalance, OpeningDate };
+
+    explicit CashBooks(App &app);
+
+    Listbox CashbookList;
+    TLXPlusMinusButton CashBookAdd;
+
+    /// Fills the list from the book; an open cell is written first. The selected cash book stays
+    /// selected. A failure is told and leaves the list as it was.
+    void LoadCashBook();
+
+private:
+    void CashbookList_CellAction(int row, int column);
+    void CashbookList_DoubleClick();
+    void CashbookList_CellKeyDown(int row, int column, QChar key);
+    void CashBookAdd_PlusPressed();
+    void CashBookAdd_MinusPressed();
+    void AddRow(RecordSet &record);
+
+    App &app_;
+    RecordList records_;
+};

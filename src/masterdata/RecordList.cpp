@@ -1,0 +1,68 @@
+#include "masterdata/RecordList.h"
+
+#include "core/App.h"
+#include "platform/Listbox.h"
+
+using namespace Qt::StringLiterals;
+
+RecordList::RecordList(App &app, Listbox &list, const QString &table, AddRow addRow,
+                       int sortedColumn)
+    : app_(app), list_(list), table_(table), addRow_(std::move(addRow)),
+      sortedColumn_(sortedColumn) {}
+
+void RecordList::Load() {
+    list_.EndEdit();
+    const auto records = app_.kvoDB().SQLSelect(u"SELECT * FROM "_s + table_);
+    if (app_.ReportError()) {
+        return;
+    }
+    {
+        const Listbox::Refill refill(list_);
+        const QString selected = list_.RowTag(list_.ListIndex());
+        list_.DeleteAllRows();
+        for (const auto id = records->Field("id"_L1); !records->AtEnd(); records->MoveNext()) {
+            addRow_(*records);
+            list_.SetRowTag(list_.LastIndex(), id.StringValue());
+        }
+        list_.SetListIndex(list_.FindRow(selected));
+    }
+    // A damaged page shows only on the way.
+    app_.ReportError();
+    list_.SetSortedColumn(sortedColumn_);
+    list_.Sort();
+}
+
+void RecordList::Save(int row, QLatin1StringView column, const QString &value) {
+    SQLitePreparedStatement update =
+        app_.kvoDB().Prepare(u"UPDATE %1 SET %2 = ? WHERE id = ?"_s.arg(table_, column));
+    update.Bind(0, value);
+    update.Bind(1, list_.RowTag(row));
+    update.SQLExecute();
+}
+
+void RecordList::Add(const QString &insert) {
+    list_.EndEdit();
+    SQLiteDatabase &database = app_.kvoDB();
+    database.SQLExecute(insert);
+    if (app_.ReportError()) {
+        return;
+    }
+    const QString id = QString::number(database.LastRowID());
+    Load();
+    list_.EditCell(list_.FindRow(id), 0);
+}
+
+void RecordList::RemoveSelected() {
+    list_.EndEdit();
+    const int row = list_.ListIndex();
+    if (row < 0) {
+        return;
+    }
+    const QString neighbour = list_.RowTag(row < list_.LastIndex() ? row + 1 : row - 1);
+    app_.kvoDB().SQLExecute(u"DELETE FROM %1 WHERE id = %2"_s.arg(table_, list_.RowTag(row)));
+    Load();
+    if (list_.ListIndex() < 0) {
+        list_.SetListIndex(list_.FindRow(neighbour));
+    }
+    list_.ScrollTo(list_.ListIndex());
+}

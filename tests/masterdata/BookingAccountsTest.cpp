@@ -1,0 +1,109 @@
+#include "masterdata/BookingAccounts.h"
+
+#include "support/Book.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class BookingAccountsTest : public testing::Test {
+protected:
+    BookingAccountsTest() {
+        book.Run(u"DELETE FROM cash_accounts"_s);
+        book.Run(u"INSERT INTO cash_accounts (id, name, account, type, active, taxID) VALUES "
+                 "(1, 'ölig', '0815', 'A', '1', 9), (2, 'b', '4711', 'E', '0', 9), "
+                 "(3, 'A', NULL, 'E', NULL, 9)"_s);
+        accounts.LoadCashAccounts();
+    }
+
+    /// One column of all accounts, in the order of their ids, as the database holds it.
+    QString Stored(const QString &column) const {
+        return book.Value(
+            u"SELECT group_concat(ifnull(%1, 'NULL'), ' ') FROM cash_accounts"_s.arg(column));
+    }
+    QString Order() const { return list.RowTag(0) + list.RowTag(1) + list.RowTag(2); }
+
+    Book book;
+    BookingAccounts accounts{book.app};
+    Listbox &list = accounts.CashaccountList;
+    TLXPlusMinusButton &button = accounts.AccountsAdd;
+};
+
+TEST_F(BookingAccountsTest, ListsThemByNameAndSortsByTheCheckBothWays) {
+    EXPECT_EQ(list.Cell(-1, -1), u"A\t\tE\t\nb\t4711\tE\t\nölig\t0815\tA\t"_s);
+    EXPECT_EQ(list.Heading(-1), u"Bezeichnung\tKontonummer\tArt\tAktiv"_s);
+    list.ToggleCheck(0, BookingAccounts::Active);
+    EXPECT_EQ(Order(), u"321"_s);
+    list.PressHeading(BookingAccounts::Active);
+    EXPECT_EQ(Order(), u"231"_s);
+    list.PressHeading(BookingAccounts::Active);
+    EXPECT_EQ(Order(), u"312"_s);
+    accounts.LoadCashAccounts();
+    EXPECT_EQ(Order(), u"321"_s);
+}
+
+TEST_F(BookingAccountsTest, WritesTextsAndChecksAtOnceAndLeavesTheRestAlone) {
+    bool handled = false;
+    Q_EMIT list.CellClick(1, BookingAccounts::Active, handled);
+    EXPECT_FALSE(handled);
+    Q_EMIT list.CellClick(0, BookingAccounts::Account, handled);
+    EXPECT_TRUE(handled);
+    for (const auto &text : {u"0042"_s, u"Ö'; \"x\""_s, u"0043"_s}) {
+        list.SetEditText(text);
+        Q_EMIT list.CellKeyDown(list.EditedRow(), list.EditedColumn(), u'\t');
+    }
+    EXPECT_EQ(list.EditedRow() * 10 + list.EditedColumn(), 0);
+    for (const int row : {1, 2, 2, 2}) {
+        list.ToggleCheck(row, BookingAccounts::Active);
+    }
+    EXPECT_EQ(Stored(u"name"_s), u"ölig b Ö'; \"x\""_s);
+    EXPECT_EQ(Stored(u"account"_s), u"0815 4711 0043"_s);
+    EXPECT_EQ(Stored(u"active"_s), u"0 1 NULL"_s);
+    EXPECT_EQ(Stored(u"taxID"_s) + Stored(u"note"_s), u"9 9 9NULL NULL NULL"_s);
+}
+
+TEST_F(BookingAccountsTest, ChoosesTheKindFromAMenu) {
+    const std::tuple<int, int, std::optional<int>, QString> cases[] = {
+        {1, BookingAccounts::Kind, std::nullopt, u"A E E"_s},
+        {1, BookingAccounts::Account, 1, u"A E E"_s},
+        {-1, BookingAccounts::Kind, 1, u"A E E"_s},
+        {1, BookingAccounts::Kind, 1, u"A A E"_s},
+        {2, BookingAccounts::Kind, 0, u"E A E"_s}};
+    for (const auto &[row, column, choice, kinds] : cases) {
+        bool taken = false;
+        Q_EMIT list.MouseDown(row, column, taken);
+        EXPECT_EQ(taken, column == BookingAccounts::Kind);
+        list.SetListIndex(1);
+        book.desktop.menuChoice = choice;
+        Q_EMIT list.MouseUp(row, column);
+        EXPECT_EQ(Stored(u"type"_s), kinds);
+        EXPECT_EQ(list.ListIndex(), row < 0 ? 1 : row);
+    }
+    EXPECT_EQ(list.Cell(-1, BookingAccounts::Kind), u"E\nA\nE"_s);
+}
+
+TEST_F(BookingAccountsTest, PlusOpensTheNewNameAtItsPlaceAndMinusRemoves) {
+    Q_EMIT button.MinusPressed(); // Nothing is selected.
+    list.EditCell(0, BookingAccounts::Name);
+    list.SetEditText(u"Zins"_s);
+    Q_EMIT button.PlusPressed();
+    Q_EMIT button.PlusPressed();
+    EXPECT_EQ(list.Cell(list.EditedRow(), list.EditedColumn()), u"Neues Konto"_s);
+    EXPECT_EQ(list.Cell(-1, BookingAccounts::Name), u"b\nNeues Konto\nNeues Konto\nZins\nölig"_s);
+    EXPECT_EQ(Stored(u"account || type || active"_s), u"0815A1 4711E0 NULL NULL NULL"_s);
+    EXPECT_EQ(Stored(u"name || type || active"_s),
+              u"öligA1 bE0 NULL Neues KontoE1 Neues KontoE1"_s);
+    list.SetListIndex(4);
+    Q_EMIT button.MinusPressed();
+    Q_EMIT button.MinusPressed(); // The row above is selected now.
+    EXPECT_EQ(Stored(u"name"_s), u"b Neues Konto Neues Konto"_s);
+    EXPECT_EQ(book.desktop.messages, QStringList());
+    book.app.NewDatabase();
+    accounts.LoadCashAccounts();
+    EXPECT_EQ(list.ListCount(), 3);
+    EXPECT_EQ(book.desktop.messages.filter(u"DB Error: "_s).size(), 1);
+}
+
+} // namespace

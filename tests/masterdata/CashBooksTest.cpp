@@ -1,0 +1,102 @@
+#include "masterdata/CashBooks.h"
+
+#include "support/Book.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class CashBooksTest : public testing::Test {
+protected:
+    CashBooksTest() { books.LoadCashBook(); }
+
+    void Type(int row, int column, const QString &text) {
+        list.EditCell(row, column);
+        list.SetEditText(text);
+    }
+    /// All cash books, as the database holds them.
+    QString Stored() const {
+        return book.Value(u"SELECT group_concat(name || ' ' || account || ' ' || opening_balance "
+                          "|| ' ' || opening_balance_date, '\n') FROM cash_book"_s);
+    }
+
+    Book book;
+    CashBooks books{book.app};
+    Listbox &list = books.CashbookList;
+    TLXPlusMinusButton &button = books.CashBookAdd;
+};
+
+TEST_F(CashBooksTest, ListsWhatTheBookHoldsAndKeepsTheSelection) {
+    book.Run(u"INSERT INTO cash_book VALUES (7, 'Büro', NULL, '12,50', 'bald', NULL)"_s);
+    books.LoadCashBook();
+    EXPECT_EQ(list.Cell(-1, -1), u"Kasse\t1000\t100.0\t01.01.2026\nBüro\t\t12,50\tbald"_s);
+    EXPECT_EQ(list.Heading(-1), u"Kassen\tKonto\tAnfangsbetsand\tDatum"_s);
+    list.SetListIndex(1);
+    books.LoadCashBook();
+    EXPECT_EQ(list.ListIndex(), 1);
+    Type(0, CashBooks::Name, u"Laden"_s);
+    books.LoadCashBook();
+    list.PressHeading(CashBooks::Name);
+    EXPECT_EQ(list.Cell(0, CashBooks::Name), u"Laden"_s) << "the main cash book stays first";
+}
+
+TEST_F(CashBooksTest, PlusNumbersNewBooksAndOpensTheirNames) {
+    Q_EMIT button.PlusPressed();
+    Q_EMIT button.PlusPressed();
+    EXPECT_EQ(Stored(), u"Kasse 1000 100.0 2026-01-01\nNebenkasse 0 1010 0.0 2015-01-01\n"
+                        "Nebenkasse 1 1020 0.0 2015-01-01"_s);
+    EXPECT_EQ(list.EditedRow() * 10 + list.EditedColumn(), 20);
+    Type(2, CashBooks::Account, u"Bar"_s);
+    Q_EMIT button.PlusPressed();
+    EXPECT_EQ(list.Cell(-1, CashBooks::Account), u"1000\n1010\nBar\n10"_s);
+    Type(3, CashBooks::Account, u"990 neu"_s);
+    Q_EMIT button.PlusPressed();
+    EXPECT_EQ(book.desktop.messages,
+              QStringList(u"DB Error: UNIQUE constraint failed: cash_book.account"_s));
+    book.app.NewDatabase();
+    Q_EMIT button.PlusPressed();
+    Q_EMIT button.MinusPressed();
+    EXPECT_EQ(book.desktop.messages.filter(u"DB Error: "_s).size(), 3);
+    EXPECT_EQ(list.ListCount(), 4);
+}
+
+TEST_F(CashBooksTest, WritesEachCellAsTypedAndTabRunsInACircle) {
+    Q_EMIT button.PlusPressed();
+    list.EndEdit();
+    Q_EMIT list.DoubleClick();
+    for (const auto &text : {u"Ö'; \"%1\" --"_s, u"0815"_s, u"12,50"_s}) {
+        list.SetEditText(text);
+        Q_EMIT list.CellKeyDown(list.EditedRow(), list.EditedColumn(), u'\t');
+    }
+    EXPECT_EQ(list.EditedRow() * 10 + list.EditedColumn(), 10);
+    EXPECT_EQ(Stored(), u"Kasse 1000 100.0 2026-01-01\nÖ'; \"%1\" -- 0815 12,50 2015-01-01"_s);
+    Type(1, CashBooks::Account, u"1000"_s); // Taken.
+    list.EndEdit();
+    EXPECT_EQ(list.Cell(1, CashBooks::Account), u"1000"_s);
+    books.LoadCashBook();
+    EXPECT_EQ(list.Cell(1, CashBooks::Account), u"0815"_s);
+    EXPECT_EQ(book.desktop.messages, QStringList());
+}
+
+TEST_F(CashBooksTest, MinusRemovesTheSelectedBookButNeverTheMainOne) {
+    Q_EMIT button.MinusPressed();
+    EXPECT_EQ(book.desktop.messages, QStringList()) << "nothing is selected";
+    book.Add({.date = u"2026-01-02"_s, .type = u"A"_s, .amount = u"2"_s, .cashbook = u"2"_s});
+    Q_EMIT button.PlusPressed();
+    Q_EMIT button.PlusPressed();
+    Type(2, CashBooks::Name, u"Laden"_s);
+    list.SetListIndex(1);
+    Q_EMIT button.MinusPressed();
+    EXPECT_EQ(Stored(), u"Kasse 1000 100.0 2026-01-01\nLaden 1020 0.0 2015-01-01"_s);
+    EXPECT_EQ(list.RowTag(list.ListIndex()), u"3"_s);
+    Type(1, CashBooks::Name, u"weg"_s);
+    Q_EMIT button.MinusPressed();
+    Q_EMIT button.MinusPressed(); // The main cash book is selected now.
+    EXPECT_EQ(Stored(), u"Kasse 1000 100.0 2026-01-01"_s);
+    EXPECT_EQ(book.desktop.messages, QStringList(u"Hauptkasse kann nicht gelöscht werden!"_s));
+    EXPECT_EQ(book.Value(u"SELECT count(*) FROM cash_journal"_s), u"1"_s);
+}
+
+} // namespace
