@@ -4,12 +4,18 @@
 #include "journal/EntryRow.h"
 #include "journal/Journal.h"
 #include "journal/Selectors.h"
+#include "masterdata/BookingAccounts.h"
+#include "masterdata/CashBooks.h"
+#include "masterdata/CompanyProfile.h"
+#include "platform/PagePanel.h"
+#include "platform/ToolItem.h"
 
 #include <QObject>
 
 class App;
 
-/// The one document window: it puts the rooms together, opens and closes them.
+/// The one document window: it puts the rooms together, opens and closes them, and routes the
+/// commands. Page 0 is the journal, page 1 the preferences.
 class MainWindow : public QObject {
     Q_OBJECT
 
@@ -20,15 +26,33 @@ public:
     Journal journal;
     Balances balances;
     EntryRow entryRow;
+    CompanyProfile companyProfile;
+    CashBooks cashBooks;
+    BookingAccounts bookingAccounts;
+
+    PagePanel PagePanel1;
+    /// Leads to the preferences, and back to the journal.
+    ToolItem PreferencesButton;
 
     /// Runs once, when the window with all its controls is there.
     void Event_Open();
+    /// Runs when the window closes: what has been typed in the preferences is written.
+    void Event_Close();
+
+    /// Runs the command of a word: "preferences" enters the preferences page and reads it anew from
+    /// the book, "cashbook" leaves it and saves the company if it was edited. Another word does
+    /// nothing.
+    void MenuAction(const QString &word);
 
     /// Whether the commands that work on a booking are open: a click in the list opens them, and
     /// they close when the focus leaves the list.
     bool MenuItemEnable() const { return menuItemEnable_; }
 
 private:
+    void EnterPreferences();
+    void LeavePreferences();
+    void EndEdits();
+    void MainWindowToolbar_Action();
     void CashList_CellClick();
     void CashList_LostFocus();
 

@@ -1,5 +1,7 @@
 #include "platform/Currency.h"
 
+#include "support/PrintText.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>

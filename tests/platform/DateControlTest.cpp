@@ -1,5 +1,7 @@
 #include "platform/DateControl.h"
 
+#include "support/PrintText.h"
+
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 

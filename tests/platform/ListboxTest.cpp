@@ -1,5 +1,7 @@
 #include "platform/Listbox.h"
 
+#include "support/PrintText.h"
+
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 #include <gtest/gtest.h>

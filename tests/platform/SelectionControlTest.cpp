@@ -1,5 +1,6 @@
 #include "platform/ComboBox.h"
 #include "platform/PopupMenu.h"
+#include "support/PrintText.h"
 
 #include <QStringList>
 #include <gtest/gtest.h>

@@ -1,5 +1,7 @@
 #include "platform/Text.h"
 
+#include "support/PrintText.h"
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;

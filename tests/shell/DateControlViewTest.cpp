@@ -2,6 +2,7 @@
 
 #include "platform/DateControl.h"
 #include "platform/UserLocale.h"
+#include "support/PrintText.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -67,7 +67,7 @@ protected:
     Book book;
     MainWindow window{book.app};
     EntryRow &row = window.entryRow;
-    MainWindowView view{window, book.app.Locale()};
+    MainWindowView view{window, book.app};
     QTableView *list = Find<QTableView>(u"CashList"_s);
 };
 

@@ -25,7 +25,7 @@ protected:
 
     Book book;
     MainWindow window{book.app};
-    MainWindowView view{window, book.app.Locale()};
+    MainWindowView view{window, book.app};
     QTableView &list = *view.findChild<QTableView *>(u"CashList"_s);
 };
 

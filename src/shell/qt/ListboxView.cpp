@@ -2,9 +2,11 @@
 
 #include "platform/Listbox.h"
 #include "platform/MenuItem.h"
+#include "shell/qt/CellEditor.h"
 #include "shell/qt/ControlBinding.h"
 #include "shell/qt/PainterGraphics.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QFocusEvent>
 #include <QHeaderView>
@@ -14,6 +16,8 @@
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 
+#include <utility>
+
 namespace {
 
 constexpr int lineHeight = 18;
@@ -21,7 +25,8 @@ constexpr int lineHeight = 18;
 /// More than any column shows; laying out more would only cost time.
 constexpr int longestShownText = 1000;
 
-/// Shows each text on one line. The row is what is selected: no cell of it is marked on its own.
+/// Shows each text on one line, and a check box in the middle of its cell. The row is what is
+/// selected: no cell of it is marked on its own.
 class RowDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -34,6 +39,25 @@ public:
             }
         }
         return text;
+    }
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override {
+        const QVariant checked = index.data(Qt::CheckStateRole);
+        if (!checked.isValid()) {
+            QStyledItemDelegate::paint(painter, option, index);
+            return;
+        }
+        QStyleOptionViewItem box = option;
+        initStyleOption(&box, index);
+        box.features &= ~QStyleOptionViewItem::HasCheckIndicator;
+        const QStyle &style = *option.widget->style();
+        style.drawControl(QStyle::CE_ItemViewItem, &box, painter, option.widget);
+        const QSize size(style.pixelMetric(QStyle::PM_IndicatorWidth, &box, option.widget),
+                         style.pixelMetric(QStyle::PM_IndicatorHeight, &box, option.widget));
+        box.rect = QStyle::alignedRect(option.direction, Qt::AlignCenter, size, option.rect);
+        box.state |= checked == Qt::Checked ? QStyle::State_On : QStyle::State_Off;
+        style.drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, painter, option.widget);
     }
 
 protected:
@@ -56,14 +80,14 @@ ListboxView::ListboxView(Listbox &list, QWidget *parent) : QTableView(parent), l
     setShowGrid(false);
     setWordWrap(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    horizontalHeader()->hide();
-    horizontalHeader()->setMinimumSectionSize(0);
-    horizontalHeader()->setStretchLastSection(true);
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(lineHeight);
     verticalHeader()->setDefaultSectionSize(lineHeight);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    SetUpHeading();
     connect(&list, &Listbox::SelectionMoved, this, &ListboxView::ShowSelection);
+    connect(&list, &Listbox::EditOpened, this, &ListboxView::OpenEditor);
+    connect(&list, &Listbox::EditClosed, this, &ListboxView::CloseEditor);
     connect(&list, &Listbox::ScrollRequested, this, [this](int row) {
         // Right after a refill the scroll bar still has the range of the rows before.
         updateGeometries();
@@ -71,11 +95,46 @@ ListboxView::ListboxView(Listbox &list, QWidget *parent) : QTableView(parent), l
     });
 }
 
-void ListboxView::SetColumnWidths(std::initializer_list<int> widths) {
-    int column = 0;
-    for (const int width : widths) {
-        horizontalHeader()->resizeSection(column++, width);
+void ListboxView::SetUpHeading() {
+    QHeaderView &heading = *horizontalHeader();
+    heading.setVisible(list_.HasHeading());
+    heading.setMinimumSectionSize(0);
+    heading.setHighlightSections(false);
+    QFont small = font();
+    small.setPixelSize(QFontInfo(small).pixelSize() - 1);
+    heading.setFont(small);
+    heading.setSectionsClickable(list_.SortsByHeading());
+    connect(&heading, &QHeaderView::sectionClicked, &list_, &Listbox::PressHeading);
+    connect(&list_, &Listbox::headerDataChanged, this, [this] {
+        const auto order = list_.SortsDescending() ? Qt::DescendingOrder : Qt::AscendingOrder;
+        horizontalHeader()->setSortIndicatorShown(list_.SortedColumn() >= 0 && list_.HasHeading());
+        horizontalHeader()->setSortIndicator(list_.SortedColumn(), order);
+    });
+}
+
+void ListboxView::SetColumnWidths(const std::vector<int> &widths) {
+    for (int column = 0; column < list_.ColumnCount(); ++column) {
+        const auto place = static_cast<size_t>(column);
+        const int width = place < widths.size() ? widths[place] : 0;
+        horizontalHeader()->setSectionResizeMode(column, width > 0 ? QHeaderView::Fixed
+                                                                   : QHeaderView::Stretch);
+        horizontalHeader()->resizeSection(column, width);
     }
+}
+
+void ListboxView::OpenEditor() {
+    const QModelIndex cell = list_.index(list_.EditedRow(), list_.EditedColumn());
+    auto *editor = new CellEditor(list_, viewport());
+    setIndexWidget(cell, editor);
+    edited_ = cell;
+    editor->setFocus(Qt::OtherFocusReason);
+}
+
+void ListboxView::CloseEditor() {
+    if (indexWidget(edited_) == QApplication::focusWidget()) {
+        setFocus(Qt::OtherFocusReason);
+    }
+    setIndexWidget(edited_, nullptr);
 }
 
 void ListboxView::ShowSelection() {
@@ -122,16 +181,39 @@ void ListboxView::PaintRow(QPainter &painter, int row, int top) {
     }
 }
 
+bool ListboxView::TakePress(QPoint place) {
+    bool taken = false;
+    Q_EMIT list_.MouseDown(rowAt(place.y()), columnAt(place.x()), taken);
+    if (taken) {
+        pressTaken_ = true;
+        return true;
+    }
+    const QModelIndex cell = indexAt(place);
+    if (!cell.isValid()) {
+        return false;
+    }
+    bool handled = false;
+    Q_EMIT list_.CellClick(cell.row(), cell.column(), handled);
+    if (!handled && list_.TypeOfColumn(cell.column()) == Listbox::ColumnType::CheckBox) {
+        list_.ToggleCheck(cell.row(), cell.column());
+    }
+    return handled;
+}
+
 void ListboxView::mousePressEvent(QMouseEvent *event) {
-    const QModelIndex cell = indexAt(event->position().toPoint());
-    if (cell.isValid() && event->button() == Qt::LeftButton) {
-        bool handled = false;
-        Q_EMIT list_.CellClick(cell.row(), cell.column(), handled);
-        if (handled) {
-            return;
-        }
+    if (event->button() == Qt::LeftButton && TakePress(event->position().toPoint())) {
+        return;
     }
     QTableView::mousePressEvent(event);
+}
+
+void ListboxView::mouseReleaseEvent(QMouseEvent *event) {
+    if (event->button() == Qt::LeftButton && std::exchange(pressTaken_, false)) {
+        const QPoint place = event->position().toPoint();
+        Q_EMIT list_.MouseUp(rowAt(place.y()), columnAt(place.x()));
+        return;
+    }
+    QTableView::mouseReleaseEvent(event);
 }
 
 void ListboxView::mouseDoubleClickEvent(QMouseEvent *event) {
@@ -139,6 +221,33 @@ void ListboxView::mouseDoubleClickEvent(QMouseEvent *event) {
     if (event->button() == Qt::LeftButton) {
         Q_EMIT list_.DoubleClick();
     }
+}
+
+void ListboxView::keyPressEvent(QKeyEvent *event) {
+    const int row = list_.ListIndex();
+    if (event->key() == Qt::Key_F2 && row >= 0) {
+        // What a double click on the row's first cell does.
+        bool handled = false;
+        Q_EMIT list_.CellClick(row, 0, handled);
+        if (!handled) {
+            Q_EMIT list_.DoubleClick();
+        }
+    } else if (event->key() == Qt::Key_Space && row >= 0) {
+        for (int column = 0; column < list_.ColumnCount(); ++column) {
+            list_.ToggleCheck(row, column);
+        }
+    } else {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+QItemSelectionModel::SelectionFlags ListboxView::selectionCommand(const QModelIndex &index,
+                                                                  const QEvent *event) const {
+    if (!list_.RequiresSelection()) {
+        return QTableView::selectionCommand(index, event);
+    }
+    return index.isValid() ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                           : QItemSelectionModel::NoUpdate;
 }
 
 void ListboxView::contextMenuEvent(QContextMenuEvent *event) {

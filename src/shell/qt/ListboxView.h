@@ -2,7 +2,7 @@
 
 #include <QTableView>
 
-#include <initializer_list>
+#include <vector>
 
 class Listbox;
 
@@ -13,23 +13,36 @@ class ListboxView : public QTableView {
 public:
     ListboxView(Listbox &list, QWidget *parent);
 
-    /// The widths of the first columns, in points; the last column takes what is left.
-    void SetColumnWidths(std::initializer_list<int> widths);
+    /// The widths of the first columns, in points. Columns of width 0, and those without one, share
+    /// what is left.
+    void SetColumnWidths(const std::vector<int> &widths);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    /// F2 opens the selected row, Space flips its check box.
+    void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     /// Home and End go to the first and the last row: rows are chosen whole.
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
     void selectionChanged(const QItemSelection &now, const QItemSelection &before) override;
 
 private:
+    void SetUpHeading();
+    void OpenEditor();
+    void CloseEditor();
     void ShowSelection();
+    /// Hands a press of the left button to the list; true if the list does no more with it.
+    bool TakePress(QPoint place);
     void PaintRow(QPainter &painter, int row, int top);
 
     Listbox &list_;
+    QPersistentModelIndex edited_;
     bool showing_ = false;
+    bool pressTaken_ = false;
 };

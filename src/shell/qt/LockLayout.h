@@ -13,6 +13,8 @@ using Locks = int;
 constexpr Locks LT = LockLeft | LockTop;
 constexpr Locks TR = LockTop | LockRight;
 constexpr Locks LTR = LockLeft | LockTop | LockRight;
+constexpr Locks LB = LockLeft | LockBottom;
+constexpr Locks LTB = LockLeft | LockTop | LockBottom;
 constexpr Locks RB = LockRight | LockBottom;
 constexpr Locks LTRB = LockLeft | LockTop | LockRight | LockBottom;
 

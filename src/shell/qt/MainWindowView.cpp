@@ -1,25 +1,38 @@
 #include "shell/qt/MainWindowView.h"
 
+#include "core/App.h"
 #include "shell/MainWindow.h"
 #include "shell/qt/GivenColours.h"
 #include "shell/qt/JournalPageView.h"
+#include "shell/qt/PagePanelView.h"
+#include "shell/qt/PreferencesPageView.h"
+#include "shell/qt/ToolBarView.h"
 
 #include <QGuiApplication>
 #include <QScreen>
-#include <QStackedWidget>
 
 using namespace Qt::StringLiterals;
 
-MainWindowView::MainWindowView(MainWindow &window, const UserLocale &locale) {
+MainWindowView::MainWindowView(MainWindow &window, const App &app) : window_(window) {
     setObjectName(u"MainWindow"_s);
     setWindowTitle(u"Kassenbuch"_s);
     setPalette(GivenColours(palette(), 0xfffaf9fa));
-    auto *pages = new QStackedWidget(this);
-    pages->setObjectName(u"PagePanel1"_s);
-    pages->addWidget(new JournalPageView(window, locale, pages));
+    auto *pages = new PagePanelView(window.PagePanel1, this);
+    pages->addWidget(new JournalPageView(window, app.Locale(), pages));
+    pages->addWidget(new PreferencesPageView(window, pages));
     setCentralWidget(pages);
+    auto *tools = new ToolBarView(u"MainWindowToolbar"_s, this);
+    tools->AddSpace();
+    tools->AddButton(window.PreferencesButton,
+                     [&app](const QString &name) { return app.Resource(name).Path(); });
+    addToolBar(tools);
     setMinimumSize(64, 64);
     resize(sizeHint().boundedTo(screen()->availableSize()));
     const QRect free = screen()->availableGeometry();
     move(free.center() - rect().center());
+}
+
+void MainWindowView::closeEvent(QCloseEvent *event) {
+    QMainWindow::closeEvent(event);
+    window_.Event_Close();
 }

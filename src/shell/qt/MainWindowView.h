@@ -2,8 +2,8 @@
 
 #include <QMainWindow>
 
+class App;
 class MainWindow;
-class UserLocale;
 
 /// The main window on the desktop.
 class MainWindowView : public QMainWindow {
@@ -13,5 +13,12 @@ public:
     /// The size of its pages, in points, at which every control has its design place.
     static constexpr QSize designSize{1080, 770};
 
-    MainWindowView(MainWindow &window, const UserLocale &locale);
+    /// The application gives the locale and the pictures.
+    MainWindowView(MainWindow &window, const App &app);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    MainWindow &window_;
 };

@@ -22,7 +22,7 @@ void Windows::Open() {
 
 void Windows::ShowMainWindow() {
     mainWindow_ = std::make_unique<MainWindow>(app_);
-    mainView_ = std::make_unique<MainWindowView>(*mainWindow_, app_.Locale());
+    mainView_ = std::make_unique<MainWindowView>(*mainWindow_, app_);
     mainWindow_->Event_Open();
     mainView_->show();
 }

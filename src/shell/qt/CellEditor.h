@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QLineEdit>
+
+class Listbox;
+
+/// The line edit over the open cell of a Listbox. Return ends the edit, and so does a click
+/// elsewhere or the loss of the focus; Escape drops it; Tab is the list's to answer.
+class CellEditor : public QLineEdit {
+    Q_OBJECT
+
+public:
+    CellEditor(Listbox &list, QWidget *parent);
+
+protected:
+    bool event(QEvent *event) override;
+    /// Watches for clicks outside, also on what takes no focus.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    Listbox &list_;
+};
