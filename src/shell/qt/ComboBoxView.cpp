@@ -32,6 +32,8 @@ void ComboBoxView::ShowCombo() {
         setEditText(combo_.Text());
     }
     ShowBeginning(*lineEdit());
+    // In a disabled field nobody can move to the end of a long text.
+    setToolTip(combo_.Enabled() ? QString() : combo_.Text());
 }
 
 void ComboBoxView::OfferCompletions() {
