@@ -6,7 +6,7 @@
 
 class ToolItem;
 
-/// The tool bar of a window: buttons with their captions below, the last at the right end.
+/// The tool bar of a window: buttons with their captions below.
 class ToolBarView : public QToolBar {
     Q_OBJECT
 
