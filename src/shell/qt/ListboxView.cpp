@@ -5,6 +5,7 @@
 #include "shell/qt/CellEditor.h"
 #include "shell/qt/ControlBinding.h"
 #include "shell/qt/PainterGraphics.h"
+#include "shell/qt/RowDelegate.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -14,58 +15,12 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
-#include <QStyledItemDelegate>
 
 #include <utility>
 
 namespace {
 
 constexpr int lineHeight = 18;
-
-/// More than any column shows; laying out more would only cost time.
-constexpr int longestShownText = 1000;
-
-/// Shows each text on one line, and a check box in the middle of its cell. The row is what is
-/// selected: no cell of it is marked on its own.
-class RowDelegate : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QString displayText(const QVariant &value, const QLocale & /*locale*/) const override {
-        QString text = value.toString().left(longestShownText);
-        for (QChar &each : text) {
-            if (each.category() == QChar::Other_Control) {
-                each = u' ';
-            }
-        }
-        return text;
-    }
-
-    void paint(QPainter *painter, const QStyleOptionViewItem &option,
-               const QModelIndex &index) const override {
-        const QVariant checked = index.data(Qt::CheckStateRole);
-        if (!checked.isValid()) {
-            QStyledItemDelegate::paint(painter, option, index);
-            return;
-        }
-        QStyleOptionViewItem box = option;
-        initStyleOption(&box, index);
-        box.features &= ~QStyleOptionViewItem::HasCheckIndicator;
-        const QStyle &style = *option.widget->style();
-        style.drawControl(QStyle::CE_ItemViewItem, &box, painter, option.widget);
-        const QSize size(style.pixelMetric(QStyle::PM_IndicatorWidth, &box, option.widget),
-                         style.pixelMetric(QStyle::PM_IndicatorHeight, &box, option.widget));
-        box.rect = QStyle::alignedRect(option.direction, Qt::AlignCenter, size, option.rect);
-        box.state |= checked == Qt::Checked ? QStyle::State_On : QStyle::State_Off;
-        style.drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, painter, option.widget);
-    }
-
-protected:
-    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override {
-        QStyledItemDelegate::initStyleOption(option, index);
-        option->state &= ~QStyle::State_HasFocus;
-    }
-};
 
 } // namespace
 
@@ -258,6 +213,9 @@ void ListboxView::contextMenuEvent(QContextMenuEvent *event) {
     }
     const auto base = std::make_shared<MenuItem>();
     Q_EMIT list_.ConstructContextualMenu(*base);
+    if (base->Count() == 0) {
+        return;
+    }
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (int item = 0; item < base->Count(); ++item) {

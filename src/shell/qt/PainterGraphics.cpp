@@ -66,6 +66,7 @@ void PainterGraphics::DrawPicture(const FolderItem &file, double x, double y) {
         pixmap = Load(file.Path());
     }
     if (!pixmap.isNull()) {
+        painter_.setRenderHint(QPainter::SmoothPixmapTransform);
         painter_.drawPixmap(QPointF(x, y), pixmap);
     }
 }
