@@ -9,6 +9,7 @@
 #include "shell/qt/PopupMenuView.h"
 #include "shell/qt/TextFieldView.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
@@ -75,6 +76,15 @@ WelcomeWindowView::WelcomeWindowView(WelcomeWindow &window, const UserLocale &lo
 void WelcomeWindowView::closeEvent(QCloseEvent *event) {
     QMainWindow::closeEvent(event);
     window_.Event_Close();
+}
+
+void WelcomeWindowView::keyPressEvent(QKeyEvent *event) {
+    const bool accepts = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (accepts && window_.PagePanel1.Value() == 0) {
+        Q_EMIT window_.NewCanvas.MouseDown(0, 0);
+    } else {
+        QMainWindow::keyPressEvent(event);
+    }
 }
 
 void WelcomeWindowView::AddMenu() {

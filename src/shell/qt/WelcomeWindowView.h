@@ -9,7 +9,8 @@ class TLXCanvasButton;
 class UserLocale;
 class WelcomeWindow;
 
-/// The welcome window on the desktop: pages on the left, three large buttons on the right.
+/// The welcome window on the desktop: pages on the left, three large buttons on the right. Return
+/// goes on to a new book from the greeting too.
 class WelcomeWindowView : public QMainWindow {
     Q_OBJECT
 
@@ -18,6 +19,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     struct Text {
