@@ -29,16 +29,16 @@ Book::Book(Place place) : app(desktop, UserLocale(QLocale(QLocale::German, QLoca
 }
 
 void Book::Add(const Booking &booking) const {
+    const std::pair<QString, QString> columns[] = {
+        {u"vdate"_s, booking.date},        {u"type"_s, booking.type},
+        {u"amount"_s, booking.amount},     {u"tax"_s, booking.tax},
+        {u"category"_s, booking.category}, {u"salesnumber"_s, booking.number},
+        {u"note"_s, booking.note},         {u"cashbookID"_s, booking.cashbook},
+        {u"account"_s, booking.account}};
     DatabaseRecord record;
-    record.SetColumn(u"vdate"_s, booking.date);
-    record.SetColumn(u"type"_s, booking.type);
-    record.SetColumn(u"amount"_s, booking.amount);
-    record.SetColumn(u"tax"_s, booking.tax);
-    record.SetColumn(u"category"_s, booking.category);
-    record.SetColumn(u"salesnumber"_s, booking.number);
-    record.SetColumn(u"note"_s, booking.note);
-    record.SetColumn(u"cashbookID"_s, booking.cashbook);
-    record.SetColumn(u"account"_s, booking.account);
+    for (const auto &[column, value] : columns) {
+        record.SetColumn(column, value);
+    }
     app.kvoDB().InsertRecord(u"cash_journal"_s, record);
     EXPECT_FALSE(app.kvoDB().Error()) << qPrintable(app.kvoDB().ErrorMessage());
 }
