@@ -2,7 +2,6 @@
 #include "support/Book.h"
 
 #include <QFile>
-#include <gtest/gtest.h>
 
 #include <random>
 

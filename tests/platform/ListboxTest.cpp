@@ -1,10 +1,9 @@
 #include "platform/Listbox.h"
 
-#include "support/PrintText.h"
+#include "support/GoogleTest.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
-#include <gtest/gtest.h>
 
 #include <functional>
 

@@ -1,9 +1,8 @@
 #include "platform/ComboBox.h"
 #include "platform/PopupMenu.h"
-#include "support/PrintText.h"
+#include "support/GoogleTest.h"
 
 #include <QStringList>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 

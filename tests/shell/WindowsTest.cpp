@@ -3,17 +3,13 @@
 #include "setup/WelcomeWindow.h"
 #include "shell/qt/QtDesktop.h"
 #include "shell/qt/WelcomeWindowView.h"
-#include "support/Book.h"
+#include "support/MainWindowTest.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QStackedWidget>
-#include <QTableView>
-#include <QTest>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -88,29 +84,20 @@ TEST(Windows, LeadByTheKeysFromTheFirstStartToABookOfOnesOwn) {
     windows.Open();
     QWidget *welcome = ShownWindow(u"WelcomeWindow"_s);
     ASSERT_TRUE(welcome);
-    const auto key = [&](Qt::Key each) {
-        ASSERT_TRUE(welcome->focusWidget());
-        QTest::keyClick(welcome->focusWidget(), each);
-    };
     const auto *pages = welcome->findChild<QStackedWidget *>(u"PagePanel1"_s);
     Click(welcome, {700, 150});
-    EXPECT_EQ(Boxes([&] { key(Qt::Key_Return); }),
+    EXPECT_EQ(Boxes([&] { Type(*welcome, u"\r"_s); }),
               QStringList(u"Bitte geben Sie einen Firmannamen an"_s));
-    QTest::keyClicks(welcome->focusWidget(), u"Peter's"_s);
-    key(Qt::Key_Return);
+    Type(*welcome, u"Peter's\r"_s);
     EXPECT_EQ(pages->currentIndex(), 2);
-    key(Qt::Key_Escape);
+    Type(*welcome, u"\x1b"_s);
     EXPECT_EQ(pages->currentIndex(), 1);
     EXPECT_EQ(welcome->focusWidget()->objectName(), u"CompanyField"_s);
-    key(Qt::Key_Return);
-    key(Qt::Key_Down);
-    EXPECT_EQ(Boxes([&] { key(Qt::Key_Return); }).size(), 1);
+    Type(*welcome, u"\r"_s);
+    QTest::keyClick(welcome->windowHandle(), Qt::Key_Down);
+    EXPECT_EQ(Boxes([&] { Type(*welcome, u"\r"_s); }).size(), 1);
     EXPECT_TRUE(app.DefaultDatabaseFile().Exists());
-    key(Qt::Key_Escape);
-    key(Qt::Key_Backspace);
-    key(Qt::Key_Backspace);
-    key(Qt::Key_Return);
-    key(Qt::Key_Return);
+    Type(*welcome, u"\x1b\b\b\r\r"_s);
     EXPECT_FALSE(ShownWindow(u"WelcomeWindow"_s));
     EXPECT_TRUE(ShownWindow(u"MainWindow"_s));
     app.NewDatabase();

@@ -3,7 +3,6 @@
 #include "core/Scripts.h"
 
 #include <QProcess>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 

@@ -2,7 +2,7 @@
 
 #include "core/App.h"
 #include "support/FakeDesktop.h"
-#include "support/PrintText.h"
+#include "support/GoogleTest.h"
 
 #include <QString>
 

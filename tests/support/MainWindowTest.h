@@ -8,7 +8,21 @@
 #include <QTableView>
 #include <QTest>
 #include <QWheelEvent>
-#include <gtest/gtest.h>
+
+/// Presses the keys of a text, in which \t is the Tab key, \r is Return and \x1b is Escape; to
+/// wherever the focus of the window is, or to its pop-up.
+inline void Type(const QWidget &window, const QString &text) {
+    for (const QChar letter : text) {
+        QTest::keyClick(window.windowHandle(), letter.toLatin1());
+    }
+}
+
+/// Turns the wheel over a widget, by 120 for one notch upwards.
+inline void TurnWheel(QWidget &widget, int delta) {
+    QWheelEvent event({5, 5}, widget.mapToGlobal(QPointF(5, 5)), {}, {0, delta}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &event);
+}
 
 /// The real main window on a book, driven by keys and clicks as by its user. A test fills the book
 /// and opens the window.
@@ -23,16 +37,10 @@ protected:
     Widget &Find(const QString &name) {
         return *view.findChild<Widget *>(name);
     }
-    /// To wherever the focus is, or to the pop-up that is open.
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::keyClick(view.windowHandle(), key, modifiers);
     }
-    /// The same for a text, in which \t is the Tab key, \r is Return and \x1b is Escape.
-    void Type(const QString &text) {
-        for (const QChar letter : text) {
-            QTest::keyClick(view.windowHandle(), letter.toLatin1());
-        }
-    }
+    void Type(const QString &text) { ::Type(view, text); }
     static QPoint Centre(const QTableView &list, int row, int column) {
         return list.visualRect(list.model()->index(row, column)).center();
     }
@@ -51,10 +59,3 @@ protected:
     MainWindow window{book.app};
     MainWindowView view{window, book.app};
 };
-
-/// Turns the wheel over a widget, by 120 for one notch upwards.
-inline void TurnWheel(QWidget &widget, int delta) {
-    QWheelEvent event({5, 5}, widget.mapToGlobal(QPointF(5, 5)), {}, {0, delta}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&widget, &event);
-}

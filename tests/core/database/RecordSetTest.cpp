@@ -1,7 +1,5 @@
 #include "support/Book.h"
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
