@@ -150,9 +150,8 @@ TEST_F(EntryRowTest, TakesTheViewToTheFirstBookingOfANewYearWithOneLoad) {
     const QSignalSpy scrolls(&list, &Listbox::ScrollRequested);
     const QSignalSpy focus(&row.DateField, &Control::FocusRequested);
     Submit(u"2"_s);
-    EXPECT_EQ(refreshes.count(), 1);
-    EXPECT_EQ(scrolls.count(), 1);
-    EXPECT_EQ(focus.count(), 1);
+    EXPECT_EQ(QList<qsizetype>({refreshes.count(), scrolls.count(), focus.count()}),
+              QList<qsizetype>({1, 1, 1}));
     EXPECT_EQ(window.selectors.PeriodStartSQL(), u"2027-02-01"_s);
     EXPECT_EQ(list.Cell(-1, Journal::Balance), u"103,00"_s);
     EXPECT_EQ(row.DateField.DateValue().SQLDate() + row.InputField.Text(), u"2027-02-03"_s);
@@ -190,13 +189,6 @@ TEST_F(ChangeTest, ACopyBecomesANewBooking) {
     EXPECT_EQ(Columns(u"id || '|' || input || '|' || note || '|' || category || '|' || bdate"_s),
               u"2|10.00|alt|Erlöse 19% USt|2026-04-01 08:00:00"_s);
     EXPECT_EQ(list.ListCount(), 2);
-}
-
-TEST_F(ChangeTest, ReadsTheListAnewAfterADeletion) {
-    row.DeleteSale();
-    EXPECT_EQ(Count() + window.balances.LastAmountLabel.Text(), u"0"_s);
-    row.DeleteSale();
-    EXPECT_TRUE(book.desktop.messages.isEmpty());
 }
 
 TEST_F(ChangeTest, TellsOfABookingThatHasGoneMeanwhile) {

@@ -66,6 +66,11 @@ TEST_F(SelectorsTest, AskForOneRefreshAndOnlyAfterAChange) {
     EXPECT_EQ(refreshes.count(), 1);
     selectors.GetJournalYears(); // The same row of a list built anew is a change.
     EXPECT_EQ(refreshes.count(), 2);
+    selectors.MonthPopup.SetListIndex(13); // There is no such month: no row is selected.
+    selectors.MonthPopup.SetListIndex(13);
+    EXPECT_EQ(refreshes.count(), 3);
+    selectors.MonthPopup.DeleteAllRows();
+    EXPECT_EQ(selectors.MonthPopup.Text(), u""_s);
 }
 
 } // namespace

@@ -49,19 +49,24 @@ void Click(QWidget *welcome, QPoint place) {
     QTest::mouseClick(welcome->windowHandle(), Qt::LeftButton, {}, sheet->pos() + place);
 }
 
-TEST(Windows, LeadFromTheWelcomeWindowIntoTheSampleBook) {
-    QtDesktop desktop;
-    App app(desktop, UserLocale(QLocale::c()));
-    ASSERT_FALSE(app.DefaultDatabaseFile().Exists());
-    Windows windows(app);
-    windows.Open();
-    QWidget *welcome = ShownWindow(u"WelcomeWindow"_s);
-    ASSERT_TRUE(welcome);
-    EXPECT_FALSE(ShownWindow(u"MainWindow"_s));
+/// The first start on the real desktop, which has no book yet.
+class FirstStartTest : public testing::Test {
+protected:
+    void SetUp() override {
+        windows.Open();
+        ASSERT_TRUE(welcome = ShownWindow(u"WelcomeWindow"_s));
+        ASSERT_FALSE(ShownWindow(u"MainWindow"_s));
+    }
 
+    QtDesktop desktop;
+    App app{desktop, UserLocale(QLocale::c())};
+    Windows windows{app};
+    QWidget *welcome = nullptr;
+};
+
+TEST_F(FirstStartTest, LeadsFromTheWelcomeWindowIntoTheSampleBook) {
     // On the title that lies over the button.
-    const QStringList boxes = Boxes([&] { Click(welcome, {700, 22}); });
-    EXPECT_EQ(boxes.size(), 1);
+    EXPECT_EQ(Boxes([&] { Click(welcome, {700, 22}); }).size(), 1);
     EXPECT_FALSE(ShownWindow(u"WelcomeWindow"_s));
     QWidget *main = ShownWindow(u"MainWindow"_s);
     ASSERT_TRUE(main);
@@ -77,13 +82,7 @@ TEST(Windows, OpenTheMainWindowAtOnceOnABookInItsPlace) {
     EXPECT_FALSE(ShownWindow(u"WelcomeWindow"_s));
 }
 
-TEST(Windows, LeadByTheKeysFromTheFirstStartToABookOfOnesOwn) {
-    QtDesktop desktop;
-    App app(desktop, UserLocale(QLocale::c()));
-    Windows windows(app);
-    windows.Open();
-    QWidget *welcome = ShownWindow(u"WelcomeWindow"_s);
-    ASSERT_TRUE(welcome);
+TEST_F(FirstStartTest, LeadsByTheKeysToABookOfOnesOwn) {
     const auto *pages = welcome->findChild<QStackedWidget *>(u"PagePanel1"_s);
     Click(welcome, {700, 150});
     EXPECT_EQ(Boxes([&] { Type(*welcome, u"\r"_s); }),
