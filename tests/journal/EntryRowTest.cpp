@@ -44,13 +44,13 @@ TEST_F(EntryRowTest, WritesEveryColumnOfAReceiptAndOfAnExpense) {
     row.DateField.SetDateValue(Date(QDate(2026, 3, 16)));
     TypeExpense(u"3"_s);
     row.SubmitButton.Press();
-    const QString all = ReadWithShell(book.app.DefaultDatabaseFile().Path(),
-                                      u".nullvalue NULL\nSELECT *, typeof(amount), typeof(input), "
-                                      "typeof(cashbookID), typeof(bdate) FROM cash_journal"_s);
-    EXPECT_EQ(all, u"1|2026-03-15|E|12.50|NULL|12.5|3|Erlöse 19% USt|R-1|Barverkauf|1|"
-                   "2026-03-15 12:00:00|8400|real|text|integer|text\n"
-                   "2|2026-03-16|A|NULL|3|3.0|9|Porto|||1|"
-                   "2026-03-15 12:00:00|4910|real|null|integer|text\n"_s);
+    EXPECT_EQ(ReadWithShell(book.app.DefaultDatabaseFile().Path(),
+                            u".nullvalue NULL\nSELECT *, typeof(amount), typeof(input), "
+                            "typeof(cashbookID), typeof(bdate) FROM cash_journal"_s),
+              u"1|2026-03-15|E|12.50|NULL|12.5|3|Erlöse 19% USt|R-1|Barverkauf|1|"
+              "2026-03-15 12:00:00|8400|real|text|integer|text\n"
+              "2|2026-03-16|A|NULL|3|3.0|9|Porto|||1|"
+              "2026-03-15 12:00:00|4910|real|null|integer|text\n"_s);
     EXPECT_TRUE(book.desktop.messages.isEmpty());
 }
 
@@ -72,7 +72,6 @@ TEST_F(EntryRowTest, KeepsAnyAmountAsTypedAndShowsTheNumberAtItsStart) {
     }
     Submit(QString(1000000, u'9'));
     EXPECT_EQ(Columns(u"length(input)"_s), u"1000000"_s);
-    EXPECT_EQ(list.ListCount(), 1);
 }
 
 TEST_F(EntryRowTest, SaysTheLastThingThatIsMissingAndSavesNothing) {
@@ -195,10 +194,9 @@ TEST_F(ChangeTest, TellsOfABookingThatHasGoneMeanwhile) {
     row.EditSale(EntryRow::EditMode::Change);
     book.Run(u"DELETE FROM cash_journal"_s);
     row.ChangeButton.Press();
-    EXPECT_EQ(book.desktop.messages,
-              QStringList{u"DB Error: Der Datensatz ist nicht mehr vorhanden."_s});
+    EXPECT_EQ(book.desktop.messages.join(u'|') + Count(),
+              u"DB Error: Der Datensatz ist nicht mehr vorhanden.0"_s);
     EXPECT_TRUE(row.SubmitButton.Visible());
-    EXPECT_EQ(Count(), u"0"_s);
 }
 
 TEST_F(ChangeTest, KeepsTheNameOfASwitchedOffAccountAndAsksForASwitchedOffTax) {
@@ -222,9 +220,8 @@ TEST_F(ChangeTest, AReadOnlyBookLosesNothing) {
     Submit(u"1"_s);
     list.SetListIndex(0);
     row.DeleteSale();
-    EXPECT_EQ(book.desktop.messages,
-              (QStringList{u"DB Error: attempt to write a readonly database"_s,
-                           u"attempt to write a readonly database"_s}));
+    EXPECT_EQ(book.desktop.messages.join(u'|'), u"DB Error: attempt to write a readonly database|"
+                                                "attempt to write a readonly database"_s);
     EXPECT_EQ(Columns(u"id || note"_s), u"1alt"_s);
     EXPECT_EQ(list.ListCount(), 1);
 }

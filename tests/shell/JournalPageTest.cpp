@@ -179,9 +179,7 @@ TEST_F(JournalPageTest, ShowsTheNewBookingInALongListAndKeepsThePlaceThroughARel
              "INSERT INTO cash_journal (vdate, type, amount, tax, cashbookID) "
              "SELECT date('2026-01-01', '+' || (i % 365) || ' days'), 'E', 1, '3', 1 FROM n"_s);
     Open();
-    // The list of the logic is itself what the view shows: there is no second copy.
-    ASSERT_EQ(list.model(), &bookings);
-    ASSERT_EQ(bookings.ListCount(), 20000);
+    ASSERT_EQ(list.model(), &bookings) << "the list of the logic has a second copy";
     const auto isShown = [this](int index) {
         return list.viewport()->rect().contains(Centre(list, index, 4));
     };
@@ -197,8 +195,7 @@ TEST_F(JournalPageTest, ShowsTheNewBookingInALongListAndKeepsThePlaceThroughARel
     window.balances.Refresh();
     QApplication::processEvents();
     EXPECT_EQ(list.rowAt(0), top);
-    EXPECT_EQ(list.selectionModel()->selectedRows().size(), 0);
-    EXPECT_EQ(bookings.ListIndex(), -1);
+    EXPECT_FALSE(list.selectionModel()->hasSelection() || bookings.ListIndex() >= 0);
 
     row.InputField.SetText(u"5"_s);
     row.pickLists.CategoryCombo.SetText(u"frei"_s);

@@ -28,18 +28,10 @@ Book::Book(Place place) : app(desktop, UserLocale(QLocale(QLocale::German, QLoca
 }
 
 void Book::Add(const Booking &booking) const {
-    const std::pair<QString, QString> columns[] = {
-        {u"vdate"_s, booking.date},        {u"type"_s, booking.type},
-        {u"amount"_s, booking.amount},     {u"tax"_s, booking.tax},
-        {u"category"_s, booking.category}, {u"salesnumber"_s, booking.number},
-        {u"note"_s, booking.note},         {u"cashbookID"_s, booking.cashbook},
-        {u"account"_s, booking.account}};
-    DatabaseRecord record;
-    for (const auto &[column, value] : columns) {
-        record.SetColumn(column, value);
-    }
-    app.kvoDB().InsertRecord(u"cash_journal"_s, record);
-    EXPECT_FALSE(app.kvoDB().Error()) << qPrintable(app.kvoDB().ErrorMessage());
+    Run(u"INSERT INTO cash_journal (vdate, type, amount, tax, category, salesnumber, note, "
+        "cashbookID, account) VALUES ('%1', '%2', '%3', '%4', '%5', '%6', '%7', '%8', '%9')"_s.arg(
+            booking.date, booking.type, booking.amount, booking.tax, booking.category,
+            booking.number, booking.note, booking.cashbook, booking.account));
 }
 
 void Book::Run(const QString &sql) const {

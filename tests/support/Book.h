@@ -6,7 +6,8 @@
 
 #include <QString>
 
-/// A booking to put into a book; the amount and the date as the database stores them.
+/// A booking to put into a book; the amount and the date as the database stores them, and no
+/// apostrophe in its texts.
 struct Booking {
     QString date;
     QString type;
