@@ -28,14 +28,14 @@ TEST_F(SelectorsTest, OfferTheYearsOfAllBookingsAndShowThePeriodOfADate) {
     selectors.LoadMonths();
     EXPECT_EQ(Years(), u"2026 "_s) << "the opening year";
     for (const auto &year : {u"2024"_s, u"2027"_s, u"2024"_s, u"2025"_s}) {
-        book.Add(
-            {.date = year + u"-12-31"_s, .type = u"E"_s, .amount = u"1"_s, .cashbook = u"2"_s});
+        book.Add({year + u"-12-31"_s, u"E"_s, u"1"_s, {}, {}, u"2"_s});
     }
     EXPECT_EQ(Years(), u"2027 2025 2024 "_s);
     EXPECT_EQ(selectors.PeriodStartSQL(), u"2027-01-01"_s);
     selectors.ShowPeriod(Date(QDate(2024, 9, 30)));
     EXPECT_EQ(selectors.PeriodStartSQL(), u"2024-09-01"_s);
     selectors.ShowPeriod(Date(QDate(2030, 12, 24)));
+    selectors.GetJournalYears(); // The year is remembered.
     EXPECT_EQ(selectors.PeriodStartSQL(), u"2024-12-01"_s);
 }
 

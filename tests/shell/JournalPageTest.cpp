@@ -37,6 +37,7 @@ TEST_F(JournalPageTest, BooksAReceiptAndAnExpenseByKeysAlone) {
     Open();
     Type(u"0203\t119"_s);
     Key(Qt::Key_Period, Qt::KeypadModifier);
+    EXPECT_EQ(row.InputField.Text(), u"119,"_s);
     Type(u"5\t7\terl"_s); // The locked amount is passed over.
     Key(Qt::Key_Down);
     Key(Qt::Key_Down);
