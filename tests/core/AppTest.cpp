@@ -1,7 +1,6 @@
 #include "support/Book.h"
 
 #include <QFile>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 

@@ -2,8 +2,6 @@
 
 #include "support/Book.h"
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -1,9 +1,7 @@
 #include "core/TLXModule.h"
 
 #include "platform/ComboBox.h"
-#include "support/PrintText.h"
-
-#include <gtest/gtest.h>
+#include "support/GoogleTest.h"
 
 using namespace Qt::StringLiterals;
 

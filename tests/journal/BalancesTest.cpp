@@ -2,7 +2,6 @@
 #include "support/Book.h"
 
 #include <QFile>
-#include <gtest/gtest.h>
 
 #include <random>
 
@@ -25,8 +24,8 @@ TEST(Balances, CarryAllEarlierBookingsIntoThePeriod) {
     for (const auto &[year, month, balances] : cases) {
         window.selectors.YearPopup.SetListIndex(year);
         window.selectors.MonthPopup.SetListIndex(month);
-        EXPECT_EQ(window.balances.OpeningBalanceLabel.Text() + u" to "_s +
-                      window.balances.LastAmountLabel.Text(),
+        const Balances &shown = window.balances;
+        EXPECT_EQ(shown.OpeningBalanceLabel.Text() + u" to "_s + shown.LastAmountLabel.Text(),
                   balances);
     }
 }

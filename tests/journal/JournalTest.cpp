@@ -1,8 +1,6 @@
 #include "shell/MainWindow.h"
 #include "support/Book.h"
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -3,7 +3,6 @@
 #include "support/Book.h"
 
 #include <QSignalSpy>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -11,11 +10,6 @@ namespace {
 
 class SelectorsTest : public testing::Test {
 protected:
-    void AddYears(std::initializer_list<const char *> years) {
-        for (const char *year : years) {
-            book.Add({QLatin1StringView(year) + u"-12-31"_s, u"E"_s, u"1"_s, {}, {}, u"2"_s});
-        }
-    }
     QString Years() {
         selectors.GetJournalYears();
         QString years;
@@ -30,10 +24,19 @@ protected:
     QSignalSpy refreshes{&selectors, &Selectors::RefreshJournal};
 };
 
-TEST_F(SelectorsTest, OfferTheYearsOfAllBookingsOrElseTheOpeningYear) {
-    EXPECT_EQ(Years(), u"2026 "_s);
-    AddYears({"2024", "2027", "2024", "2025"});
+TEST_F(SelectorsTest, OfferTheYearsOfAllBookingsAndShowThePeriodOfADate) {
+    selectors.LoadMonths();
+    EXPECT_EQ(Years(), u"2026 "_s) << "the opening year";
+    for (const auto &year : {u"2024"_s, u"2027"_s, u"2024"_s, u"2025"_s}) {
+        book.Add({year + u"-12-31"_s, u"E"_s, u"1"_s, {}, {}, u"2"_s});
+    }
     EXPECT_EQ(Years(), u"2027 2025 2024 "_s);
+    EXPECT_EQ(selectors.PeriodStartSQL(), u"2027-01-01"_s);
+    selectors.ShowPeriod(Date(QDate(2024, 9, 30)));
+    EXPECT_EQ(selectors.PeriodStartSQL(), u"2024-09-01"_s);
+    selectors.ShowPeriod(Date(QDate(2030, 12, 24)));
+    selectors.GetJournalYears(); // The year is remembered.
+    EXPECT_EQ(selectors.PeriodStartSQL(), u"2024-12-01"_s);
 }
 
 TEST_F(SelectorsTest, SelectTheRememberedPositionOrTheLastRow) {
@@ -63,17 +66,11 @@ TEST_F(SelectorsTest, AskForOneRefreshAndOnlyAfterAChange) {
     EXPECT_EQ(refreshes.count(), 1);
     selectors.GetJournalYears(); // The same row of a list built anew is a change.
     EXPECT_EQ(refreshes.count(), 2);
-}
-
-TEST_F(SelectorsTest, ShowThePeriodOfADate) {
-    AddYears({"2025", "2024"});
-    selectors.GetJournalYears();
-    selectors.LoadMonths();
-    EXPECT_EQ(selectors.PeriodStartSQL(), u"2025-01-01"_s);
-    selectors.ShowPeriod(Date(QDate(2024, 9, 30)));
-    EXPECT_EQ(selectors.PeriodStartSQL(), u"2024-09-01"_s);
-    selectors.ShowPeriod(Date(QDate(2030, 12, 24)));
-    EXPECT_EQ(selectors.PeriodStartSQL(), u"2024-12-01"_s);
+    selectors.MonthPopup.SetListIndex(13); // There is no such month: no row is selected.
+    selectors.MonthPopup.SetListIndex(13);
+    EXPECT_EQ(refreshes.count(), 3);
+    selectors.MonthPopup.DeleteAllRows();
+    EXPECT_EQ(selectors.MonthPopup.Text(), u""_s);
 }
 
 } // namespace

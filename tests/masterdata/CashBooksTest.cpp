@@ -2,8 +2,6 @@
 
 #include "support/Book.h"
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -71,12 +69,10 @@ TEST_F(CashBooksTest, WritesEachCellAsTypedAndTabRunsInACircle) {
         Q_EMIT list.CellKeyDown(list.EditedRow(), list.EditedColumn(), u'\t');
     }
     EXPECT_EQ(list.EditedRow() * 10 + list.EditedColumn(), 10);
-    EXPECT_EQ(Stored(), u"Kasse 1000 100.0 2026-01-01\nÖ'; \"%1\" -- 0815 12,50 2015-01-01"_s);
     Type(1, CashBooks::Account, u"1000"_s); // Taken.
     list.EndEdit();
     EXPECT_EQ(list.Cell(1, CashBooks::Account), u"1000"_s);
-    books.LoadCashBook();
-    EXPECT_EQ(list.Cell(1, CashBooks::Account), u"0815"_s);
+    EXPECT_EQ(Stored(), u"Kasse 1000 100.0 2026-01-01\nÖ'; \"%1\" -- 0815 12,50 2015-01-01"_s);
     EXPECT_EQ(book.desktop.messages, QStringList());
 }
 

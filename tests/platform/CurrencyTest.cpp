@@ -1,8 +1,6 @@
 #include "platform/Currency.h"
 
-#include "support/PrintText.h"
-
-#include <gtest/gtest.h>
+#include "support/GoogleTest.h"
 
 #include <cmath>
 

@@ -1,9 +1,8 @@
 #include "platform/DateControl.h"
 
-#include "support/PrintText.h"
+#include "support/GoogleTest.h"
 
 #include <QSignalSpy>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -19,10 +18,7 @@ struct Field : DateControl {
 };
 
 TEST(DateControl, ReadsEveryFormOfADay) {
-    const struct {
-        QString typed;
-        QString day;
-    } cases[] = {
+    const std::pair<QString, QString> cases[] = {
         {u"0102"_s, u"2025-02-01"_s},        {u"010226"_s, u"2026-02-01"_s},
         {u"01022026"_s, u"2026-02-01"_s},    {u"1.2."_s, u"2025-02-01"_s},
         {u"1.2"_s, u"2025-02-01"_s},         {u"1.2.26"_s, u"2026-02-01"_s},
@@ -32,10 +28,10 @@ TEST(DateControl, ReadsEveryFormOfADay) {
         {u"29.2.24"_s, u"2024-02-29"_s},     {u"01.01.1999"_s, u"1999-01-01"_s},
         {u"31.12.9999"_s, u"9999-12-31"_s},  {u"01.01.0001"_s, u"0001-01-01"_s},
     };
-    for (const auto &each : cases) {
+    for (const auto &[typed, day] : cases) {
         Field field(u"2025-11-15"_s);
-        EXPECT_TRUE(field.SetTyped(each.typed)) << qPrintable(each.typed);
-        EXPECT_EQ(field.Shown(), each.day) << qPrintable(each.typed);
+        EXPECT_TRUE(field.SetTyped(typed)) << qPrintable(typed);
+        EXPECT_EQ(field.Shown(), day) << qPrintable(typed);
     }
 }
 
@@ -59,13 +55,8 @@ TEST(DateControl, KeepsItsDayWhenTheTextIsNoDay) {
     }
 }
 
-TEST(DateControl, StepsAcrossMonthsAndYears) {
-    const struct {
-        QString start;
-        int days;
-        int months;
-        QString end;
-    } cases[] = {
+TEST(DateControl, StepsAcrossMonthsAndYearsAndReplacesTheYearAlone) {
+    const std::tuple<QString, int, int, QString> cases[] = {
         {u"2025-11-30"_s, 1, 0, u"2025-12-01"_s}, {u"2026-01-01"_s, -1, 0, u"2025-12-31"_s},
         {u"2024-02-28"_s, 1, 0, u"2024-02-29"_s}, {u"2025-02-28"_s, 1, 0, u"2025-03-01"_s},
         {u"2025-12-31"_s, 0, 1, u"2026-01-31"_s}, {u"2026-01-15"_s, 0, -1, u"2025-12-15"_s},
@@ -73,15 +64,12 @@ TEST(DateControl, StepsAcrossMonthsAndYears) {
         {u"9999-12-31"_s, 1, 0, u"9999-12-31"_s}, {u"0001-01-01"_s, -1, 0, u"0001-01-01"_s},
         {u"9999-12-31"_s, 0, 1, u"9999-12-31"_s},
     };
-    for (const auto &each : cases) {
-        Field field(each.start);
-        field.Step(each.days);
-        field.StepMonths(each.months);
-        EXPECT_EQ(field.Shown(), each.end) << qPrintable(each.start);
+    for (const auto &[start, days, months, end] : cases) {
+        Field field(start);
+        field.Step(days);
+        field.StepMonths(months);
+        EXPECT_EQ(field.Shown(), end) << qPrintable(start);
     }
-}
-
-TEST(DateControl, ReplacesTheYearAlone) {
     Field field(u"2024-02-29"_s);
     field.SetYear(2028);
     EXPECT_EQ(field.Shown(), u"2028-02-29"_s);

@@ -1,10 +1,9 @@
 #include "platform/Listbox.h"
 
-#include "support/PrintText.h"
+#include "support/GoogleTest.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
-#include <gtest/gtest.h>
 
 #include <functional>
 
@@ -50,8 +49,7 @@ TEST_F(ListboxTest, JoinsCellsAndReadsAsEmptyOutside) {
     Fill({u"b"_s, u"c"_s});
     EXPECT_EQ(resets.count(), 1);
     EXPECT_EQ(list.Cell(-1, -1), u"b\t0\t\nc\t1\t"_s);
-    EXPECT_EQ(list.Cell(-1, 1), u"0\n1"_s);
-    EXPECT_EQ(list.Cell(1, -1), u"c\t1\t"_s);
+    EXPECT_EQ(list.Cell(-1, 1) + u'|' + list.Cell(1, -1), u"0\n1|c\t1\t"_s);
     EXPECT_EQ(list.Cell(2, 0) + list.Cell(0, 3) + list.RowTag(2), u""_s);
     EXPECT_EQ(list.CellTag(0, 1), Listbox::Tag());
     list.SetHeading(1, u"Konto"_s);
@@ -75,14 +73,6 @@ TEST_F(ListboxTest, SortsStablyBothWaysAndKeepsTheSelectionWithItsRow) {
     list.PressHeading(0);
     EXPECT_EQ(list.Cell(-1, 1), (upwards.mid(20) + upwards.first(20)).join(u'\n'));
     EXPECT_EQ(list.ListIndex(), 21);
-    list.SetSortedColumn(0);
-    QObject::connect(&list, &Listbox::CompareRows, &list,
-                     [this](int first, int second, int column, int &result, bool &handled) {
-                         result = list.Cell(second, column).compare(list.Cell(first, column));
-                         handled = true;
-                     });
-    list.Sort(); // Backwards now, and by upper and lower case.
-    EXPECT_EQ(list.Cell(0, 0) + list.Cell(20, 0) + list.Cell(39, 0), u"baA"_s);
     EXPECT_EQ(list.RowTag(list.ListIndex()), u"3"_s);
 }
 
@@ -130,8 +120,7 @@ TEST_F(ListboxTest, ShowsNoTextInACheckBoxColumnAndFlipsTheBox) {
     list.ToggleCheck(1, 2);
     list.ToggleCheck(0, 1);
     EXPECT_EQ(actions, u"02 12 "_s);
-    EXPECT_TRUE(list.CellCheck(0, 2));
-    EXPECT_FALSE(list.CellCheck(1, 2));
+    EXPECT_TRUE(list.CellCheck(0, 2) && !list.CellCheck(1, 2));
     EXPECT_EQ(list.index(0, 2).data(Qt::CheckStateRole).toInt(), int(Qt::Checked));
     EXPECT_EQ(list.index(0, 2).data(), QVariant());
     EXPECT_EQ(list.index(0, 1).data(Qt::CheckStateRole), QVariant());

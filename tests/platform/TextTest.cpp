@@ -1,8 +1,6 @@
 #include "platform/Text.h"
 
-#include "support/PrintText.h"
-
-#include <gtest/gtest.h>
+#include "support/GoogleTest.h"
 
 using namespace Qt::StringLiterals;
 

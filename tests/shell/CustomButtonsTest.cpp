@@ -1,11 +1,10 @@
 #include "shell/TLXCanvasButton.h"
 #include "shell/TLXPlusMinusButton.h"
 #include "support/DrawingRecorder.h"
-#include "support/PrintText.h"
+#include "support/GoogleTest.h"
 
 #include <QPoint>
 #include <QSignalSpy>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -30,9 +29,6 @@ TEST(TLXCanvasButton, ShowsWhetherTheMouseIsOverIt) {
     EXPECT_EQ(Painted(button), plain);
     Q_EMIT button.MouseEnter();
     EXPECT_EQ(Painted(button).first(), u"e6e6e6 fill 0 1 245 99"_s);
-    button.SetSize(300, 120);
-    EXPECT_EQ(Painted(button).last(), plain.last());
-    button.SetSize(245, 100);
     Q_EMIT button.MouseExit();
     EXPECT_EQ(Painted(button), plain);
 }
@@ -62,18 +58,14 @@ TEST(TLXPlusMinusButton, CountsAPressWhereItIsReleased) {
     Painted(button);
     const QSignalSpy plus(&button, &TLXPlusMinusButton::PlusPressed);
     const QSignalSpy minus(&button, &TLXPlusMinusButton::MinusPressed);
-    const struct {
-        QPoint released;
-        int plus;
-        int minus;
-    } cases[] = {{{0, 0}, 1, 0},   {{28, 29}, 2, 0}, {{29, 5}, 2, 0}, {{30, 0}, 2, 1},
-                 {{58, 29}, 2, 2}, {{59, 5}, 2, 2},  {{5, 30}, 2, 2}, {{-1, 5}, 2, 2},
-                 {{5, -1}, 2, 2},  {{90, 5}, 2, 2}};
-    for (const auto &each : cases) {
+    const std::pair<QPoint, QString> cases[] = {
+        {{0, 0}, u"1 0"_s},   {{28, 29}, u"2 0"_s}, {{29, 5}, u"2 0"_s}, {{30, 0}, u"2 1"_s},
+        {{58, 29}, u"2 2"_s}, {{59, 5}, u"2 2"_s},  {{5, 30}, u"2 2"_s}, {{-1, 5}, u"2 2"_s},
+        {{5, -1}, u"2 2"_s},  {{90, 5}, u"2 2"_s}};
+    for (const auto &[released, counts] : cases) {
         Q_EMIT button.MouseDown(5, 5);
-        Q_EMIT button.MouseUp(each.released.x(), each.released.y());
-        EXPECT_EQ(plus.count(), each.plus) << each.released.x();
-        EXPECT_EQ(minus.count(), each.minus) << each.released.x();
+        Q_EMIT button.MouseUp(released.x(), released.y());
+        EXPECT_EQ(u"%1 %2"_s.arg(plus.count()).arg(minus.count()), counts) << released.x();
     }
 }
 

@@ -1,33 +1,132 @@
-#include "shell/MainWindow.h"
-#include "shell/qt/MainWindowView.h"
-#include "support/Book.h"
+#include "support/MainWindowTest.h"
 
 #include <QComboBox>
+#include <QCompleter>
+#include <QContextMenuEvent>
+#include <QLineEdit>
+#include <QMenu>
 #include <QScrollBar>
-#include <QTableView>
-#include <QTest>
-#include <QWheelEvent>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The main window on the screen. A test fills the book and opens the window.
-class JournalPageTest : public testing::Test {
+class JournalPageTest : public MainWindowTest {
 protected:
-    void Open() {
-        window.Event_Open();
-        view.show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+    QComboBox &Menu(const QString &name) { return Find<QComboBox>(name); }
+    bool Shows(const QString &name) { return Find<QWidget>(name).isVisible(); }
+    void ChooseFromMenu(QPoint place, const QString &text) {
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place,
+                                list.viewport()->mapToGlobal(place));
+        QApplication::sendEvent(list.viewport(), &event);
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        ASSERT_TRUE(menu);
+        for (QAction *action : menu->actions()) {
+            if (action->text() == text) {
+                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+            }
+        }
     }
-    QComboBox &Menu(const QString &name) { return *view.findChild<QComboBox *>(name); }
 
-    Book book;
-    MainWindow window{book.app};
-    MainWindowView view{window, book.app};
-    QTableView &list = *view.findChild<QTableView *>(u"CashList"_s);
+    EntryRow &row = window.entryRow;
+    Listbox &bookings = window.journal.CashList;
+    QTableView &list = Find<QTableView>(u"CashList"_s);
 };
+
+TEST_F(JournalPageTest, BooksAReceiptAndAnExpenseByKeysAlone) {
+    Open();
+    Type(u"0203\t119"_s);
+    Key(Qt::Key_Period, Qt::KeypadModifier);
+    EXPECT_EQ(row.InputField.Text(), u"119,"_s);
+    Type(u"5\t7\terl"_s); // The locked amount is passed over.
+    Key(Qt::Key_Down);
+    Key(Qt::Key_Down);
+    Type(u"\r"_s); // The Return that completes does not save.
+    EXPECT_EQ(bookings.ListCount(), 0);
+    Type(u"\tR1\tbar\r"_s);
+    Type(u"+\t\t"_s); // The focus is back in the date.
+    EXPECT_EQ(row.CategoryLabel.Text(), u"Art der Ausgabe"_s);
+    Type(u"2.5\t\tfrei\r"_s);
+    EXPECT_EQ(bookings.Cell(-1, -1),
+              u"02.03.2026\t119,50\t\t7% USt.\tErlöse 7% USt\tR1\tbar\t219,50\n"
+              "03.03.2026\t\t2,50\t19% VSt.\tfrei\t\t\t217,00"_s);
+    EXPECT_EQ(book.Value(u"SELECT account FROM cash_journal WHERE id = 1"_s), u"8300"_s);
+}
+
+TEST_F(JournalPageTest, ShowsWhatIsMissingAndEscapeLeavesAChange) {
+    book.Add({u"2026-03-01"_s, u"E"_s, u"10"_s});
+    Open();
+    Key(Qt::Key_Return);
+    EXPECT_TRUE(Shows(u"ErrorLabel"_s));
+    DoubleClick(list, 0, 4);
+    EXPECT_TRUE(Shows(u"ChangeButton"_s) && !Shows(u"SubmitButton"_s));
+    EXPECT_FALSE(Find<QWidget>(u"OutputField"_s).isEnabled());
+    row.NoteField.SetText(u"neu"_s);
+    Type(u"2\x1b"_s); // Into the date, and Escape.
+    EXPECT_TRUE(Shows(u"SubmitButton"_s));
+    EXPECT_EQ(row.InputField.Text() + row.NoteField.Text(), u""_s);
+    EXPECT_EQ(bookings.ListIndex(), -1);
+    EXPECT_EQ(book.Value(u"SELECT vdate || note FROM cash_journal"_s), u"2026-03-01"_s);
+}
+
+TEST_F(JournalPageTest, CommandsActOnTheRowUnderThePointerWhileTheListHasTheFocus) {
+    Open();
+    Click(list.viewport(), {50, 50});
+    EXPECT_FALSE(window.MenuItemEnable()) << "an empty list enables nothing";
+    book.Add({u"2026-03-01"_s, u"E"_s, u"10"_s});
+    book.Add({u"2026-03-02"_s, u"E"_s, u"20"_s});
+    row.NewSale();
+    Click(list, 0, 4);
+    EXPECT_TRUE(window.MenuItemEnable() && bookings.ListIndex() == 0);
+    row.NoteField.SetFocus();
+    EXPECT_FALSE(window.MenuItemEnable());
+    ChooseFromMenu(Centre(list, 1, 4), u"Duplizieren"_s);
+    EXPECT_EQ(row.InputField.Text(), u"20,00"_s);
+    EXPECT_TRUE(row.SubmitButton.Visible());
+    Click(list, 0, 4);
+    ChooseFromMenu(Centre(list, 1, 4), u"Löschen"_s);
+    EXPECT_EQ(bookings.Cell(-1, Journal::Input), u"10,00"_s);
+    EXPECT_EQ(bookings.ListIndex(), -1);
+    EXPECT_TRUE(window.MenuItemEnable()) << "a menu takes the focus for a while only";
+    ChooseFromMenu({50, 300}, u"Löschen"_s);
+    EXPECT_EQ(bookings.ListCount(), 1) << "no row is selected";
+}
+
+TEST_F(JournalPageTest, TypedTextOfNoRowLeavesNoStaleRowBehind) {
+    Open();
+    row.InputField.SetText(u"1"_s);
+    const ComboBox &category = row.pickLists.CategoryCombo;
+    Menu(u"CategoryCombo"_s).setFocus();
+    Key(Qt::Key_Down);
+    ASSERT_EQ(category.ListIndex(), 0);
+    Type(u"x"_s);
+    EXPECT_EQ(category.ListIndex(), -1);
+    EXPECT_EQ(Menu(u"CategoryCombo"_s).currentText(), category.Text());
+
+    Menu(u"CategoryCombo"_s).lineEdit()->selectAll();
+    Type(u"19"_s);
+    ASSERT_TRUE(Menu(u"CategoryCombo"_s).completer()->popup()->isVisible()) << "inside words";
+    Key(Qt::Key_Escape);
+    EXPECT_EQ(category.Text(), u"19"_s);
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(category.Text(), u"19"_s);
+    row.pickLists.TaxCombo.SetFocus();
+    Menu(u"TaxCombo"_s).lineEdit()->selectAll();
+    Type(u"KEINE\x1b"_s);
+    EXPECT_EQ(row.pickLists.TaxCombo.ListIndex(), -1);
+    row.NoteField.SetFocus();
+    EXPECT_EQ(row.pickLists.TaxCombo.ListIndex(), 2);
+}
+
+TEST_F(JournalPageTest, KeepsALongNoteWithLineBreaksThroughAChange) {
+    const QString note = u"eins\nzwei\tdrei "_s + QString(40000, u'x');
+    book.Add({.date = u"2026-03-01"_s, .type = u"E"_s, .amount = u"10"_s, .note = note});
+    Open();
+    bookings.SetListIndex(0);
+    row.EditSale(EntryRow::EditMode::Change);
+    row.ChangeButton.Press();
+    EXPECT_EQ(book.Value(u"SELECT note FROM cash_journal"_s), note);
+}
 
 TEST_F(JournalPageTest, ShowsTheBookingsOfThePeriodThatTheKeysChoose) {
     book.Run(u"INSERT INTO cash_book (name, account) VALUES ('Laden', '1010')"_s);
@@ -43,51 +142,50 @@ TEST_F(JournalPageTest, ShowsTheBookingsOfThePeriodThatTheKeysChoose) {
         {u"CashbookPopup"_s, {Qt::Key_End}, u"1010:Laden"_s, u"7,00"_s},
         {u"MonthPopup"_s, {Qt::Key_D}, u"Dezember"_s, u""_s}};
     for (const auto &[name, keys, text, balances] : steps) {
-        QComboBox &menu = Menu(name);
-        menu.setFocus();
+        Menu(name).setFocus();
         for (const Qt::Key key : keys) {
-            QTest::keyClick(&menu, key);
+            Key(key);
         }
-        EXPECT_EQ(menu.currentText(), text);
-        EXPECT_EQ(window.journal.CashList.Cell(-1, Journal::Balance), balances);
+        EXPECT_EQ(Menu(name).currentText(), text);
+        EXPECT_EQ(bookings.Cell(-1, Journal::Balance), balances);
     }
 }
 
 TEST_F(JournalPageTest, LetsTheWheelTurnOnlyTheControlWithTheFocus) {
     Open();
-    window.entryRow.InputField.SetText(u"1"_s);
+    row.InputField.SetText(u"1"_s);
     for (const QString &name : {u"MonthPopup"_s, u"TaxCombo"_s, u"CategoryCombo"_s}) {
-        QComboBox &menu = Menu(name);
-        const QString before = menu.currentText();
-        const auto turn = [&menu] {
-            QWheelEvent event({5, 5}, menu.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
-                              Qt::NoModifier, Qt::NoScrollPhase, false);
-            QApplication::sendEvent(&menu, &event);
-        };
+        const QString before = Menu(name).currentText();
         list.setFocus();
-        turn();
-        EXPECT_EQ(menu.currentText(), before);
-        menu.setFocus();
-        turn();
-        EXPECT_NE(menu.currentText(), before);
+        TurnWheel(Menu(name), -120);
+        EXPECT_EQ(Menu(name).currentText(), before);
+        Menu(name).setFocus();
+        TurnWheel(Menu(name), -120);
+        EXPECT_NE(Menu(name).currentText(), before);
     }
 }
 
-TEST_F(JournalPageTest, KeepsThePlaceInALongListThroughAReload) {
+TEST_F(JournalPageTest, ShowsTheNewBookingInALongListAndKeepsThePlaceThroughAReload) {
+    Open();
     book.Run(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 20000) "
              "INSERT INTO cash_journal (vdate, type, amount, tax, cashbookID) "
              "SELECT date('2026-01-01', '+' || (i % 365) || ' days'), 'E', 1, '3', 1 FROM n"_s);
-    Open();
-    // The list of the logic is itself what the view shows: there is no second copy.
-    ASSERT_EQ(list.model(), &window.journal.CashList);
-    ASSERT_EQ(window.journal.CashList.ListCount(), 20000);
+    ASSERT_EQ(list.model(), &bookings) << "the list of the logic has a second copy";
+    const auto isShown = [this](int index) {
+        return list.viewport()->rect().contains(Centre(list, index, 4));
+    };
+    row.InputField.SetText(u"5"_s);
+    row.pickLists.CategoryCombo.SetText(u"frei"_s);
+    row.SubmitButton.Press();
+    EXPECT_TRUE(isShown(bookings.FindRow(u"20001"_s)));
+
+    window.selectors.MonthPopup.SetListIndex(0);
+    QApplication::processEvents(); // The view lays out its rows.
     list.setFocus();
-    QTest::keyClick(&list, Qt::Key_End);
-    EXPECT_EQ(window.journal.CashList.ListIndex(), 19999);
-    const QRect last = list.visualRect(list.model()->index(19999, 0));
-    EXPECT_TRUE(list.viewport()->rect().contains(last));
-    QTest::keyClick(&list, Qt::Key_Up);
-    EXPECT_EQ(window.journal.CashList.ListIndex(), 19998);
+    Key(Qt::Key_End);
+    EXPECT_TRUE(bookings.ListIndex() == 20000 && isShown(20000));
+    Key(Qt::Key_Up);
+    EXPECT_EQ(bookings.ListIndex(), 19999);
 
     list.verticalScrollBar()->setValue(12345);
     const int top = list.rowAt(0);
@@ -95,8 +193,7 @@ TEST_F(JournalPageTest, KeepsThePlaceInALongListThroughAReload) {
     window.balances.Refresh();
     QApplication::processEvents();
     EXPECT_EQ(list.rowAt(0), top);
-    EXPECT_EQ(list.selectionModel()->selectedRows().size(), 0);
-    EXPECT_EQ(window.journal.CashList.ListIndex(), -1);
+    EXPECT_FALSE(list.selectionModel()->hasSelection() || bookings.ListIndex() >= 0);
 }
 
 } // namespace

@@ -3,17 +3,13 @@
 #include "setup/WelcomeWindow.h"
 #include "shell/qt/QtDesktop.h"
 #include "shell/qt/WelcomeWindowView.h"
-#include "support/Book.h"
+#include "support/MainWindowTest.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QStackedWidget>
-#include <QTableView>
-#include <QTest>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -53,19 +49,24 @@ void Click(QWidget *welcome, QPoint place) {
     QTest::mouseClick(welcome->windowHandle(), Qt::LeftButton, {}, sheet->pos() + place);
 }
 
-TEST(Windows, LeadFromTheWelcomeWindowIntoTheSampleBook) {
-    QtDesktop desktop;
-    App app(desktop, UserLocale(QLocale::c()));
-    ASSERT_FALSE(app.DefaultDatabaseFile().Exists());
-    Windows windows(app);
-    windows.Open();
-    QWidget *welcome = ShownWindow(u"WelcomeWindow"_s);
-    ASSERT_TRUE(welcome);
-    EXPECT_FALSE(ShownWindow(u"MainWindow"_s));
+/// The first start on the real desktop, which has no book yet.
+class FirstStartTest : public testing::Test {
+protected:
+    void SetUp() override {
+        windows.Open();
+        ASSERT_TRUE(welcome = ShownWindow(u"WelcomeWindow"_s));
+        ASSERT_FALSE(ShownWindow(u"MainWindow"_s));
+    }
 
+    QtDesktop desktop;
+    App app{desktop, UserLocale(QLocale::c())};
+    Windows windows{app};
+    QWidget *welcome = nullptr;
+};
+
+TEST_F(FirstStartTest, LeadsFromTheWelcomeWindowIntoTheSampleBook) {
     // On the title that lies over the button.
-    const QStringList boxes = Boxes([&] { Click(welcome, {700, 22}); });
-    EXPECT_EQ(boxes.size(), 1);
+    EXPECT_EQ(Boxes([&] { Click(welcome, {700, 22}); }).size(), 1);
     EXPECT_FALSE(ShownWindow(u"WelcomeWindow"_s));
     QWidget *main = ShownWindow(u"MainWindow"_s);
     ASSERT_TRUE(main);
@@ -81,36 +82,21 @@ TEST(Windows, OpenTheMainWindowAtOnceOnABookInItsPlace) {
     EXPECT_FALSE(ShownWindow(u"WelcomeWindow"_s));
 }
 
-TEST(Windows, LeadByTheKeysFromTheFirstStartToABookOfOnesOwn) {
-    QtDesktop desktop;
-    App app(desktop, UserLocale(QLocale::c()));
-    Windows windows(app);
-    windows.Open();
-    QWidget *welcome = ShownWindow(u"WelcomeWindow"_s);
-    ASSERT_TRUE(welcome);
-    const auto key = [&](Qt::Key each) {
-        ASSERT_TRUE(welcome->focusWidget());
-        QTest::keyClick(welcome->focusWidget(), each);
-    };
+TEST_F(FirstStartTest, LeadsByTheKeysToABookOfOnesOwn) {
     const auto *pages = welcome->findChild<QStackedWidget *>(u"PagePanel1"_s);
     Click(welcome, {700, 150});
-    EXPECT_EQ(Boxes([&] { key(Qt::Key_Return); }),
+    EXPECT_EQ(Boxes([&] { Type(*welcome, u"\r"_s); }),
               QStringList(u"Bitte geben Sie einen Firmannamen an"_s));
-    QTest::keyClicks(welcome->focusWidget(), u"Peter's"_s);
-    key(Qt::Key_Return);
+    Type(*welcome, u"Peter's\r"_s);
     EXPECT_EQ(pages->currentIndex(), 2);
-    key(Qt::Key_Escape);
+    Type(*welcome, u"\x1b"_s);
     EXPECT_EQ(pages->currentIndex(), 1);
     EXPECT_EQ(welcome->focusWidget()->objectName(), u"CompanyField"_s);
-    key(Qt::Key_Return);
-    key(Qt::Key_Down);
-    EXPECT_EQ(Boxes([&] { key(Qt::Key_Return); }).size(), 1);
+    Type(*welcome, u"\r"_s);
+    QTest::keyClick(welcome->windowHandle(), Qt::Key_Down);
+    EXPECT_EQ(Boxes([&] { Type(*welcome, u"\r"_s); }).size(), 1);
     EXPECT_TRUE(app.DefaultDatabaseFile().Exists());
-    key(Qt::Key_Escape);
-    key(Qt::Key_Backspace);
-    key(Qt::Key_Backspace);
-    key(Qt::Key_Return);
-    key(Qt::Key_Return);
+    Type(*welcome, u"\x1b\b\b\r\r"_s);
     EXPECT_FALSE(ShownWindow(u"WelcomeWindow"_s));
     EXPECT_TRUE(ShownWindow(u"MainWindow"_s));
     app.NewDatabase();

@@ -3,7 +3,6 @@
 #include "core/Scripts.h"
 
 #include <QProcess>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -29,18 +28,10 @@ Book::Book(Place place) : app(desktop, UserLocale(QLocale(QLocale::German, QLoca
 }
 
 void Book::Add(const Booking &booking) const {
-    DatabaseRecord record;
-    record.SetColumn(u"vdate"_s, booking.date);
-    record.SetColumn(u"type"_s, booking.type);
-    record.SetColumn(u"amount"_s, booking.amount);
-    record.SetColumn(u"tax"_s, booking.tax);
-    record.SetColumn(u"category"_s, booking.category);
-    record.SetColumn(u"salesnumber"_s, booking.number);
-    record.SetColumn(u"note"_s, booking.note);
-    record.SetColumn(u"cashbookID"_s, booking.cashbook);
-    record.SetColumn(u"account"_s, booking.account);
-    app.kvoDB().InsertRecord(u"cash_journal"_s, record);
-    EXPECT_FALSE(app.kvoDB().Error()) << qPrintable(app.kvoDB().ErrorMessage());
+    Run(u"INSERT INTO cash_journal (vdate, type, amount, tax, category, salesnumber, note, "
+        "cashbookID, account) VALUES ('%1', '%2', '%3', '%4', '%5', '%6', '%7', '%8', '%9')"_s.arg(
+            booking.date, booking.type, booking.amount, booking.tax, booking.category,
+            booking.number, booking.note, booking.cashbook, booking.account));
 }
 
 void Book::Run(const QString &sql) const {

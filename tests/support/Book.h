@@ -2,11 +2,12 @@
 
 #include "core/App.h"
 #include "support/FakeDesktop.h"
-#include "support/PrintText.h"
+#include "support/GoogleTest.h"
 
 #include <QString>
 
-/// A booking to put into a book; the amount and the date as the database stores them.
+/// A booking to put into a book; the amount and the date as the database stores them, and no
+/// apostrophe in its texts.
 struct Booking {
     QString date;
     QString type;

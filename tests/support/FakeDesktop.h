@@ -18,7 +18,7 @@ public:
     QStringList opened;
 
     Date Now() const override { return now; }
-    FolderItem ApplicationData() const override;
+    FolderItem ApplicationData() const override { return FolderItem(Path(QStringLiteral("data"))); }
     void MsgBox(const QString &message) override { messages.append(message); }
     FolderItem ExecutableFile() const override {
         return FolderItem(Path(QStringLiteral("bin/zolmark")));

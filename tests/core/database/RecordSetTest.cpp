@@ -1,7 +1,5 @@
 #include "support/Book.h"
 
-#include <gtest/gtest.h>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -44,17 +42,18 @@ TEST_F(RecordSetTest, WritesOnlyTheFieldsThatWereSet) {
 }
 
 TEST_F(RecordSetTest, TellsWhatCannotBeChanged) {
-    const std::tuple<QString, QLatin1StringView> cases[] = {
-        {u"SELECT * FROM cash_journal WHERE id = 3"_s, "note"_L1}, // No row.
-        {u"SELECT * FROM cash_journal"_s, "missing"_L1},           // No such column.
-        {u"SELECT * FROM cash_journal WHERE id = 2"_s, "note"_L1}};
-    for (const auto &[sql, column] : cases) {
+    const QString gone = u"Der Datensatz ist nicht mehr vorhanden."_s;
+    const std::tuple<QString, QLatin1StringView, QString> cases[] = {
+        {u"SELECT * FROM cash_journal WHERE id = 3"_s, "note"_L1, gone},
+        {u"SELECT * FROM cash_journal WHERE id = 2"_s, "note"_L1, gone},
+        {u"SELECT * FROM cash_journal"_s, "missing"_L1, u"In der Datenbank fehlt eine Spalte."_s}};
+    for (const auto &[sql, column, message] : cases) {
         const auto records = database.SQLSelect(sql);
         book.Run(u"DELETE FROM cash_journal WHERE id = 2"_s); // Meanwhile.
         records->Edit();
         records->Field(column).SetStringValue(u"x"_s);
         records->Update();
-        EXPECT_NE(database.ErrorMessage(), u""_s) << qPrintable(sql);
+        EXPECT_EQ(database.ErrorMessage(), message) << qPrintable(sql);
         book.Run(u"INSERT INTO cash_journal (id) VALUES (2)"_s);
     }
 }
