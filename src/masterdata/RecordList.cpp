@@ -25,11 +25,11 @@ void RecordList::Load() {
             list_.SetRowTag(list_.LastIndex(), id.StringValue());
         }
         list_.SetListIndex(list_.FindRow(selected));
+        list_.SetSortedColumn(sortedColumn_);
+        list_.Sort();
     }
     // A damaged page shows only on the way.
     app_.ReportError();
-    list_.SetSortedColumn(sortedColumn_);
-    list_.Sort();
 }
 
 void RecordList::Save(int row, QLatin1StringView column, const QString &value) {

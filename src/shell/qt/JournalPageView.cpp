@@ -5,6 +5,7 @@
 #include "shell/qt/ComboBoxView.h"
 #include "shell/qt/ControlBinding.h"
 #include "shell/qt/DateControlView.h"
+#include "shell/qt/GivenColours.h"
 #include "shell/qt/LabelView.h"
 #include "shell/qt/ListboxView.h"
 #include "shell/qt/MainWindowView.h"
@@ -70,9 +71,7 @@ void JournalPageView::AddErrorBar(EntryRow &row) {
     bar->SetFrame({0xffff0000, 0xffff0000});
     BindControl(row.ErrorRect, *bar);
     auto *message = new LabelView(row.ErrorLabel, bar);
-    QPalette colours = message->palette();
-    colours.setColor(QPalette::WindowText, Qt::white);
-    message->setPalette(colours);
+    SetTextColour(*message, 0xffffffff);
     bar->Add(message, {13, 0, 448, 18});
     Add(bar, {141, 135, 471, 20});
 }

@@ -39,12 +39,6 @@ QLabel *SetSize(QLabel *label, int textSize, bool bold = false) {
     return label;
 }
 
-void SetColour(QLabel *label, QRgb colour) {
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, QColor(colour));
-    label->setPalette(palette);
-}
-
 void AddExplanation(Sheet &page, const QString &name, const QString &text, const QRect &place) {
     page.AddCaption(name, text, place, LT, Qt::AlignTop)->setWordWrap(true);
 }
@@ -111,16 +105,16 @@ Sheet *WelcomeWindowView::AddPage(const QString &name) {
 
 void WelcomeWindowView::AddGreeting() {
     Sheet &page = *AddPage(u"Rectangle1"_s);
-    SetColour(SetSize(page.AddCaption(u"Label1"_s, u"Willkomen bei Zolmark"_s,
-                                      OnPage(27, 9, 510, 36), LT, Qt::AlignHCenter),
-                      32, true),
-              strongText);
-    SetColour(SetSize(page.AddCaption(u"Label2"_s,
-                                      u"Einnahmen und Ausgabenverwaltung für \n"
-                                      "Selbstständige und Freiberufler"_s,
-                                      OnPage(27, 54, 510, 45), LT, Qt::AlignHCenter),
-                      16),
-              softText);
+    SetTextColour(*SetSize(page.AddCaption(u"Label1"_s, u"Willkomen bei Zolmark"_s,
+                                           OnPage(27, 9, 510, 36), LT, Qt::AlignHCenter),
+                           32, true),
+                  strongText);
+    SetTextColour(*SetSize(page.AddCaption(u"Label2"_s,
+                                           u"Einnahmen und Ausgabenverwaltung für \n"
+                                           "Selbstständige und Freiberufler"_s,
+                                           OnPage(27, 54, 510, 45), LT, Qt::AlignHCenter),
+                           16),
+                  softText);
     page.Add(new CanvasView(window_.Canvas1, &page), OnPage(31, 102, 513, 200));
 }
 
@@ -213,6 +207,6 @@ void WelcomeWindowView::AddChoice(TLXCanvasButton &button, const Choice &choice)
         return label;
     };
     SetSize(add(choice.title, 20), QFontInfo(font()).pixelSize(), true);
-    SetColour(SetSize(add(choice.description, choice.top + 99 - choice.description.top), 12),
-              strongText);
+    SetTextColour(*SetSize(add(choice.description, choice.top + 99 - choice.description.top), 12),
+                  strongText);
 }
