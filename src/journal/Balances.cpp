@@ -43,7 +43,7 @@ void Balances::Refresh() {
 }
 
 void Balances::ReCalcAmount() {
-    const Currency opening = GetOpeningBalance(SelectedCashbookID());
+    const Currency opening = GetOpeningBalance(selectors_.SelectedCashbookID());
     const QString sql = u"SELECT * FROM cash_journal WHERE vdate  < '"_s +
                         selectors_.PeriodStartSQL() + u"' AND "_s + selectors_.CashbookCondition();
     const auto records = app_.kvoDB().SQLSelect(sql);
@@ -77,11 +77,6 @@ void Balances::RunBalance(Currency balance) {
     list.SetColumn(Journal::Balance, texts);
 }
 
-int Balances::SelectedCashbookID() const {
-    const PopupMenu &cashbooks = selectors_.CashbookPopup;
-    return cashbooks.RowTag(cashbooks.ListIndex()).toInt();
-}
-
 std::unique_ptr<RecordSet> Balances::SelectCashbook(int id) {
     auto records = app_.kvoDB().SQLSelect(u"SELECT * FROM cash_book WHERE id = '%1'"_s.arg(id));
     app_.ReportError();
@@ -94,7 +89,7 @@ Currency Balances::GetOpeningBalance(int id) {
 }
 
 std::optional<Date> Balances::GetOpeningDate() {
-    const auto records = SelectCashbook(SelectedCashbookID());
+    const auto records = SelectCashbook(selectors_.SelectedCashbookID());
     return records ? records->Field("opening_balance_date"_L1).DateValue() : std::nullopt;
 }
 

@@ -43,7 +43,6 @@ public:
 
 private:
     std::unique_ptr<RecordSet> SelectCashbook(int id);
-    int SelectedCashbookID() const;
     void RunBalance(Currency balance);
 
     App &app_;

@@ -94,8 +94,7 @@ void Journal::CashList_Open() {
 }
 
 QString Journal::Statement() const {
-    QString condition = u"WHERE "_s + selectors_.CashbookCondition() +
-                        u" AND substr(vdate,1,4) = '"_s + selectors_.YearPopup.Text() + u'\'';
+    QString condition = u"WHERE "_s + selectors_.CashbookAndYearCondition();
     const int month = selectors_.MonthPopup.ListIndex();
     if (month >= 1) {
         condition += u" AND substr(vdate, 6, 2)='"_s + selectors_.MonthPopup.RowTag(month) + u'\'';

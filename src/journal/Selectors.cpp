@@ -94,6 +94,14 @@ QString Selectors::CashbookCondition() const {
     return u"cashbookID = '"_s + (index < 1 ? u"1"_s : CashbookPopup.RowTag(index)) + u'\'';
 }
 
+QString Selectors::CashbookAndYearCondition() const {
+    return CashbookCondition() + u" AND substr(vdate,1,4) = '"_s + YearPopup.Text() + u'\'';
+}
+
+int Selectors::SelectedCashbookID() const {
+    return CashbookPopup.RowTag(CashbookPopup.ListIndex()).toInt();
+}
+
 QString Selectors::PeriodStartSQL() const {
     const QString month = MonthPopup.RowTag(MonthPopup.ListIndex());
     return YearPopup.Text() + u'-' + (month.isEmpty() ? u"01"_s : month) + u"-01"_s;

@@ -44,6 +44,10 @@ public:
     /// "cashbookID = '...'", for behind a WHERE or an AND. The first row stands for the main cash
     /// book, whatever its tag says.
     QString CashbookCondition() const;
+    /// The same, and the selected year.
+    QString CashbookAndYearCondition() const;
+    /// The id of the selected cash book, 0 if there is none.
+    int SelectedCashbookID() const;
     /// The first day of the selected month or year, as a SQL date.
     QString PeriodStartSQL() const;
 

@@ -5,9 +5,12 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 class MenuItem;
+class PrinterGraphics;
+struct SaveAsDialog;
 
 /// What the program asks of the world outside its windows. Everything modal goes through here.
 class Desktop {
@@ -21,6 +24,8 @@ public:
     virtual Date Now() const = 0;
     /// The user's folder for application data.
     virtual FolderItem ApplicationData() const = 0;
+    /// The user's desktop folder.
+    virtual FolderItem DesktopFolder() const = 0;
     /// The file of the running program.
     virtual FolderItem ExecutableFile() const = 0;
 
@@ -28,6 +33,10 @@ public:
     virtual void MsgBox(const QString &message) = 0;
     /// Asks for a file to open, of any type; nothing when the user cancels.
     virtual std::optional<FolderItem> GetOpenFolderItem() = 0;
+    /// Asks for the name of a new file; nothing when the user cancels.
+    virtual std::optional<FolderItem> ShowModal(const SaveAsDialog &dialog) = 0;
+    /// Asks for a printer, for a document of this name; nothing when the user cancels.
+    virtual std::unique_ptr<PrinterGraphics> OpenPrinterDialog(const QString &document) = 0;
     /// Shows the entries under the item as a menu at the mouse; the position of the chosen one,
     /// nothing when the user closes the menu.
     virtual std::optional<int> PopUp(const MenuItem &base) = 0;

@@ -2,6 +2,8 @@
 
 #include <charconv>
 
+using namespace Qt::StringLiterals;
+
 double Val(QStringView text) {
     const QByteArray number = text.trimmed().toUtf8();
     const char *begin = number.constData();
@@ -22,6 +24,10 @@ double Val(QStringView text) {
 
 QString NthField(const QString &text, QChar separator, int number) {
     return text.section(separator, number - 1, number - 1);
+}
+
+QString ReplaceLineEndings(QString text, const QString &ending) {
+    return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').replace(u"\n"_s, ending);
 }
 
 bool SameText(QStringView a, QStringView b) {

@@ -1,15 +1,18 @@
 #include "shell/MainWindow.h"
 
+#include "core/App.h"
 #include "platform/Text.h"
+#include "reports/ListExport.h"
 
 using namespace Qt::StringLiterals;
 
 MainWindow::MainWindow(App &app)
     : selectors(app), journal(app, selectors), balances(app, selectors, journal),
       entryRow(app, selectors, journal, balances), companyProfile(app), cashBooks(app),
-      bookingAccounts(app), PagePanel1(u"PagePanel1"_s),
-      PreferencesButton(u"PreferencesButton"_s, u"Einstellungen"_s,
-                        u"interface_preferences.png"_s) {
+      bookingAccounts(app), cashReport(app, selectors, journal, balances, companyProfile),
+      accountingExport(app, selectors), PagePanel1(u"PagePanel1"_s),
+      PreferencesButton(u"PreferencesButton"_s, u"Einstellungen"_s, u"interface_preferences.png"_s),
+      app_(app) {
     connect(&journal.CashList, &Listbox::CellClick, this, &MainWindow::CashList_CellClick);
     connect(&journal.CashList, &Listbox::LostFocus, this, &MainWindow::CashList_LostFocus);
     connect(&PreferencesButton, &ToolItem::Action, this, &MainWindow::MainWindowToolbar_Action);
@@ -33,11 +36,20 @@ void MainWindow::Event_Close() {
 }
 
 void MainWindow::MenuAction(const QString &word) {
-    if (SameText(word, u"preferences"_s)) {
+    if (SameText(word, u"print"_s)) {
+        cashReport.Print();
+    } else if (SameText(word, u"export"_s)) {
+        Export();
+    } else if (SameText(word, u"preferences"_s)) {
         EnterPreferences();
     } else if (SameText(word, u"cashbook"_s)) {
         LeavePreferences();
     }
+}
+
+void MainWindow::Export() {
+    accountingExport.ExportJournal();
+    TLXModule::ExportCSV(app_.GetDesktop(), accountingExport.ExportList);
 }
 
 void MainWindow::EnterPreferences() {

@@ -9,6 +9,8 @@
 #include "masterdata/CompanyProfile.h"
 #include "platform/PagePanel.h"
 #include "platform/ToolItem.h"
+#include "reports/AccountingExport.h"
+#include "reports/CashReport.h"
 
 #include <QObject>
 
@@ -29,6 +31,8 @@ public:
     CompanyProfile companyProfile;
     CashBooks cashBooks;
     BookingAccounts bookingAccounts;
+    CashReport cashReport;
+    AccountingExport accountingExport;
 
     PagePanel PagePanel1;
     /// Leads to the preferences, and back to the journal.
@@ -39,9 +43,10 @@ public:
     /// Runs when the window closes: what has been typed in the preferences is written.
     void Event_Close();
 
-    /// Runs the command of a word: "preferences" enters the preferences page and reads it anew from
-    /// the book, "cashbook" leaves it and saves the company if it was edited. Another word does
-    /// nothing.
+    /// Runs the command of a word: "print" prints the cash report and "export" writes the posting
+    /// records of the year, both from either page; "preferences" enters the preferences page and
+    /// reads it anew from the book, "cashbook" leaves it and saves the company if it was edited.
+    /// Another word does nothing.
     void MenuAction(const QString &word);
 
     /// Whether the commands that work on a booking are open: a click in the list opens them, and
@@ -49,6 +54,7 @@ public:
     bool MenuItemEnable() const { return menuItemEnable_; }
 
 private:
+    void Export();
     void EnterPreferences();
     void LeavePreferences();
     void EndEdits();
@@ -56,5 +62,6 @@ private:
     void CashList_CellClick();
     void CashList_LostFocus();
 
+    App &app_;
     bool menuItemEnable_ = false;
 };

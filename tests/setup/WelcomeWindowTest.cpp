@@ -2,11 +2,9 @@
 
 #include "shell/MainWindow.h"
 #include "support/Book.h"
+#include "support/FullDisk.h"
 
 #include <QFile>
-
-#include <csignal>
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -159,19 +157,15 @@ TEST_F(WelcomeWindowTest, TellsWhenTheFolderIsAFile) {
 }
 
 TEST_F(WelcomeWindowTest, LeavesNothingBehindOnAFullDisk) {
-    const auto withoutLimit = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
     FillCompany(u"Holz"_s);
     for (const rlim_t bytes : {0U, 1024U, 5000U, 9000U}) {
-        const rlimit full{bytes, before.rlim_max};
-        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &full), 0);
-        welcome.SaveButton.Press();
-        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
+        {
+            const FullDisk disk(bytes);
+            welcome.SaveButton.Press();
+        }
         EXPECT_FALSE(TakeMessage().isEmpty()) << bytes;
         EXPECT_EQ(TakeSignals(), u""_s);
     }
-    std::signal(SIGXFSZ, withoutLimit);
     welcome.Event_Close();
     EXPECT_FALSE(app.DefaultDatabaseFile().Exists());
     welcome.SaveButton.Press();

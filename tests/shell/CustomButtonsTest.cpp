@@ -11,12 +11,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QStringList Painted(Canvas &canvas) {
-    DrawingRecorder surface;
+    QStringList drawn;
+    DrawingRecorder surface(drawn);
     if (canvas.Backdrop()) {
         canvas.Backdrop()->DrawOn(surface);
     }
     Q_EMIT canvas.Paint(surface);
-    return surface.drawn;
+    return drawn;
 }
 
 TEST(TLXCanvasButton, ShowsWhetherTheMouseIsOverIt) {

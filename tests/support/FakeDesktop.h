@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/Desktop.h"
+#include "platform/SaveAsDialog.h"
+#include "support/DrawingRecorder.h"
 
 #include <QStringList>
 #include <QTemporaryDir>
@@ -14,16 +16,29 @@ public:
     QStringList messages;
     std::optional<FolderItem> fileToOpen;
     std::optional<int> menuChoice;
+    /// The answer to the dialog for a new file, and the last one that was shown.
+    std::optional<FolderItem> fileToSave;
+    std::optional<SaveAsDialog> saveDialog;
+    /// What was printed; nothing while the user cancels the dialog.
+    std::optional<QStringList> paper;
     /// What was shown or opened: "about", and the names of files.
     QStringList opened;
 
     Date Now() const override { return now; }
     FolderItem ApplicationData() const override { return FolderItem(Path(QStringLiteral("data"))); }
+    FolderItem DesktopFolder() const override { return FolderItem(Path(QStringLiteral("desk"))); }
     void MsgBox(const QString &message) override { messages.append(message); }
     FolderItem ExecutableFile() const override {
         return FolderItem(Path(QStringLiteral("bin/zolmark")));
     }
     std::optional<FolderItem> GetOpenFolderItem() override { return fileToOpen; }
+    std::optional<FolderItem> ShowModal(const SaveAsDialog &dialog) override {
+        saveDialog = dialog;
+        return fileToSave;
+    }
+    std::unique_ptr<PrinterGraphics> OpenPrinterDialog(const QString & /*document*/) override {
+        return paper ? std::make_unique<DrawingRecorder>(*paper) : nullptr;
+    }
     std::optional<int> PopUp(const MenuItem & /*base*/) override { return menuChoice; }
     void ShowAboutPanel() override { opened.append(QStringLiteral("about")); }
     void Launch(const FolderItem &file) override { opened.append(file.Path()); }

@@ -1,26 +1,23 @@
 #include "shell/qt/QtDesktop.h"
 
 #include "platform/MenuItem.h"
+#include "platform/SaveAsDialog.h"
+#include "platform/Text.h"
+#include "shell/qt/PrintJob.h"
 
 #include <QApplication>
 #include <QCursor>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QStandardPaths>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// Line ends of any kind, as the toolkit shows them.
-QString WithLineFeeds(QString text) {
-    return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
-}
-
-} // namespace
 
 Date QtDesktop::Now() const {
     return Date(QDateTime::currentDateTime());
@@ -30,13 +27,19 @@ FolderItem QtDesktop::ApplicationData() const {
     return FolderItem(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
 }
 
+FolderItem QtDesktop::DesktopFolder() const {
+    const FolderItem desktop(QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
+    return desktop.Exists() ? desktop : FolderItem(QDir::homePath());
+}
+
 FolderItem QtDesktop::ExecutableFile() const {
     return FolderItem(QApplication::applicationFilePath());
 }
 
 void QtDesktop::MsgBox(const QString &message) {
-    QMessageBox box(QMessageBox::NoIcon, QApplication::applicationName(), WithLineFeeds(message),
-                    QMessageBox::Ok, QApplication::activeWindow());
+    QMessageBox box(QMessageBox::NoIcon, QApplication::applicationName(),
+                    ReplaceLineEndings(message, u"\n"_s), QMessageBox::Ok,
+                    QApplication::activeWindow());
     // Texts of the database may hold what looks like markup.
     box.setTextFormat(Qt::PlainText);
     box.exec();
@@ -45,6 +48,29 @@ void QtDesktop::MsgBox(const QString &message) {
 std::optional<FolderItem> QtDesktop::GetOpenFolderItem() {
     const QString path = QFileDialog::getOpenFileName(QApplication::activeWindow());
     return path.isEmpty() ? std::nullopt : std::optional(FolderItem(path));
+}
+
+std::optional<FolderItem> QtDesktop::ShowModal(const SaveAsDialog &dialog) {
+    QFileDialog box(QApplication::activeWindow(), dialog.title, dialog.initialDirectory.Path(),
+                    u"%1 (*%2)"_s.arg(dialog.filter.name, dialog.filter.extensions));
+    box.setAcceptMode(QFileDialog::AcceptSave);
+    box.setLabelText(QFileDialog::FileName, dialog.promptText);
+    box.setDefaultSuffix(dialog.filter.extensions);
+    box.selectFile(dialog.suggestedFileName);
+    return box.exec() == QDialog::Accepted
+               ? std::optional(FolderItem(box.selectedFiles().constFirst()))
+               : std::nullopt;
+}
+
+std::unique_ptr<PrinterGraphics> QtDesktop::OpenPrinterDialog(const QString &document) {
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setDocName(document);
+    QPrintDialog dialog(printer.get(), QApplication::activeWindow());
+    if (dialog.exec() != QDialog::Accepted) {
+        return nullptr;
+    }
+    return std::make_unique<PrintJob>(std::move(printer),
+                                      [this](const QString &failure) { MsgBox(failure); });
 }
 
 std::optional<int> QtDesktop::PopUp(const MenuItem &base) {

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/Listbox.h"
+
+class App;
+class Selectors;
+
+/// The posting records for the accountant: the bookings of the selected cash book and year, with
+/// the debit and credit account of each. The selected month and the journal on the screen do not
+/// matter.
+class AccountingExport {
+public:
+    AccountingExport(App &app, Selectors &selectors);
+
+    /// The columns of the record, and of the export file.
+    enum Column {
+        VoucherDate,
+        Amount,
+        TaxKey,
+        TaxName,
+        Category,
+        VoucherNumber,
+        DebitAccount,
+        CreditAccount,
+        CurrencyCode,
+        Note,
+        Internal
+    };
+    static constexpr int columnCount = Internal + 1;
+
+    /// The records; the user never sees this list. The row tag is the booking's id.
+    Listbox ExportList;
+
+    /// Fills ExportList from the database, in order of date. A database error is told, and leaves
+    /// the list as it was.
+    void ExportJournal();
+
+private:
+    App &app_;
+    Selectors &selectors_;
+};
