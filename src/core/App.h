@@ -26,6 +26,9 @@ public:
     /// A picture or the manual, in the folder Resources beside the program's own folder.
     FolderItem Resource(const QString &name) const;
 
+    /// Opens the manual in the user's viewer.
+    void LaunchManual() const { desktop_.Launch(Resource(QStringLiteral("Zolmark.pdf"))); }
+
     /// Prepares the default file with its key; false when there is no such file. Opens nothing.
     bool DBLoad();
     /// Lets the user choose a file, without a key; false when there is none, and the database in

@@ -45,4 +45,6 @@ public:
 
     /// Opens a file in the program that the system assigns to it; tells nothing when there is none.
     virtual void Launch(const FolderItem &file) = 0;
+    /// Opens an address in the user's browser; tells nothing when there is none.
+    virtual void ShowURL(const QString &address) = 0;
 };

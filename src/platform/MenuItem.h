@@ -1,22 +1,61 @@
 #pragma once
 
+#include <QObject>
 #include <QString>
 
 #include <memory>
 #include <vector>
 
 /// An entry of a menu, and the entries under it.
-class MenuItem {
+class MenuItem : public QObject {
+    Q_OBJECT
+
 public:
+    /// The last three stand in the application menu where the platform has one.
+    enum class Kind { Plain, Apple, Prefs, Quit };
+    struct Properties {
+        QStringView name;
+        /// With an ampersand before the mnemonic letter; "-" is a separator.
+        QStringView text;
+        Kind kind = Kind::Plain;
+        /// A letter behind "Cmd+", the platform's command key.
+        QStringView keyboardShortcut = {};
+        /// Whether it can be used as soon as somebody handles it.
+        bool autoEnable = true;
+    };
+
     explicit MenuItem(const QString &text = {}) : text_(text) {}
+    explicit MenuItem(const Properties &properties);
 
     QString Text() const { return text_; }
+    QString KeyboardShortcut() const { return keyboardShortcut_; }
+    Kind ItemKind() const { return kind_; }
 
-    void Append(const QString &text) { items_.push_back(std::make_unique<MenuItem>(text)); }
+    /// Without AutoEnable an item is disabled until it is told.
+    bool Enabled() const;
+    void SetEnabled(bool enabled);
+    bool Visible() const { return visible_; }
+    void SetVisible(bool visible);
+
+    MenuItem &Append(std::unique_ptr<MenuItem> item);
+    void Append(const QString &text) { Append(std::make_unique<MenuItem>(text)); }
     int Count() const { return static_cast<int>(items_.size()); }
-    const MenuItem &Item(int index) const { return *items_[static_cast<size_t>(index)]; }
+    MenuItem &Item(int index) const { return *items_[static_cast<size_t>(index)]; }
+    /// The entry of that name under this one, which must be there.
+    MenuItem &Child(QStringView name) const;
+
+Q_SIGNALS:
+    /// The user has chosen the entry.
+    void Action();
+    /// For the view: how it shows has changed.
+    void Updated();
 
 private:
     QString text_;
+    QString keyboardShortcut_;
+    Kind kind_ = Kind::Plain;
+    bool autoEnable_ = true;
+    bool enabled_ = false;
+    bool visible_ = true;
     std::vector<std::unique_ptr<MenuItem>> items_;
 };

@@ -1,5 +1,11 @@
 #include "platform/ToolItem.h"
 
+ToolItem::ToolItem(const Properties &properties)
+    : Control(properties.name.toString()), style_(properties.style),
+      caption_(properties.caption.toString()), icon_(properties.icon.toString()) {
+    SetEnabled(properties.enabled);
+}
+
 void ToolItem::SetCaption(const QString &caption) {
     if (caption == caption_) {
         return;

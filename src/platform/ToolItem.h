@@ -2,14 +2,24 @@
 
 #include "platform/Control.h"
 
-/// A button of the tool bar: a picture with a caption below.
+/// An item of the tool bar: a button, which is a picture with a caption below, or what stands
+/// between the buttons.
 class ToolItem : public Control {
     Q_OBJECT
 
 public:
-    ToolItem(const QString &name, const QString &caption, const QString &icon)
-        : Control(name), caption_(caption), icon_(icon) {}
+    enum class Style { PushButton = 0, Separator = 1, FlexibleSpace = 5, FixedSpace = 6 };
+    struct Properties {
+        QStringView name;
+        Style style = Style::PushButton;
+        QStringView caption = u"Untitled";
+        QStringView icon = {};
+        bool enabled = true;
+    };
 
+    explicit ToolItem(const Properties &properties);
+
+    Style ItemStyle() const { return style_; }
     QString Caption() const { return caption_; }
     void SetCaption(const QString &caption);
     /// The file name of its picture among the program's resources.
@@ -19,6 +29,7 @@ Q_SIGNALS:
     void Action();
 
 private:
+    Style style_;
     QString caption_;
     QString icon_;
 };

@@ -50,6 +50,8 @@ void WelcomeWindow::ConnectEvents() {
     DrawPicture(ManualCanvas, u"48_address-book.png"_s);
     connect(&DemoCanvas, &Canvas::MouseDown, this, &WelcomeWindow::CreateDemoDatabase);
     connect(&NewCanvas, &Canvas::MouseDown, this, &WelcomeWindow::NewCanvas_MouseDown);
+    connect(&menuBar.FileMenu.Child(u"AboutItem"), &MenuItem::Action, this,
+            [this] { app_.GetDesktop().ShowAboutPanel(); });
     connect(&ManualCanvas, &Canvas::MouseDown, this, &WelcomeWindow::ManualCanvas_MouseDown);
     connect(&ForwardButton, &PushButton::Action, this, &WelcomeWindow::ForwardButton_Action);
     connect(&BackButton, &PushButton::Action, this, &WelcomeWindow::BackButton_Action);
@@ -95,7 +97,7 @@ void WelcomeWindow::NewCanvas_MouseDown() {
 }
 
 void WelcomeWindow::ManualCanvas_MouseDown() {
-    app_.GetDesktop().Launch(app_.Resource(u"Zolmark.pdf"_s));
+    app_.LaunchManual();
 }
 
 void WelcomeWindow::ForwardButton_Action() {
@@ -116,10 +118,6 @@ void WelcomeWindow::AccountsPopup_Change() {
 
 void WelcomeWindow::OpeningDate_Open() {
     OpeningDate.SetYear(app_.GetDesktop().Now().Year());
-}
-
-void WelcomeWindow::AboutItem_Action() {
-    app_.GetDesktop().ShowAboutPanel();
 }
 
 void WelcomeWindow::SaveButton_Action() {

@@ -5,6 +5,7 @@
 #include "platform/PopupMenu.h"
 #include "platform/PushButton.h"
 #include "platform/TextField.h"
+#include "shell/MainMenuBar.h"
 #include "shell/TLXCanvasButton.h"
 
 #include <QObject>
@@ -21,6 +22,8 @@ class WelcomeWindow : public QObject {
 public:
     explicit WelcomeWindow(App &app);
 
+    /// Only its first entry, AboutItem, has a handler here.
+    MainMenuBar menuBar;
     PagePanel PagePanel1;
     TLXCanvasButton DemoCanvas;
     TLXCanvasButton NewCanvas;
@@ -48,7 +51,6 @@ public:
     /// Runs when the window closes. The file of a failed creation goes if no table is in it, for
     /// the next start would take it for a book.
     void Event_Close();
-    void AboutItem_Action();
 
     /// Makes the sample book in memory and opens the main window on it. A failure is told, and the
     /// window stays.

@@ -8,9 +8,10 @@
 #include "masterdata/CashBooks.h"
 #include "masterdata/CompanyProfile.h"
 #include "platform/PagePanel.h"
-#include "platform/ToolItem.h"
 #include "reports/AccountingExport.h"
 #include "reports/CashReport.h"
+#include "shell/MainMenuBar.h"
+#include "shell/MainToolbar.h"
 
 #include <QObject>
 
@@ -35,32 +36,37 @@ public:
     AccountingExport accountingExport;
 
     PagePanel PagePanel1;
-    /// Leads to the preferences, and back to the journal.
-    ToolItem PreferencesButton;
+    MainMenuBar menuBar;
+    MainToolbar MainWindowToolbar;
 
     /// Runs once, when the window with all its controls is there.
     void Event_Open();
     /// Runs when the window closes: what has been typed in the preferences is written.
     void Event_Close();
 
-    /// Runs the command of a word: "print" prints the cash report and "export" writes the posting
-    /// records of the year, both from either page; "preferences" enters the preferences page and
-    /// reads it anew from the book, "cashbook" leaves it and saves the company if it was edited.
-    /// Another word does nothing.
+    /// Runs the command of a word, on whichever page: "new", "edit", "copy", "delete", "print",
+    /// "export", "preferences", "cashbook" and "about". Another word does nothing. "preferences"
+    /// enters the preferences page and reads it anew from the book, also when it shows already;
+    /// "cashbook" leaves it and saves the company if it was edited.
     void MenuAction(const QString &word);
+    /// Runs whenever the state of the menus may have changed.
+    void Event_EnableMenuItems();
 
     /// Whether the commands that work on a booking are open: a click in the list opens them, and
     /// they close when the focus leaves the list.
     bool MenuItemEnable() const { return menuItemEnable_; }
 
 private:
-    void Export();
+    void AddMenuHandlers();
+    void HideMenuEntries();
     void EnterPreferences();
     void LeavePreferences();
+    void Export();
     void EndEdits();
-    void MainWindowToolbar_Action();
+    void EnableRowCommands(bool enabled);
+    void MainWindowToolbar_Action(const ToolItem &item);
+    void FileOpen_Action();
     void CashList_CellClick();
-    void CashList_LostFocus();
 
     App &app_;
     bool menuItemEnable_ = false;

@@ -21,7 +21,7 @@ public:
     std::optional<SaveAsDialog> saveDialog;
     /// What was printed; nothing while the user cancels the dialog.
     std::optional<QStringList> paper;
-    /// What was shown or opened: "about", and the names of files.
+    /// What was shown or opened: "about", the names of files, and addresses.
     QStringList opened;
 
     Date Now() const override { return now; }
@@ -41,6 +41,7 @@ public:
     }
     std::optional<int> PopUp(const MenuItem & /*base*/) override { return menuChoice; }
     void ShowAboutPanel() override { opened.append(QStringLiteral("about")); }
+    void ShowURL(const QString &address) override { opened.append(address); }
     void Launch(const FolderItem &file) override { opened.append(file.Path()); }
 
     /// A path in a folder that goes with this desktop.

@@ -4,11 +4,12 @@
 #include "shell/MainWindow.h"
 #include "shell/qt/GivenColours.h"
 #include "shell/qt/JournalPageView.h"
+#include "shell/qt/MenuBarView.h"
 #include "shell/qt/PagePanelView.h"
 #include "shell/qt/PreferencesPageView.h"
 #include "shell/qt/ToolBarView.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
@@ -21,11 +22,13 @@ MainWindowView::MainWindowView(MainWindow &window, const App &app) : window_(win
     pages->addWidget(new JournalPageView(window, app.Locale(), pages));
     pages->addWidget(new PreferencesPageView(window, pages));
     setCentralWidget(pages);
-    auto *tools = new ToolBarView(u"MainWindowToolbar"_s, this);
-    tools->AddSpace();
-    tools->AddButton(window.PreferencesButton,
-                     [&app](const QString &name) { return app.Resource(name).Path(); });
-    addToolBar(tools);
+    addToolBar(new ToolBarView(
+        window.MainWindowToolbar, [&app](const QString &name) { return app.Resource(name).Path(); },
+        this));
+    setMenuBar(new MenuBarView(window.menuBar, this));
+    connect(
+        qApp, &QGuiApplication::commitDataRequest, this, [&window] { window.Event_Close(); },
+        Qt::DirectConnection);
     setMinimumSize(64, 64);
     resize(sizeHint().boundedTo(screen()->availableSize()));
     const QRect free = screen()->availableGeometry();

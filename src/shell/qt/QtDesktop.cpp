@@ -10,6 +10,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
+#include <QIcon>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -17,7 +18,25 @@
 #include <QStandardPaths>
 #include <QUrl>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The window that a dialog belongs to, also while the user is in another program.
+QWidget *Owner() {
+    if (QWidget *active = QApplication::activeWindow()) {
+        return active;
+    }
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto shown = std::find_if(windows.begin(), windows.end(), [](const QWidget *window) {
+        return window->isVisible() && window->windowType() == Qt::Window;
+    });
+    return shown == windows.end() ? nullptr : *shown;
+}
+
+} // namespace
 
 Date QtDesktop::Now() const {
     return Date(QDateTime::currentDateTime());
@@ -38,20 +57,20 @@ FolderItem QtDesktop::ExecutableFile() const {
 
 void QtDesktop::MsgBox(const QString &message) {
     QMessageBox box(QMessageBox::NoIcon, QApplication::applicationName(),
-                    ReplaceLineEndings(message, u"\n"_s), QMessageBox::Ok,
-                    QApplication::activeWindow());
+                    ReplaceLineEndings(message, u"\n"_s), QMessageBox::Ok, Owner());
+    box.setWindowModality(Qt::WindowModal);
     // Texts of the database may hold what looks like markup.
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
 
 std::optional<FolderItem> QtDesktop::GetOpenFolderItem() {
-    const QString path = QFileDialog::getOpenFileName(QApplication::activeWindow());
+    const QString path = QFileDialog::getOpenFileName(Owner());
     return path.isEmpty() ? std::nullopt : std::optional(FolderItem(path));
 }
 
 std::optional<FolderItem> QtDesktop::ShowModal(const SaveAsDialog &dialog) {
-    QFileDialog box(QApplication::activeWindow(), dialog.title, dialog.initialDirectory.Path(),
+    QFileDialog box(Owner(), dialog.title, dialog.initialDirectory.Path(),
                     u"%1 (*%2)"_s.arg(dialog.filter.name, dialog.filter.extensions));
     box.setAcceptMode(QFileDialog::AcceptSave);
     box.setLabelText(QFileDialog::FileName, dialog.promptText);
@@ -65,7 +84,7 @@ std::optional<FolderItem> QtDesktop::ShowModal(const SaveAsDialog &dialog) {
 std::unique_ptr<PrinterGraphics> QtDesktop::OpenPrinterDialog(const QString &document) {
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer->setDocName(document);
-    QPrintDialog dialog(printer.get(), QApplication::activeWindow());
+    QPrintDialog dialog(printer.get(), Owner());
     if (dialog.exec() != QDialog::Accepted) {
         return nullptr;
     }
@@ -83,13 +102,20 @@ std::optional<int> QtDesktop::PopUp(const MenuItem &base) {
 }
 
 void QtDesktop::ShowAboutPanel() {
-    QMessageBox::about(QApplication::activeWindow(),
-                       u"Über %1"_s.arg(QApplication::applicationName()),
-                       u"<h3>%1</h3>Version %2"_s.arg(QApplication::applicationName(),
-                                                      QApplication::applicationVersion()));
+    QMessageBox box(QMessageBox::NoIcon, u"Über %1"_s.arg(QApplication::applicationName()),
+                    u"<h2>%1</h2>Version %2"_s.arg(QApplication::applicationName(),
+                                                   QApplication::applicationVersion()),
+                    QMessageBox::Ok, Owner());
+    box.setIconPixmap(QApplication::windowIcon().pixmap(96));
+    box.exec();
 }
 
 void QtDesktop::Launch(const FolderItem &file) {
     // What the desktop can't open it tells by itself.
     static_cast<void>(QDesktopServices::openUrl(QUrl::fromLocalFile(file.Path())));
+}
+
+void QtDesktop::ShowURL(const QString &address) {
+    // As above.
+    static_cast<void>(QDesktopServices::openUrl(QUrl(address)));
 }

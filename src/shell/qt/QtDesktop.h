@@ -16,4 +16,5 @@ public:
     std::optional<int> PopUp(const MenuItem &base) override;
     void ShowAboutPanel() override;
     void Launch(const FolderItem &file) override;
+    void ShowURL(const QString &address) override;
 };

@@ -1,16 +1,43 @@
 #include "shell/qt/ToolBarView.h"
 
-#include "platform/ToolItem.h"
+#include "shell/MainToolbar.h"
 
 #include <QAction>
+#include <QEvent>
 #include <QIcon>
 
-ToolBarView::ToolBarView(const QString &name, QWidget *parent) : QToolBar(parent) {
-    setObjectName(name);
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int widthOfSpace = 16;
+
+} // namespace
+
+ToolBarView::ToolBarView(const MainToolbar &bar, const IconPath &icon, QWidget *parent)
+    : QToolBar(parent) {
+    setObjectName(u"MainWindowToolbar"_s);
     setMovable(false);
     setContextMenuPolicy(Qt::PreventContextMenu);
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     setIconSize({32, 32});
+    for (int place = 0; place < bar.Count(); ++place) {
+        ToolItem &item = bar.Item(place);
+        switch (item.ItemStyle()) {
+        case ToolItem::Style::PushButton:
+            AddButton(item, icon);
+            break;
+        case ToolItem::Style::Separator:
+            addSeparator();
+            break;
+        case ToolItem::Style::FlexibleSpace:
+            AddSpace(QSizePolicy::Expanding);
+            break;
+        case ToolItem::Style::FixedSpace:
+            AddSpace(QSizePolicy::Fixed);
+            break;
+        }
+    }
 }
 
 void ToolBarView::AddButton(ToolItem &item, const IconPath &icon) {
@@ -20,12 +47,19 @@ void ToolBarView::AddButton(ToolItem &item, const IconPath &icon) {
         action->setText(item.Caption());
         action->setEnabled(item.Enabled());
     };
+    show();
     connect(&item, &ToolItem::Updated, action, show);
     connect(action, &QAction::triggered, &item, &ToolItem::Action);
+    widgetForAction(action)->installEventFilter(this);
 }
 
-void ToolBarView::AddSpace() {
+void ToolBarView::AddSpace(QSizePolicy::Policy width) {
     auto *space = new QWidget(this);
-    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    space->setMinimumWidth(width == QSizePolicy::Fixed ? widthOfSpace : 0);
+    space->setSizePolicy(width, QSizePolicy::Preferred);
     addWidget(space);
+}
+
+bool ToolBarView::eventFilter(QObject *watched, QEvent *event) {
+    return event->type() == QEvent::ToolTip || QToolBar::eventFilter(watched, event);
 }

@@ -4,18 +4,22 @@
 
 #include <functional>
 
+class MainToolbar;
 class ToolItem;
 
-/// The tool bar of a window: buttons with their captions below.
+/// Shows the tool bar: buttons with their captions below, lines and spaces between them.
 class ToolBarView : public QToolBar {
     Q_OBJECT
 
 public:
-    ToolBarView(const QString &name, QWidget *parent);
-
-    /// `icon` gives the path of a picture by its file name.
+    /// Gives the path of a picture by its file name.
     using IconPath = std::function<QString(const QString &name)>;
+    ToolBarView(const MainToolbar &bar, const IconPath &icon, QWidget *parent);
+
+    /// The buttons show no tips: their captions say it all.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
     void AddButton(ToolItem &item, const IconPath &icon);
-    /// What follows stands at the right end.
-    void AddSpace();
+    void AddSpace(QSizePolicy::Policy width);
 };

@@ -5,13 +5,13 @@
 #include "shell/qt/CanvasView.h"
 #include "shell/qt/DateControlView.h"
 #include "shell/qt/GivenColours.h"
+#include "shell/qt/MenuBarView.h"
 #include "shell/qt/PagePanelView.h"
 #include "shell/qt/PopupMenuView.h"
 #include "shell/qt/TextFieldView.h"
 
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMenuBar>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
@@ -59,7 +59,7 @@ WelcomeWindowView::WelcomeWindowView(WelcomeWindow &window, const UserLocale &lo
     AddCompanyPage();
     AddCashBookPage(locale);
     AddChoices();
-    AddMenu();
+    setMenuBar(new MenuBarView(window.menuBar, this));
     setCentralWidget(sheet_);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     const QSize size = sizeHint();
@@ -79,20 +79,6 @@ void WelcomeWindowView::keyPressEvent(QKeyEvent *event) {
     } else {
         QMainWindow::keyPressEvent(event);
     }
-}
-
-void WelcomeWindowView::AddMenu() {
-    QMenu *file = menuBar()->addMenu(u"&Datei"_s);
-    QAction *about = file->addAction(u"Über Zolmark"_s);
-    about->setObjectName(u"AboutItem"_s);
-    about->setMenuRole(QAction::AboutRole);
-    connect(about, &QAction::triggered, &window_, &WelcomeWindow::AboutItem_Action);
-    file->addSeparator();
-    QAction *quit = file->addAction(u"&Quit"_s);
-    quit->setObjectName(u"FileQuit"_s);
-    quit->setMenuRole(QAction::QuitRole);
-    quit->setShortcut(QKeySequence::Quit);
-    connect(quit, &QAction::triggered, this, &QWidget::close);
 }
 
 Sheet *WelcomeWindowView::AddPage(const QString &name) {

@@ -33,7 +33,6 @@ private:
         Text description;
     };
 
-    void AddMenu();
     Sheet *AddPage(const QString &name);
     void AddGreeting();
     void AddCompanyPage();

@@ -1,13 +1,18 @@
 #include "core/App.h"
 #include "shell/qt/QtDesktop.h"
+#include "shell/qt/TerminationSignals.h"
 #include "shell/qt/Windows.h"
 #include "shell/qt/ZolmarkApplication.h"
+
+#include <QIcon>
 
 int main(int argc, char *argv[]) {
     QtDesktop desktop;
     ZolmarkApplication application(argc, argv, desktop);
     App app(desktop, UserLocale(QLocale::system()));
     QLocale::setDefault(app.Locale().Locale());
+    QApplication::setWindowIcon(QIcon(app.Resource(QStringLiteral("zolmark.png")).Path()));
+    const TerminationSignals endOfSession;
     Windows windows(app);
     windows.Open();
     return ZolmarkApplication::exec();
