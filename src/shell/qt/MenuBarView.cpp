@@ -45,9 +45,9 @@ MenuBarView::MenuBarView(const MenuItem &bar, QWidget *parent)
 }
 
 void MenuBarView::AddItem(QMenu &menu, MenuItem &item) {
-    QAction &action = *menu.addAction(item.Text());
+    const bool isSeparator = item.Text() == u'-';
+    QAction &action = isSeparator ? *menu.addSeparator() : *menu.addAction(item.Text());
     action.setObjectName(item.objectName());
-    action.setSeparator(item.Text() == u'-');
     action.setMenuRole(RoleOf(item.ItemKind()));
     action.setShortcut(KeysOf(item));
     action.setVisible(item.Visible());

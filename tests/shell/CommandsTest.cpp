@@ -1,0 +1,132 @@
+#include "shell/qt/TerminationSignals.h"
+#include "support/MainWindowTest.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenu>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class CommandsTest : public MainWindowTest {
+protected:
+    void Choose(const QString &action) { Find<QAction>(action).trigger(); }
+    /// The keys of a menu's mnemonic and of those in it.
+    void ChooseByKeys(Qt::Key menu, Qt::Key entry) {
+        Key(menu, Qt::AltModifier);
+        ASSERT_TRUE(QApplication::activePopupWidget());
+        QTest::keyClick(QApplication::activePopupWidget(), entry);
+    }
+    /// Which commands on a row are open, in the tool bar and in the menu.
+    QString RowCommands() {
+        QString open;
+        for (const auto &name : {u"EditButton"_s, u"CopyButton"_s, u"DeleteButton"_s, u"CopyItem"_s,
+                                 u"DeleteItem"_s}) {
+            open += Find<QAction>(name).isEnabled() ? u'+' : u'-';
+        }
+        return open;
+    }
+    QString Bookings() const { return book.Value(u"SELECT count(*) FROM cash_journal"_s); }
+};
+
+TEST_F(CommandsTest, AreReachedByTheEntriesOfTheMenusOnEitherPage) {
+    Open();
+    book.desktop.paper.emplace();
+    for (const int page : {0, 1}) {
+        window.PagePanel1.SetValue(page);
+        ChooseByKeys(Qt::Key_D, Qt::Key_D);
+        EXPECT_FALSE(std::exchange(book.desktop.paper, QStringList())->isEmpty());
+        ChooseByKeys(Qt::Key_D, Qt::Key_X);
+        EXPECT_TRUE(std::exchange(book.desktop.saveDialog, std::nullopt));
+        Find<QLineEdit>(u"NoteField"_s).setText(u"half typed"_s);
+        Key(Qt::Key_N, Qt::ControlModifier);
+        EXPECT_EQ(Find<QLineEdit>(u"NoteField"_s).text(), u""_s);
+        EXPECT_EQ(window.PagePanel1.Value(), page);
+    }
+    ChooseByKeys(Qt::Key_D, Qt::Key_E);
+    EXPECT_EQ(window.PagePanel1.Value(), 1);
+    for (const auto &entry :
+         {u"AboutItem"_s, u"QuickReferenceItem"_s, u"SupportItem"_s, u"HomepageItem"_s}) {
+        Choose(entry);
+    }
+    const QString home = book.desktop.opened.last();
+    EXPECT_EQ(book.desktop.opened,
+              QStringList({u"about"_s, book.desktop.Path(u"Resources/Zolmark.pdf"_s),
+                           home + u"service-support/"_s, home}));
+    for (const auto &hidden : {u"FileOpen"_s, u"FileSaveAs"_s, u"EditItem"_s}) {
+        EXPECT_FALSE(Find<QAction>(hidden).isVisible()) << qPrintable(hidden);
+    }
+}
+
+TEST_F(CommandsTest, OnARowAreOpenFromAClickInItUntilTheFocusLeavesTheList) {
+    Open();
+    auto &list = Find<QTableView>(u"CashList"_s);
+    Click(list.viewport(), {100, 9});
+    EXPECT_EQ(RowCommands(), u"-----"_s);
+    book.Add({u"2026-01-02"_s, u"E"_s, u"7"_s});
+    book.Add({u"2026-01-03"_s, u"A"_s, u"4"_s});
+    Choose(u"NewSaleItem"_s);
+    Click(list, 1, 2);
+    EXPECT_EQ(RowCommands(), u"+++++"_s);
+    Choose(u"CopyButton"_s);
+    EXPECT_EQ(RowCommands(), u"-----"_s);
+    EXPECT_EQ(Find<QLineEdit>(u"OutputField"_s).text(), u"4,00"_s);
+    Key(Qt::Key_L, Qt::ControlModifier);
+    EXPECT_EQ(Bookings(), u"2"_s);
+    Click(list, 1, 2);
+    Key(Qt::Key_L, Qt::ControlModifier);
+    Key(Qt::Key_L, Qt::ControlModifier);
+    EXPECT_EQ(Bookings(), u"1"_s);
+    EXPECT_EQ(RowCommands(), u"+++++"_s);
+    Choose(u"PreferencesButton"_s);
+    EXPECT_EQ(RowCommands(), u"-----"_s);
+    EXPECT_EQ(Find<QAction>(u"PreferencesButton"_s).text(), u"Kassenbuch"_s);
+}
+
+TEST_F(CommandsTest, OfTheEditMenuActOnTheFocusedField) {
+    Open();
+    auto &field = Find<QLineEdit>(u"SaleNumberField"_s);
+    Click(&field, {5, 5});
+    Type(u"ab"_s);
+    const std::pair<QString, QString> steps[] = {
+        {u"EditSelectAll"_s, u"ab"_s}, {u"EditCut"_s, u""_s},    {u"EditPaste"_s, u"ab"_s},
+        {u"EditPaste"_s, u"abab"_s},   {u"EditUndo"_s, u"ab"_s}, {u"EditSelectAll"_s, u"ab"_s},
+        {u"EditCopy"_s, u"ab"_s},      {u"EditClear"_s, u""_s}};
+    for (const auto &[entry, text] : steps) {
+        Key(Qt::Key_B, Qt::AltModifier);
+        EXPECT_TRUE(Find<QAction>(entry).isEnabled()) << qPrintable(entry);
+        Choose(entry);
+        QApplication::activePopupWidget()->close();
+        EXPECT_EQ(field.text(), text) << qPrintable(entry);
+    }
+    Click(Find<QTableView>(u"CashList"_s).viewport(), {100, 9});
+    EXPECT_FALSE(Find<QAction>(u"EditPaste"_s).isEnabled());
+    Click(&Find<QComboBox>(u"CategoryCombo"_s), {5, 5});
+    EXPECT_TRUE(Find<QAction>(u"EditPaste"_s).isEnabled());
+}
+
+TEST(MainWindowView, SavesTheCompanyHoweverTheProgramEnds) {
+    const TerminationSignals endOfSession;
+    const std::function<void(MainWindowView &)> ends[] = {
+        [](MainWindowView &view) { view.close(); },
+        [](MainWindowView &view) { QTest::keyClick(&view, Qt::Key_Q, Qt::ControlModifier); },
+        [](MainWindowView & /*view*/) { std::raise(SIGTERM); }};
+    for (const auto &end : ends) {
+        Book book;
+        MainWindow window(book.app);
+        MainWindowView view(window, book.app);
+        window.Event_Open();
+        view.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
+        view.findChild<QLineEdit *>(u"CompanyField"_s)->setText(u"Neu"_s);
+        end(view);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !view.isVisible(); }));
+        EXPECT_EQ(book.Value(u"SELECT company FROM core_company"_s), u"Neu"_s);
+    }
+}
+
+} // namespace
