@@ -29,7 +29,7 @@ MenuItem &MenuItem::Append(std::unique_ptr<MenuItem> item) {
     return *items_.emplace_back(std::move(item));
 }
 
-MenuItem &MenuItem::Child(QStringView name) const {
+MenuItem &MenuItem::Child(QStringView name) {
     const auto found = std::find_if(items_.begin(), items_.end(), [name](const auto &item) {
         return item->objectName() == name;
     });

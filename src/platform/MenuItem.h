@@ -17,9 +17,9 @@ public:
         QStringView name;
         /// With an ampersand before the mnemonic letter; "-" is a separator.
         QStringView text;
-        Kind kind = Kind::Plain;
         /// A letter behind "Cmd+", the platform's command key.
         QStringView keyboardShortcut = {};
+        Kind kind = Kind::Plain;
         /// Whether it can be used as soon as somebody handles it.
         bool autoEnable = true;
     };
@@ -40,9 +40,10 @@ public:
     MenuItem &Append(std::unique_ptr<MenuItem> item);
     void Append(const QString &text) { Append(std::make_unique<MenuItem>(text)); }
     int Count() const { return static_cast<int>(items_.size()); }
-    MenuItem &Item(int index) const { return *items_[static_cast<size_t>(index)]; }
+    MenuItem &Item(int index) { return *items_[static_cast<size_t>(index)]; }
+    const MenuItem &Item(int index) const { return *items_[static_cast<size_t>(index)]; }
     /// The entry of that name under this one, which must be there.
-    MenuItem &Child(QStringView name) const;
+    MenuItem &Child(QStringView name);
 
 Q_SIGNALS:
     /// The user has chosen the entry.

@@ -11,9 +11,9 @@ public:
     enum class Style { PushButton = 0, Separator = 1, FlexibleSpace = 5, FixedSpace = 6 };
     struct Properties {
         QStringView name;
-        Style style = Style::PushButton;
         QStringView caption = u"Untitled";
         QStringView icon = {};
+        Style style = Style::PushButton;
         bool enabled = true;
     };
 

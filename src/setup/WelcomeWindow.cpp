@@ -50,7 +50,7 @@ void WelcomeWindow::ConnectEvents() {
     DrawPicture(ManualCanvas, u"48_address-book.png"_s);
     connect(&DemoCanvas, &Canvas::MouseDown, this, &WelcomeWindow::CreateDemoDatabase);
     connect(&NewCanvas, &Canvas::MouseDown, this, &WelcomeWindow::NewCanvas_MouseDown);
-    connect(&menuBar.FileMenu.Child(u"AboutItem"), &MenuItem::Action, this,
+    connect(&menuBar.FileMenu().Child(u"AboutItem"), &MenuItem::Action, this,
             [this] { app_.GetDesktop().ShowAboutPanel(); });
     connect(&ManualCanvas, &Canvas::MouseDown, this, &WelcomeWindow::ManualCanvas_MouseDown);
     connect(&ForwardButton, &PushButton::Action, this, &WelcomeWindow::ForwardButton_Action);

@@ -9,8 +9,8 @@ class MainMenuBar : public MenuItem {
 public:
     MainMenuBar();
 
-    MenuItem &FileMenu;
-    MenuItem &EditMenu;
-    MenuItem &DataMenu;
-    MenuItem &HilfeMenu;
+    MenuItem &FileMenu() { return Item(0); }
+    MenuItem &EditMenu() { return Item(1); }
+    MenuItem &DataMenu() { return Item(2); }
+    MenuItem &HilfeMenu() { return Item(3); }
 };

@@ -5,19 +5,19 @@ namespace {
 using Style = ToolItem::Style;
 
 constexpr ToolItem::Properties toolItems[] = {
-    {u"NewButton", Style::PushButton, u"Neu", u"page_add.png"},
-    {u"EditButton", Style::PushButton, u"Bearbeiten", u"page_edit.png", false},
-    {u"CopyButton", Style::PushButton, u"Duplizieren", u"page_copy.png", false},
-    {u"DeleteButton", Style::PushButton, u"Löschen", u"page_delete.png", false},
-    {u"ToolItem1", Style::Separator},
-    {u"ToolItem2", Style::FixedSpace},
-    {u"PrintButton", Style::PushButton, u"Drucken", u"printer.png"},
-    {u"ToolItem3", Style::FixedSpace},
-    {u"ToolItem4", Style::FlexibleSpace},
-    {u"ToolItem7", Style::FlexibleSpace},
-    {u"ToolItem6", Style::FlexibleSpace},
-    {u"ToolItem5", Style::Separator},
-    {u"PreferencesButton", Style::PushButton, u"Einstellungen", u"interface_preferences.png"},
+    {u"NewButton", u"Neu", u"page_add.png"},
+    {.name = u"EditButton", .caption = u"Bearbeiten", .icon = u"page_edit.png", .enabled = false},
+    {.name = u"CopyButton", .caption = u"Duplizieren", .icon = u"page_copy.png", .enabled = false},
+    {.name = u"DeleteButton", .caption = u"Löschen", .icon = u"page_delete.png", .enabled = false},
+    {.name = u"ToolItem1", .style = Style::Separator},
+    {.name = u"ToolItem2", .style = Style::FixedSpace},
+    {u"PrintButton", u"Drucken", u"printer.png"},
+    {.name = u"ToolItem3", .style = Style::FixedSpace},
+    {.name = u"ToolItem4", .style = Style::FlexibleSpace},
+    {.name = u"ToolItem7", .style = Style::FlexibleSpace},
+    {.name = u"ToolItem6", .style = Style::FlexibleSpace},
+    {.name = u"ToolItem5", .style = Style::Separator},
+    {u"PreferencesButton", u"Einstellungen", u"interface_preferences.png"},
 };
 
 } // namespace

@@ -27,23 +27,23 @@ void MainWindow::AddMenuHandlers() {
     const auto run = [this](const MenuItem &item, const QString &word) {
         connect(&item, &MenuItem::Action, this, [this, word] { MenuAction(word); });
     };
-    run(menuBar.DataMenu.Child(u"NewSaleItem"), u"new"_s);
-    run(menuBar.DataMenu.Child(u"EditItem"), u"edit"_s);
-    run(menuBar.DataMenu.Child(u"CopyItem"), u"copy"_s);
-    run(menuBar.DataMenu.Child(u"DeleteItem"), u"delete"_s);
-    run(menuBar.FileMenu.Child(u"FilePrint"), u"print"_s);
-    run(menuBar.FileMenu.Child(u"FileExport"), u"export"_s);
-    run(menuBar.FileMenu.Child(u"FilePreferences"), u"preferences"_s);
-    run(menuBar.FileMenu.Child(u"AboutItem"), u"about"_s);
-    connect(&menuBar.FileMenu.Child(u"FileOpen"), &MenuItem::Action, this,
+    run(menuBar.DataMenu().Child(u"NewSaleItem"), u"new"_s);
+    run(menuBar.DataMenu().Child(u"EditItem"), u"edit"_s);
+    run(menuBar.DataMenu().Child(u"CopyItem"), u"copy"_s);
+    run(menuBar.DataMenu().Child(u"DeleteItem"), u"delete"_s);
+    run(menuBar.FileMenu().Child(u"FilePrint"), u"print"_s);
+    run(menuBar.FileMenu().Child(u"FileExport"), u"export"_s);
+    run(menuBar.FileMenu().Child(u"FilePreferences"), u"preferences"_s);
+    run(menuBar.FileMenu().Child(u"AboutItem"), u"about"_s);
+    connect(&menuBar.FileMenu().Child(u"FileOpen"), &MenuItem::Action, this,
             &MainWindow::FileOpen_Action);
     const auto show = [this](const MenuItem &item, const QString &address) {
         connect(&item, &MenuItem::Action, this,
                 [this, address] { app_.GetDesktop().ShowURL(address); });
     };
-    show(menuBar.HilfeMenu.Child(u"HomepageItem"), homepage);
-    show(menuBar.HilfeMenu.Child(u"SupportItem"), homepage + u"service-support/"_s);
-    connect(&menuBar.HilfeMenu.Child(u"QuickReferenceItem"), &MenuItem::Action, this,
+    show(menuBar.HilfeMenu().Child(u"HomepageItem"), homepage);
+    show(menuBar.HilfeMenu().Child(u"SupportItem"), homepage + u"service-support/"_s);
+    connect(&menuBar.HilfeMenu().Child(u"QuickReferenceItem"), &MenuItem::Action, this,
             [this] { app_.LaunchManual(); });
 }
 
@@ -60,9 +60,9 @@ void MainWindow::Event_Open() {
 }
 
 void MainWindow::HideMenuEntries() {
-    menuBar.Item(2).Item(1).SetVisible(false);
-    menuBar.Item(1).Item(1).SetVisible(false);
-    menuBar.Item(0).Item(1).SetVisible(false);
+    menuBar.DataMenu().Child(u"EditItem").SetVisible(false);
+    menuBar.EditMenu().Child(u"EditSeparator1").SetVisible(false);
+    menuBar.FileMenu().Child(u"UntitledSeparator1").SetVisible(false);
 }
 
 void MainWindow::Event_Close() {
@@ -74,11 +74,11 @@ void MainWindow::Event_Close() {
 
 void MainWindow::Event_EnableMenuItems() {
     for (const QStringView row : {u"EditItem", u"CopyItem", u"DeleteItem"}) {
-        menuBar.DataMenu.Child(row).SetEnabled(menuItemEnable_);
+        menuBar.DataMenu().Child(row).SetEnabled(menuItemEnable_);
     }
     for (const QStringView file : {u"FileOpen", u"FileSaveAs"}) {
-        menuBar.FileMenu.Child(file).SetEnabled(false);
-        menuBar.FileMenu.Child(file).SetVisible(false);
+        menuBar.FileMenu().Child(file).SetEnabled(false);
+        menuBar.FileMenu().Child(file).SetVisible(false);
     }
 }
 

@@ -25,15 +25,15 @@ QAction::MenuRole RoleOf(MenuItem::Kind kind) {
 
 /// The toolkit calls the command key Ctrl on every platform.
 QKeySequence KeysOf(const MenuItem &item) {
-    return QKeySequence(item.KeyboardShortcut().replace(u"Cmd+"_s, u"Ctrl+"_s));
+    return {item.KeyboardShortcut().replace(u"Cmd+"_s, u"Ctrl+"_s)};
 }
 
 } // namespace
 
-MenuBarView::MenuBarView(const MenuItem &bar, QWidget *parent)
+MenuBarView::MenuBarView(MenuItem &bar, QWidget *parent)
     : QMenuBar(parent), editActions_(new EditActions(this)) {
     for (int menu = 0; menu < bar.Count(); ++menu) {
-        const MenuItem &item = bar.Item(menu);
+        MenuItem &item = bar.Item(menu);
         QMenu &view = *addMenu(item.Text());
         view.setObjectName(item.objectName());
         connect(&view, &QMenu::aboutToShow, editActions_, &EditActions::Update);

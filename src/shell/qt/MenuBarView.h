@@ -11,7 +11,7 @@ class MenuBarView : public QMenuBar {
     Q_OBJECT
 
 public:
-    MenuBarView(const MenuItem &bar, QWidget *parent);
+    MenuBarView(MenuItem &bar, QWidget *parent);
 
 private:
     void AddItem(QMenu &menu, MenuItem &item);
