@@ -4,12 +4,12 @@
 #include "shell/qt/QtDesktop.h"
 #include "shell/qt/WelcomeWindowView.h"
 #include "support/MainWindowTest.h"
+#include "support/ModalWindows.h"
 
 #include <QAction>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QStackedWidget>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -28,18 +28,10 @@ QWidget *ShownWindow(const QString &name) {
 template <typename Action>
 QStringList Boxes(const Action &action) {
     QStringList boxes;
-    QTimer look; // A box blocks the click that opens it.
-    int looks = 0;
-    QObject::connect(&look, &QTimer::timeout, &look, [&] {
-        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
-            boxes.append(box->text());
-            QTest::keyClick(box, Qt::Key_Return);
-        } else if (++looks == 1000) {
-            look.stop();
-        }
+    AnswerModalWindows(action, [&boxes](QWidget &window) {
+        boxes.append(qobject_cast<QMessageBox *>(&window)->text());
+        QTest::keyClick(&window, Qt::Key_Return);
     });
-    look.start(10);
-    action();
     return boxes;
 }
 

@@ -36,6 +36,12 @@ QWidget *Owner() {
     return shown == windows.end() ? nullptr : *shown;
 }
 
+/// A folder of the user's, else the home folder.
+FolderItem FolderOf(QStandardPaths::StandardLocation location) {
+    const FolderItem folder(QStandardPaths::writableLocation(location));
+    return folder.Exists() ? folder : FolderItem(QDir::homePath());
+}
+
 } // namespace
 
 Date QtDesktop::Now() const {
@@ -47,8 +53,7 @@ FolderItem QtDesktop::ApplicationData() const {
 }
 
 FolderItem QtDesktop::DesktopFolder() const {
-    const FolderItem desktop(QStandardPaths::writableLocation(QStandardPaths::DesktopLocation));
-    return desktop.Exists() ? desktop : FolderItem(QDir::homePath());
+    return FolderOf(QStandardPaths::DesktopLocation);
 }
 
 FolderItem QtDesktop::ExecutableFile() const {
@@ -84,6 +89,11 @@ std::optional<FolderItem> QtDesktop::ShowModal(const SaveAsDialog &dialog) {
 std::unique_ptr<PrinterGraphics> QtDesktop::OpenPrinterDialog(const QString &document) {
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer->setDocName(document);
+    if (printer->outputFormat() == QPrinter::PdfFormat) {
+        // There is no printer. The dialog itself finds a file name on some platforms only.
+        printer->setOutputFileName(
+            FolderOf(QStandardPaths::DocumentsLocation).Child(document + u".pdf"_s).Path());
+    }
     QPrintDialog dialog(printer.get(), Owner());
     if (dialog.exec() != QDialog::Accepted) {
         return nullptr;
