@@ -17,12 +17,20 @@ public:
     /// what is left.
     void SetColumnWidths(const std::vector<int> &widths);
 
+Q_SIGNALS:
+    /// The key Insert, or Delete.
+    void AddWanted();
+    void RemoveWanted();
+
 protected:
+    /// The frame shows the focus: no row need be selected.
+    bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
-    /// F2 opens the selected row, Space flips its check box.
+    /// F2 opens the selected row, Space flips its check box, Shift+F10 opens its menu.
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
@@ -34,6 +42,12 @@ protected:
 
 private:
     void SetUpHeading();
+    void FitHeading();
+    bool TakeKey(const QKeyEvent &event);
+    void FlipCheck(int row);
+    void OpenRow(int row);
+    void OpenMenu(QPoint globalPlace);
+    QPoint PlaceBelowRow() const;
     void OpenEditor();
     void CloseEditor();
     void ShowSelection();

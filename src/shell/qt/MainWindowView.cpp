@@ -2,6 +2,7 @@
 
 #include "core/App.h"
 #include "shell/MainWindow.h"
+#include "shell/qt/FontFit.h"
 #include "shell/qt/GivenColours.h"
 #include "shell/qt/JournalPageView.h"
 #include "shell/qt/PagePanelView.h"
@@ -16,11 +17,12 @@ using namespace Qt::StringLiterals;
 MainWindowView::MainWindowView(MainWindow &window, const App &app) : window_(window) {
     setObjectName(u"MainWindow"_s);
     setWindowTitle(u"Kassenbuch"_s);
-    setPalette(GivenColours(palette(), 0xfffaf9fa));
+    UseGivenColours(*this, 0xfffaf9fa);
     auto *pages = new PagePanelView(window.PagePanel1, this);
     pages->addWidget(new JournalPageView(window, app.Locale(), pages));
     pages->addWidget(new PreferencesPageView(window, pages));
     setCentralWidget(pages);
+    new FontFit(*pages);
     auto *tools = new ToolBarView(u"MainWindowToolbar"_s, this);
     tools->AddSpace();
     tools->AddButton(window.PreferencesButton,
