@@ -22,7 +22,8 @@ constexpr int smallestSize = 9;
 bool LineFits(const QFontMetrics &font, int height) {
     const int baseline = (height - font.height()) / 2 + font.ascent();
     const QRect ink = font.tightBoundingRect(u"ÄÖÜÉgjpqy"_s).translated(0, baseline);
-    return ink.top() >= 0 && ink.bottom() < height;
+    // The ink is told with a rim that hardly shows.
+    return ink.top() >= -1 && ink.bottom() <= height;
 }
 
 bool LabelFits(const QLabel &label) {
@@ -74,12 +75,8 @@ bool FieldFits(const QLineEdit &field) {
 }
 
 bool Fits(const QWidget &widget) {
-    const bool ownSize = widget.font().resolveMask() & QFont::SizeResolved;
-    if (ownSize || qobject_cast<const LabelView *>(&widget) != nullptr) {
-        return true;
-    }
     if (const auto *label = qobject_cast<const QLabel *>(&widget)) {
-        return LabelFits(*label);
+        return qobject_cast<const LabelView *>(label) != nullptr || LabelFits(*label);
     }
     if (const auto *button = qobject_cast<const QPushButton *>(&widget)) {
         return ButtonFits(*button);
@@ -112,11 +109,19 @@ FontFit::FontFit(QWidget &surface) : QObject(&surface), surface_(surface) {
 
 bool FontFit::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::Show || event->type() == QEvent::ApplicationFontChange) {
-        const QList<QWidget *> widgets = surface_.findChildren<QWidget *>();
-        ShrinkFont(surface_, [&widgets] {
-            return std::all_of(widgets.begin(), widgets.end(),
-                               [](const QWidget *widget) { return Fits(*widget); });
-        });
+        Fit();
     }
     return QObject::eventFilter(watched, event);
+}
+
+void FontFit::Fit() {
+    surface_.setFont(QFont());
+    QList<QWidget *> widgets = surface_.findChildren<QWidget *>();
+    widgets.removeIf([](const QWidget *widget) {
+        return (widget->font().resolveMask() & QFont::SizeResolved) != 0;
+    });
+    ShrinkFont(surface_, [&widgets] {
+        return std::all_of(widgets.begin(), widgets.end(),
+                           [](const QWidget *widget) { return Fits(*widget); });
+    });
 }

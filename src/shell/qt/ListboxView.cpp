@@ -69,13 +69,19 @@ void ListboxView::SetUpHeading() {
 
 void ListboxView::FitHeading() {
     QHeaderView &heading = *horizontalHeader();
-    ShrinkFont(heading, [&heading] {
-        int column = 0;
-        while (column < heading.count() &&
-               heading.sectionSizeHint(column) <= heading.sectionSize(column)) {
-            ++column;
+    const int margin = heading.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, &heading);
+    const int mark = heading.style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, &heading);
+    // As for the list's own font, so that lists side by side begin at one height.
+    heading.setFixedHeight(fontMetrics().height() + 2 * margin);
+    ShrinkFont(heading, [&] {
+        for (int column = 0; column < list_.ColumnCount(); ++column) {
+            const bool sorted = heading.isSortIndicatorShown() && column == list_.SortedColumn();
+            const int place = heading.sectionSize(column) - 2 * margin - (sorted ? mark : 0);
+            if (heading.fontMetrics().horizontalAdvance(list_.Heading(column)) > place) {
+                return false;
+            }
         }
-        return column == heading.count();
+        return true;
     });
 }
 
