@@ -76,7 +76,8 @@ bool FieldFits(const QLineEdit &field) {
 
 bool Fits(const QWidget &widget) {
     if (const auto *label = qobject_cast<const QLabel *>(&widget)) {
-        return qobject_cast<const LabelView *>(label) != nullptr || LabelFits(*label);
+        const bool written = qobject_cast<const LabelView *>(label) != nullptr;
+        return written || label->isHidden() || LabelFits(*label);
     }
     if (const auto *button = qobject_cast<const QPushButton *>(&widget)) {
         return ButtonFits(*button);

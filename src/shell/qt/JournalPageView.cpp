@@ -88,7 +88,7 @@ void JournalPageView::AddSelectors(MainWindow &window) {
     frame->setObjectName(u"YearRect"_s);
     frame->SetFrame(frameOfControls);
     frame->AddCaption(u"Label2"_s, u"Jahr/Monat"_s, {234, 9, 74, 20});
-    frame->AddNamed(u"Jahr"_s, new PopupMenuView(selectors.YearPopup, frame), {316, 9, 70, 21});
+    frame->Add(new PopupMenuView(selectors.YearPopup, frame), {316, 9, 70, 21});
     frame->AddNamed(u"Monat"_s, new PopupMenuView(selectors.MonthPopup, frame), {396, 9, 105, 21});
     frame->AddCaption(u"Label1"_s, u"Kasse"_s, {11, 9, 46, 20});
     auto *cashBook = new PopupMenuView(selectors.CashbookPopup, frame);

@@ -3,6 +3,7 @@
 #include "platform/PushButton.h"
 #include "shell/qt/PushButtonView.h"
 
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
@@ -26,6 +27,12 @@ void Sheet::Add(QWidget *widget, const QRect &place, Locks locks) {
 
 void Sheet::AddNamed(const QString &name, QWidget *widget, const QRect &place, Locks locks) {
     widget->setAccessibleName(name);
+    // On some desktops a combo box tells its row for a name, and what it is only by a caption.
+    if (qobject_cast<QComboBox *>(widget) != nullptr) {
+        auto *caption = new QLabel(name, this);
+        caption->hide();
+        caption->setBuddy(widget);
+    }
     Add(widget, place, locks);
 }
 
