@@ -31,6 +31,7 @@ void ExpectWhole(const QWidget &window) {
     }
     for (const auto *button : window.findChildren<const QPushButton *>()) {
         ExpectFits(*button, button->text(), button->size());
+        EXPECT_LE(button->fontInfo().pixelSize(), QFontInfo(QApplication::font()).pixelSize());
     }
     for (const auto *menu : window.findChildren<const PopupMenuView *>()) {
         for (int row = 0; row < menu->count(); ++row) {
@@ -47,13 +48,17 @@ void ExpectWhole(const QWidget &window) {
 
 TEST(EveryPage, ShowsItsTextsWholeInTheFontsOfTheDesktop) {
     const QFont before = QApplication::font();
-    for (const int size : {9, 10, 11}) {
-        QApplication::setFont(QFont(u"DejaVu Sans"_s, size));
-        ForEveryPage([size](const QWidget &window) {
+    const auto use = [](int points) { QApplication::setFont(QFont(u"DejaVu Sans"_s, points)); };
+    const std::pair<int, int> fonts[] = {{9, 10}, {10, 9}, {11, 8}, {8, 11}};
+    for (const auto &[first, then] : fonts) {
+        use(first);
+        ForEveryPage([&use, points = first, other = then](const QWidget &window) {
             ExpectWhole(window);
-            QApplication::setFont(QFont(u"DejaVu Sans"_s, 20 - size)); // The user chose another.
+            use(other); // The user chose another for the desktop.
+            QApplication::processEvents();
             ExpectWhole(window);
-            QApplication::setFont(QFont(u"DejaVu Sans"_s, size));
+            use(points);
+            QApplication::processEvents();
         });
     }
     QApplication::setFont(before);

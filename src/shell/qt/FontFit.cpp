@@ -2,6 +2,7 @@
 
 #include "shell/qt/LabelView.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QEvent>
 #include <QHeaderView>
@@ -95,8 +96,7 @@ bool Fits(const QWidget &widget) {
 
 } // namespace
 
-void ShrinkFont(QWidget &widget, const std::function<bool()> &fits) {
-    QFont font;
+void ShrinkFont(QWidget &widget, QFont font, const std::function<bool()> &fits) {
     widget.setFont(font);
     for (int size = widget.fontInfo().pixelSize(); size >= smallestSize && !fits(); --size) {
         font.setPixelSize(size);
@@ -106,22 +106,28 @@ void ShrinkFont(QWidget &widget, const std::function<bool()> &fits) {
 
 FontFit::FontFit(QWidget &surface) : QObject(&surface), surface_(surface) {
     surface.installEventFilter(this);
+    // Windows are told when the desktop has another font.
+    surface.window()->installEventFilter(this);
 }
 
 bool FontFit::eventFilter(QObject *watched, QEvent *event) {
-    if (event->type() == QEvent::Show || event->type() == QEvent::ApplicationFontChange) {
+    const bool comesUp = event->type() == QEvent::Show && watched == &surface_;
+    if (comesUp || event->type() == QEvent::ApplicationFontChange) {
         Fit();
     }
     return QObject::eventFilter(watched, event);
 }
 
 void FontFit::Fit() {
-    surface_.setFont(QFont());
+    QFont font = QApplication::font();
+    // All of it, for what the window hands down may still be the font before.
+    font.setResolveMask(QFont::AllPropertiesResolved);
+    surface_.setFont(font);
     QList<QWidget *> widgets = surface_.findChildren<QWidget *>();
-    widgets.removeIf([](const QWidget *widget) {
-        return (widget->font().resolveMask() & QFont::SizeResolved) != 0;
+    widgets.removeIf([size = surface_.fontInfo().pixelSize()](const QWidget *widget) {
+        return widget->fontInfo().pixelSize() != size;
     });
-    ShrinkFont(surface_, [&widgets] {
+    ShrinkFont(surface_, font, [&widgets] {
         return std::all_of(widgets.begin(), widgets.end(),
                            [](const QWidget *widget) { return Fits(*widget); });
     });

@@ -1,14 +1,15 @@
 #pragma once
 
+#include <QFont>
 #include <QObject>
 
 #include <functional>
 
 class QWidget;
 
-/// Gives the widget the font that it inherits, made smaller by one pixel at a time until its texts
-/// fit, but never so small that nobody can read it.
-void ShrinkFont(QWidget &widget, const std::function<bool()> &fits);
+/// Gives the widget the font, made smaller by one pixel at a time until its texts fit, but never so
+/// small that nobody can read it.
+void ShrinkFont(QWidget &widget, QFont font, const std::function<bool()> &fits);
 
 /// Lets the font give way, and not the word, where a given text would not fit its given place: all
 /// that stands on the surface gets the largest font that shows the captions, the buttons, the rows
@@ -19,7 +20,8 @@ class FontFit : public QObject {
     Q_OBJECT
 
 public:
-    /// Fits the surface whenever it comes up. The surface owns this object.
+    /// Fits the surface, which is the content of a window, whenever it comes up. The surface owns
+    /// this object.
     explicit FontFit(QWidget &surface);
 
 protected:

@@ -73,7 +73,7 @@ void ListboxView::FitHeading() {
     const int mark = heading.style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, &heading);
     // As for the list's own font, so that lists side by side begin at one height.
     heading.setFixedHeight(fontMetrics().height() + 2 * margin);
-    ShrinkFont(heading, [&] {
+    ShrinkFont(heading, QFont(), [&] {
         for (int column = 0; column < list_.ColumnCount(); ++column) {
             const bool sorted = heading.isSortIndicatorShown() && column == list_.SortedColumn();
             const int place = heading.sectionSize(column) - 2 * margin - (sorted ? mark : 0);
