@@ -4,14 +4,13 @@
 #include "platform/MenuItem.h"
 #include "shell/qt/CellEditor.h"
 #include "shell/qt/ControlBinding.h"
-#include "shell/qt/FontFit.h"
+#include "shell/qt/ListHeading.h"
 #include "shell/qt/PainterGraphics.h"
 #include "shell/qt/RowDelegate.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QFocusEvent>
-#include <QHeaderView>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
@@ -25,7 +24,9 @@ constexpr int lineHeight = 18;
 
 } // namespace
 
-ListboxView::ListboxView(Listbox &list, QWidget *parent) : QTableView(parent), list_(list) {
+ListboxView::ListboxView(Listbox &list, QWidget *parent)
+    : QTableView(parent), list_(list), heading_(new ListHeading(list, this)) {
+    setHorizontalHeader(heading_);
     setObjectName(list.objectName());
     setModel(&list);
     setItemDelegate(new RowDelegate(this));
@@ -40,7 +41,6 @@ ListboxView::ListboxView(Listbox &list, QWidget *parent) : QTableView(parent), l
     verticalHeader()->setMinimumSectionSize(lineHeight);
     verticalHeader()->setDefaultSectionSize(lineHeight);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    SetUpHeading();
     connect(&list, &Listbox::SelectionMoved, this, &ListboxView::ShowSelection);
     connect(&list, &Listbox::EditOpened, this, &ListboxView::OpenEditor);
     connect(&list, &Listbox::EditClosed, this, &ListboxView::CloseEditor);
@@ -51,44 +51,10 @@ ListboxView::ListboxView(Listbox &list, QWidget *parent) : QTableView(parent), l
     });
 }
 
-void ListboxView::SetUpHeading() {
-    QHeaderView &heading = *horizontalHeader();
-    heading.setVisible(list_.HasHeading());
-    heading.setMinimumSectionSize(0);
-    heading.setHighlightSections(false);
-    heading.setSectionsClickable(list_.SortsByHeading());
-    connect(&heading, &QHeaderView::sectionResized, this, &ListboxView::FitHeading);
-    connect(&heading, &QHeaderView::sectionClicked, &list_, &Listbox::PressHeading);
-    connect(&list_, &Listbox::headerDataChanged, this, [this] {
-        const auto order = list_.SortsDescending() ? Qt::DescendingOrder : Qt::AscendingOrder;
-        horizontalHeader()->setSortIndicatorShown(list_.SortedColumn() >= 0 && list_.HasHeading());
-        horizontalHeader()->setSortIndicator(list_.SortedColumn(), order);
-        FitHeading();
-    });
-}
-
-void ListboxView::FitHeading() {
-    QHeaderView &heading = *horizontalHeader();
-    const int margin = heading.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, &heading);
-    const int mark = heading.style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, &heading);
-    // As for the list's own font, so that lists side by side begin at one height.
-    heading.setFixedHeight(fontMetrics().height() + 2 * margin);
-    ShrinkFont(heading, QFont(), [&] {
-        for (int column = 0; column < list_.ColumnCount(); ++column) {
-            const bool sorted = heading.isSortIndicatorShown() && column == list_.SortedColumn();
-            const int place = heading.sectionSize(column) - 2 * margin - (sorted ? mark : 0);
-            if (heading.fontMetrics().horizontalAdvance(list_.Heading(column)) > place) {
-                return false;
-            }
-        }
-        return true;
-    });
-}
-
 void ListboxView::changeEvent(QEvent *event) {
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
-        FitHeading();
+        heading_->Fit();
     }
 }
 

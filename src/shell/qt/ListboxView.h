@@ -4,6 +4,7 @@
 
 #include <vector>
 
+class ListHeading;
 class Listbox;
 
 /// Shows a Listbox and hands it what the user does.
@@ -41,8 +42,6 @@ protected:
     void selectionChanged(const QItemSelection &now, const QItemSelection &before) override;
 
 private:
-    void SetUpHeading();
-    void FitHeading();
     bool TakeKey(const QKeyEvent &event);
     void FlipCheck(int row);
     void OpenRow(int row);
@@ -56,6 +55,7 @@ private:
     void PaintRow(QPainter &painter, int row, int top);
 
     Listbox &list_;
+    ListHeading *heading_;
     QPersistentModelIndex edited_;
     bool showing_ = false;
     bool pressTaken_ = false;
