@@ -43,6 +43,8 @@ void BookingAccounts::FollowTheList() {
     connect(list, &Listbox::CellKeyDown, this, &BookingAccounts::CashaccountList_CellKeyDown);
     connect(list, &Listbox::MouseDown, this, &BookingAccounts::CashaccountList_MouseDown);
     connect(list, &Listbox::MouseUp, this, &BookingAccounts::CashaccountList_MouseUp);
+    connect(list, &Listbox::ConstructContextualMenu, this, &BookingAccounts::AppendKinds);
+    connect(list, &Listbox::ContextualMenuAction, this, &BookingAccounts::SetKind);
     connect(list, &Listbox::CompareRows, this, &BookingAccounts::CashaccountList_CompareRows);
 }
 
@@ -95,16 +97,27 @@ void BookingAccounts::CashaccountList_MouseUp(int row, int column) {
     if (row < 0 || column != Kind) {
         return;
     }
-    // The menu waits for the user; what has been typed is not to wait with it.
-    CashaccountList.EndEdit();
     CashaccountList.SetListIndex(row);
     MenuItem base;
-    base.Append(u"Einnahme"_s);
-    base.Append(u"Ausgabe"_s);
+    AppendKinds(base);
     if (const std::optional<int> chosen = app_.GetDesktop().PopUp(base)) {
-        CashaccountList.SetCell(row, Kind, base.Item(*chosen).Text().left(1));
-        SaveAccount(row, Kind);
+        SetKind(base.Item(*chosen));
     }
+}
+
+void BookingAccounts::AppendKinds(MenuItem &base) {
+    // The menu waits for the user; what has been typed is not to wait with it.
+    CashaccountList.EndEdit();
+    if (CashaccountList.ListIndex() >= 0) {
+        base.Append(u"Einnahme"_s);
+        base.Append(u"Ausgabe"_s);
+    }
+}
+
+void BookingAccounts::SetKind(const MenuItem &chosen) {
+    const int row = CashaccountList.ListIndex();
+    CashaccountList.SetCell(row, Kind, chosen.Text().left(1));
+    SaveAccount(row, Kind);
 }
 
 void BookingAccounts::CashaccountList_CompareRows(int first, int second, int column, int &result,

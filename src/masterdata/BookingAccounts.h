@@ -7,6 +7,7 @@
 #include <QObject>
 
 class App;
+class MenuItem;
 
 /// The booking accounts, edited in their list. Bookings keep their own copies of an account's name
 /// and number, so nothing here alters them.
@@ -38,6 +39,10 @@ private:
     void CashaccountList_MouseUp(int row, int column);
     void CashaccountList_CompareRows(int first, int second, int column, int &result,
                                      bool &handled) const;
+    /// The menu of the kinds, which opens from the cell of the kind and as the list's context menu,
+    /// for the keys.
+    void AppendKinds(MenuItem &base);
+    void SetKind(const MenuItem &chosen);
     void AccountsAdd_PlusPressed();
     void AccountsAdd_MinusPressed();
     void AddRow(RecordSet &record);

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The place of a column among values that few rows have; they exist only up to the last in use.
@@ -173,6 +175,9 @@ QVariant CellModel::data(const QModelIndex &index, int role) const {
     if (role == Qt::CheckStateRole && isCheckBox) {
         return static_cast<int>(CellCheck(index.row(), index.column()) ? Qt::Checked
                                                                        : Qt::Unchecked);
+    }
+    if (role == Qt::AccessibleTextRole && isCheckBox) {
+        return CellCheck(index.row(), index.column()) ? u"ja"_s : u"nein"_s;
     }
     return role == Qt::TextAlignmentRole ? AlignmentOf(index.column()) : QVariant();
 }

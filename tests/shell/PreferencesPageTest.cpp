@@ -1,5 +1,6 @@
 #include "support/MainWindowTest.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QHeaderView>
 #include <QLineEdit>
@@ -99,6 +100,29 @@ TEST_F(PreferencesPageTest, AddsAndRemovesWhileACellIsOpen) {
     EXPECT_EQ(Accounts(), u"b20E1 c10A0"_s);
     FlipPage();
     EXPECT_EQ(window.selectors.CashbookPopup.List(1), u"1010:Lager"_s);
+}
+
+TEST_F(PreferencesPageTest, WorksByTheKeysAloneAndIsReadByAssistiveTools) {
+    accounts.setFocus();
+    Key(Qt::Key_Home);
+    Key(Qt::Key_F10, Qt::ShiftModifier);
+    Key(Qt::Key_Down);
+    Key(Qt::Key_Down);
+    Type(u"\r"_s);
+    EXPECT_EQ(Accounts(), u"b20A1 c10A0"_s);
+    Key(Qt::Key_Insert);
+    Type(u"a\r"_s);
+    auto &list = *QAccessible::queryAccessibleInterface(&accounts)->tableInterface();
+    ASSERT_EQ(list.rowCount(), 3);
+    EXPECT_EQ(list.cellAt(2, 0)->text(QAccessible::Name), u"a"_s);
+    EXPECT_EQ(list.columnDescription(3) + list.cellAt(2, 3)->text(QAccessible::Name), u"Aktivja"_s);
+    Key(Qt::Key_Delete);
+    EXPECT_EQ(list.rowCount(), 2);
+    Type(u"\t \t"_s); // Space on the plus of the cash books, which opens the new name.
+    EXPECT_EQ(CashBooks(), u"Kasse 1000 100.0, Nebenkasse 0 1010 0.0"_s);
+    EXPECT_EQ(QApplication::focusWidget()->accessibleName(), u"Konto"_s);
+    EXPECT_EQ(Find<QWidget>(u"OpeningBalanceLabel"_s).accessibleName(),
+              u"Anfangsbestand: 100,00"_s);
 }
 
 TEST_F(PreferencesPageTest, SavesWhatIsTypedWhenThePageOrTheWindowGoes) {

@@ -2,13 +2,26 @@
 
 #include <QPainter>
 #include <QScreen>
+#include <QTextCharFormat>
+#include <QToolButton>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Darker than the toolkit's red, which is hard to read on white.
+constexpr QColor weekendRed(0x9c, 0x00, 0x06);
+
+} // namespace
 
 CalendarPopup::CalendarPopup(QDate day, const QLocale &locale, QWidget *field)
     : QCalendarWidget(field) {
     setWindowFlags(Qt::Popup);
     setAttribute(Qt::WA_DeleteOnClose);
+    // Colours and font are the field's.
+    setAttribute(Qt::WA_WindowPropagation);
     // The click that closes it does nothing else; on the field's button it would open it again.
     setAttribute(Qt::WA_NoMouseReplay);
     setContentsMargins(1, 1, 1, 1);
@@ -17,6 +30,13 @@ CalendarPopup::CalendarPopup(QDate day, const QLocale &locale, QWidget *field)
     setVerticalHeaderFormat(NoVerticalHeader);
     setDateEditEnabled(false);
     setSelectedDate(day);
+    setAccessibleName(u"Kalender"_s);
+    findChild<QToolButton *>(u"qt_calendar_prevmonth"_s)->setAccessibleName(u"Voriger Monat"_s);
+    findChild<QToolButton *>(u"qt_calendar_nextmonth"_s)->setAccessibleName(u"Nächster Monat"_s);
+    QTextCharFormat weekend;
+    weekend.setForeground(weekendRed);
+    setWeekdayTextFormat(Qt::Saturday, weekend);
+    setWeekdayTextFormat(Qt::Sunday, weekend);
     connect(this, &QCalendarWidget::clicked, this, &CalendarPopup::Choose);
     connect(this, &QCalendarWidget::activated, this, &CalendarPopup::Choose);
 }

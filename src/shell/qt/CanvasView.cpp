@@ -1,6 +1,7 @@
 #include "shell/qt/CanvasView.h"
 
 #include "platform/Canvas.h"
+#include "shell/qt/CanvasButton.h"
 #include "shell/qt/ControlBinding.h"
 #include "shell/qt/PainterGraphics.h"
 
@@ -10,6 +11,10 @@
 CanvasView::CanvasView(Canvas &canvas, QWidget *parent) : QWidget(parent), canvas_(canvas) {
     BindControl(canvas, *this);
     connect(&canvas, &Canvas::Updated, this, qOverload<>(&QWidget::update));
+}
+
+CanvasButton *CanvasView::AddButton(const QString &name, const QRect &place) {
+    return new CanvasButton(canvas_, name, place, this);
 }
 
 void CanvasView::showEvent(QShowEvent *event) {

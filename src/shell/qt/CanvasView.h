@@ -3,13 +3,18 @@
 #include <QWidget>
 
 class Canvas;
+class CanvasButton;
 
-/// Shows a Canvas and hands it what the mouse does. It does not take the focus.
+/// Shows a Canvas and hands it what the mouse does. It does not take the focus; its parts that are
+/// buttons take it from the Tab key.
 class CanvasView : public QWidget {
     Q_OBJECT
 
 public:
     CanvasView(Canvas &canvas, QWidget *parent);
+
+    /// Makes a part of it work like a button for keys and assistive tools.
+    CanvasButton *AddButton(const QString &name, const QRect &place);
 
 protected:
     void showEvent(QShowEvent *event) override;

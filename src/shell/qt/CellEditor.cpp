@@ -12,6 +12,7 @@ using namespace Qt::StringLiterals;
 
 CellEditor::CellEditor(Listbox &list, QWidget *parent) : QLineEdit(parent), list_(list) {
     setObjectName(u"CellEditor"_s);
+    setAccessibleName(list.Heading(list.EditedColumn()));
     setFrame(false);
     setTextMargins(1, 0, 1, 0);
     setMaxLength(std::numeric_limits<int>::max());

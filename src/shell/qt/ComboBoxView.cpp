@@ -46,6 +46,13 @@ void ComboBoxView::OfferCompletions() {
     completer->popup()->installEventFilter(this);
 }
 
+void ComboBoxView::changeEvent(QEvent *event) {
+    QComboBox::changeEvent(event);
+    if (event->type() == QEvent::FontChange && completer() != nullptr) {
+        completer()->popup()->setFont(font());
+    }
+}
+
 QString ComboBoxView::Completion() const {
     const QAbstractItemView &popup = *completer()->popup();
     if (popup.currentIndex().isValid()) {

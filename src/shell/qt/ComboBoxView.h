@@ -16,6 +16,10 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+protected:
+    /// The list of completions is a window of its own and has to be given the font.
+    void changeEvent(QEvent *event) override;
+
 private:
     void ShowCombo();
     void OfferCompletions();

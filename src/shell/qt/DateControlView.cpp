@@ -28,6 +28,7 @@ class CalendarButton : public QAbstractButton {
 public:
     explicit CalendarButton(QWidget *field) : QAbstractButton(field) {
         setFocusPolicy(Qt::NoFocus);
+        setAccessibleName(u"Kalender"_s);
         setCursor(Qt::ArrowCursor);
         setAttribute(Qt::WA_Hover);
     }
@@ -48,16 +49,12 @@ protected:
     }
 };
 
-/// The given colours are light, so the text is dark under any desktop theme.
-QPalette Colours(bool refused) {
+QPalette RefusedColours() {
     QPalette palette;
-    palette.setColor(QPalette::Base, refused ? QColor(0xff, 0xc7, 0xce) : QColor(Qt::white));
-    palette.setColor(QPalette::Text, refused ? darkRed : QColor(Qt::black));
-    palette.setColor(QPalette::Disabled, QPalette::Text, Qt::darkGray);
-    if (refused) {
-        palette.setColor(QPalette::Highlight, darkRed);
-        palette.setColor(QPalette::HighlightedText, Qt::white);
-    }
+    palette.setColor(QPalette::Base, QColor(0xff, 0xc7, 0xce));
+    palette.setColor(QPalette::Text, darkRed);
+    palette.setColor(QPalette::Highlight, darkRed);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
     return palette;
 }
 
@@ -109,7 +106,7 @@ void DateControlView::ShowDay() {
 
 void DateControlView::ShowRefused(bool refused) {
     refused_ = refused;
-    setPalette(Colours(refused));
+    setPalette(refused ? RefusedColours() : QPalette());
     ShowTip(refused ? Complaint(text()) : QString());
     if (refused) {
         selectAll();

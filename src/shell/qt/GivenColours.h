@@ -5,9 +5,13 @@
 
 class QWidget;
 
-/// The palette with the background of a window. The given colours are light, so what is written
-/// over them is dark under any desktop theme.
-QPalette GivenColours(QPalette palette, QRgb background);
+/// All colours of the program, over the background of a window. The given ones are light, so they
+/// all are, under any theme of the desktop, and each text stands out from what lies behind it.
+QPalette GivenColours(QRgb background);
+
+/// Gives the window the given colours, and also the application, from which menus, pop-up lists and
+/// messages take theirs.
+void UseGivenColours(QWidget &window, QRgb background);
 
 /// Gives one label a text colour of its own.
 void SetTextColour(QWidget &label, QRgb colour);

@@ -12,6 +12,8 @@
 #include "shell/qt/PopupMenuView.h"
 #include "shell/qt/TextFieldView.h"
 
+#include <QAccessible>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -23,7 +25,6 @@ constexpr Sheet::Frame frameOfControls{0xffececec, 0xffcccccc};
 JournalPageView::JournalPageView(MainWindow &window, const UserLocale &locale, QWidget *parent)
     : Sheet(MainWindowView::designSize, parent) {
     // In the order of the Tab key.
-    AddCaptions(window.entryRow);
     AddEntryRow(window.entryRow, locale);
     AddButtons(window.entryRow);
     AddErrorBar(window.entryRow);
@@ -32,23 +33,23 @@ JournalPageView::JournalPageView(MainWindow &window, const UserLocale &locale, Q
     AddBalances(window);
 }
 
-void JournalPageView::AddCaptions(EntryRow &row) {
-    AddCaption(u"CashLabel(6)"_s, u"Datum"_s, {20, 86, 80, 20});
-    AddCaption(u"CashLabel(5)"_s, u"Einnahme"_s, {141, 86, 62, 20});
-    AddCaption(u"CashLabel(4)"_s, u"Ausgabe"_s, {211, 86, 58, 20});
-    AddCaption(u"CashLabel(3)"_s, u"Steuer"_s, {281, 86, 58, 20});
-    Add(new LabelView(row.CategoryLabel, this), {370, 86, 148, 20});
-    AddCaption(u"CashLabel(1)"_s, u"Beleg-Nr."_s, {552, 86, 60, 20});
-    AddCaption(u"CashLabel(0)"_s, u"Notiz"_s, {626, 86, 137, 20});
-}
-
 void JournalPageView::AddEntryRow(EntryRow &row, const UserLocale &locale) {
+    AddCaption(u"CashLabel(6)"_s, u"Datum"_s, {20, 86, 80, 20});
     Add(new DateControlView(row.DateField, locale, this), {20, 110, 108, 23});
+    AddCaption(u"CashLabel(5)"_s, u"Einnahme"_s, {141, 86, 62, 20});
     AddAmountField(row.InputField, {141, 110, 60, 22});
+    AddCaption(u"CashLabel(4)"_s, u"Ausgabe"_s, {211, 86, 58, 20});
     AddAmountField(row.OutputField, {211, 110, 60, 22});
+    AddCaption(u"CashLabel(3)"_s, u"Steuer"_s, {281, 86, 58, 20});
     Add(new ComboBoxView(row.pickLists.TaxCombo, this), {281, 110, 80, 21});
-    Add(new ComboBoxView(row.pickLists.CategoryCombo, this), {370, 110, 169, 21});
+    auto *kind = new LabelView(row.CategoryLabel, this);
+    Add(kind, {370, 86, 148, 20});
+    auto *category = new ComboBoxView(row.pickLists.CategoryCombo, this);
+    Add(category, {370, 110, 169, 21});
+    kind->setBuddy(category);
+    AddCaption(u"CashLabel(1)"_s, u"Beleg-Nr."_s, {552, 86, 60, 20});
     Add(new TextFieldView(row.SaleNumberField, this), {552, 110, 60, 22});
+    AddCaption(u"CashLabel(0)"_s, u"Notiz"_s, {626, 86, 137, 20});
     Add(new TextFieldView(row.NoteField, this), {626, 110, 277, 22}, LTR);
 }
 
@@ -73,6 +74,11 @@ void JournalPageView::AddErrorBar(EntryRow &row) {
     auto *message = new LabelView(row.ErrorLabel, bar);
     SetTextColour(*message, 0xffffffff);
     bar->Add(message, {13, 0, 448, 18});
+    // Said at once: the focus stays where it is.
+    connect(&row.ErrorLabel, &Label::Updated, message, [message] {
+        QAccessibleEvent alert(message, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    });
     Add(bar, {141, 135, 471, 20});
 }
 
@@ -81,18 +87,27 @@ void JournalPageView::AddSelectors(MainWindow &window) {
     auto *frame = new Sheet({511, 40}, this);
     frame->setObjectName(u"YearRect"_s);
     frame->SetFrame(frameOfControls);
-    frame->AddCaption(u"Label1"_s, u"Kasse"_s, {11, 9, 46, 20});
     frame->AddCaption(u"Label2"_s, u"Jahr/Monat"_s, {234, 9, 74, 20});
     frame->Add(new PopupMenuView(selectors.YearPopup, frame), {316, 9, 70, 21});
-    frame->Add(new PopupMenuView(selectors.MonthPopup, frame), {396, 9, 105, 21});
-    frame->Add(new PopupMenuView(selectors.CashbookPopup, frame), {59, 9, 140, 21});
+    frame->AddNamed(u"Monat"_s, new PopupMenuView(selectors.MonthPopup, frame), {396, 9, 105, 21});
+    frame->AddCaption(u"Label1"_s, u"Kasse"_s, {11, 9, 46, 20});
+    auto *cashBook = new PopupMenuView(selectors.CashbookPopup, frame);
+    // Its rows are the user's words, which may be longer.
+    cashBook->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    frame->Add(cashBook, {59, 9, 140, 21});
     Add(frame, {549, 15, 511, 40}, TR);
 }
 
 void JournalPageView::AddCashList(MainWindow &window) {
+    // It shows no headings: they are for assistive tools.
+    const QStringList headings = {u"Belegdatum"_s,   u"Einnahmen"_s, u"Ausgaben"_s, u"Steuer"_s,
+                                  u"Buchungstext"_s, u"Bel.Nr."_s,   u"Notiz"_s,    u"Bestand"_s};
+    for (int column = 0; column < headings.size(); ++column) {
+        window.journal.CashList.SetHeading(column, headings[column]);
+    }
     auto *list = new ListboxView(window.journal.CashList, this);
     list->SetColumnWidths({115, 70, 72, 90, 185, 70, 160});
-    Add(list, {20, 157, 1040, 533}, LTRB);
+    AddNamed(u"Buchungen"_s, list, {20, 157, 1040, 533}, LTRB);
 }
 
 void JournalPageView::AddBalances(MainWindow &window) {
@@ -100,12 +115,13 @@ void JournalPageView::AddBalances(MainWindow &window) {
     auto *frame = new Sheet({300, 55}, this);
     frame->setObjectName(u"AmountRect"_s);
     frame->SetFrame(frameOfControls);
-    frame->AddCaption(u"AmountLabel(1)"_s, u"Anfangsbestand:"_s, {45, 5, 130, 20}, LT,
-                      Qt::AlignRight);
-    frame->Add(new LabelView(balances.OpeningBalanceLabel, frame, Qt::AlignRight),
-               {187, 5, 100, 20});
-    frame->AddCaption(u"AmountLabel(0)"_s, u"Aktueller Bestand:"_s, {45, 27, 130, 20}, LT,
-                      Qt::AlignRight);
-    frame->Add(new LabelView(balances.LastAmountLabel, frame, Qt::AlignRight), {187, 27, 100, 20});
+    const auto add = [frame](const QString &name, const QString &text, Label &balance, int top) {
+        frame->AddText(name, text, {45, top, 130, 20}, LT, Qt::AlignRight);
+        auto *label = new LabelView(balance, frame, Qt::AlignRight);
+        label->SetCaption(text);
+        frame->Add(label, {187, top, 100, 20});
+    };
+    add(u"AmountLabel(1)"_s, u"Anfangsbestand:"_s, balances.OpeningBalanceLabel, 5);
+    add(u"AmountLabel(0)"_s, u"Aktueller Bestand:"_s, balances.LastAmountLabel, 27);
     Add(frame, {760, 702, 300, 55}, RB);
 }

@@ -15,7 +15,6 @@ public:
     JournalPageView(MainWindow &window, const UserLocale &locale, QWidget *parent);
 
 private:
-    void AddCaptions(EntryRow &row);
     void AddEntryRow(EntryRow &row, const UserLocale &locale);
     void AddAmountField(TextField &field, const QRect &place);
     void AddButtons(EntryRow &row);

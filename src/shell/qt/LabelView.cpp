@@ -3,10 +3,23 @@
 #include "platform/Label.h"
 #include "shell/qt/ControlBinding.h"
 
-LabelView::LabelView(Label &label, QWidget *parent, Qt::Alignment alignment) : QLabel(parent) {
+LabelView::LabelView(Label &label, QWidget *parent, Qt::Alignment alignment)
+    : QLabel(parent), label_(label) {
     setTextFormat(Qt::PlainText);
     setAlignment(alignment | Qt::AlignVCenter);
-    setText(label.Text());
     BindControl(label, *this);
-    connect(&label, &Label::Updated, this, [this, &label] { setText(label.Text()); });
+    ShowText();
+    connect(&label, &Label::Updated, this, &LabelView::ShowText);
+}
+
+void LabelView::SetCaption(const QString &caption) {
+    caption_ = caption;
+    ShowText();
+}
+
+void LabelView::ShowText() {
+    setText(label_.Text());
+    if (!caption_.isEmpty()) {
+        setAccessibleName(caption_ + u' ' + label_.Text());
+    }
 }

@@ -4,13 +4,13 @@
 #include "platform/MenuItem.h"
 #include "shell/qt/CellEditor.h"
 #include "shell/qt/ControlBinding.h"
+#include "shell/qt/ListHeading.h"
 #include "shell/qt/PainterGraphics.h"
 #include "shell/qt/RowDelegate.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QFocusEvent>
-#include <QHeaderView>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
@@ -24,7 +24,9 @@ constexpr int lineHeight = 18;
 
 } // namespace
 
-ListboxView::ListboxView(Listbox &list, QWidget *parent) : QTableView(parent), list_(list) {
+ListboxView::ListboxView(Listbox &list, QWidget *parent)
+    : QTableView(parent), list_(list), heading_(new ListHeading(list, this)) {
+    setHorizontalHeader(heading_);
     setObjectName(list.objectName());
     setModel(&list);
     setItemDelegate(new RowDelegate(this));
@@ -39,7 +41,6 @@ ListboxView::ListboxView(Listbox &list, QWidget *parent) : QTableView(parent), l
     verticalHeader()->setMinimumSectionSize(lineHeight);
     verticalHeader()->setDefaultSectionSize(lineHeight);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    SetUpHeading();
     connect(&list, &Listbox::SelectionMoved, this, &ListboxView::ShowSelection);
     connect(&list, &Listbox::EditOpened, this, &ListboxView::OpenEditor);
     connect(&list, &Listbox::EditClosed, this, &ListboxView::CloseEditor);
@@ -50,21 +51,21 @@ ListboxView::ListboxView(Listbox &list, QWidget *parent) : QTableView(parent), l
     });
 }
 
-void ListboxView::SetUpHeading() {
-    QHeaderView &heading = *horizontalHeader();
-    heading.setVisible(list_.HasHeading());
-    heading.setMinimumSectionSize(0);
-    heading.setHighlightSections(false);
-    QFont small = font();
-    small.setPixelSize(QFontInfo(small).pixelSize() - 1);
-    heading.setFont(small);
-    heading.setSectionsClickable(list_.SortsByHeading());
-    connect(&heading, &QHeaderView::sectionClicked, &list_, &Listbox::PressHeading);
-    connect(&list_, &Listbox::headerDataChanged, this, [this] {
-        const auto order = list_.SortsDescending() ? Qt::DescendingOrder : Qt::AscendingOrder;
-        horizontalHeader()->setSortIndicatorShown(list_.SortedColumn() >= 0 && list_.HasHeading());
-        horizontalHeader()->setSortIndicator(list_.SortedColumn(), order);
-    });
+void ListboxView::changeEvent(QEvent *event) {
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        heading_->Fit();
+    }
+}
+
+bool ListboxView::event(QEvent *event) {
+    const bool done = QTableView::event(event);
+    if (event->type() == QEvent::Paint && hasFocus()) {
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    return done;
 }
 
 void ListboxView::SetColumnWidths(const std::vector<int> &widths) {
@@ -179,20 +180,51 @@ void ListboxView::mouseDoubleClickEvent(QMouseEvent *event) {
 }
 
 void ListboxView::keyPressEvent(QKeyEvent *event) {
-    const int row = list_.ListIndex();
-    if (event->key() == Qt::Key_F2 && row >= 0) {
-        // What a double click on the row's first cell does.
-        bool handled = false;
-        Q_EMIT list_.CellClick(row, 0, handled);
-        if (!handled) {
-            Q_EMIT list_.DoubleClick();
-        }
-    } else if (event->key() == Qt::Key_Space && row >= 0) {
-        for (int column = 0; column < list_.ColumnCount(); ++column) {
-            list_.ToggleCheck(row, column);
-        }
-    } else {
+    if (!TakeKey(*event)) {
         QTableView::keyPressEvent(event);
+    }
+}
+
+bool ListboxView::TakeKey(const QKeyEvent &event) {
+    const int row = list_.ListIndex();
+    switch (event.key()) {
+    case Qt::Key_Insert:
+        Q_EMIT AddWanted();
+        return true;
+    case Qt::Key_Delete:
+        Q_EMIT RemoveWanted();
+        return true;
+    case Qt::Key_F2:
+        OpenRow(row);
+        return row >= 0;
+    case Qt::Key_Space:
+        FlipCheck(row);
+        return row >= 0;
+    case Qt::Key_F10:
+        if (event.modifiers() == Qt::ShiftModifier) {
+            OpenMenu(PlaceBelowRow());
+            return true;
+        }
+        return false;
+    default:
+        return false;
+    }
+}
+
+void ListboxView::OpenRow(int row) {
+    // What a double click on the row's first cell does.
+    bool handled = row < 0;
+    if (!handled) {
+        Q_EMIT list_.CellClick(row, 0, handled);
+    }
+    if (!handled) {
+        Q_EMIT list_.DoubleClick();
+    }
+}
+
+void ListboxView::FlipCheck(int row) {
+    for (int column = 0; row >= 0 && column < list_.ColumnCount(); ++column) {
+        list_.ToggleCheck(row, column);
     }
 }
 
@@ -206,11 +238,22 @@ QItemSelectionModel::SelectionFlags ListboxView::selectionCommand(const QModelIn
 }
 
 void ListboxView::contextMenuEvent(QContextMenuEvent *event) {
-    if (event->reason() == QContextMenuEvent::Mouse) {
-        if (const QModelIndex cell = indexAt(event->pos()); cell.isValid()) {
-            list_.SetListIndex(cell.row());
-        }
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        OpenMenu(PlaceBelowRow());
+        return;
     }
+    if (const QModelIndex cell = indexAt(event->pos()); cell.isValid()) {
+        list_.SetListIndex(cell.row());
+    }
+    OpenMenu(event->globalPos());
+}
+
+QPoint ListboxView::PlaceBelowRow() const {
+    const QRect row = visualRect(list_.index(list_.ListIndex(), 0)) & viewport()->rect();
+    return viewport()->mapToGlobal(row.bottomLeft());
+}
+
+void ListboxView::OpenMenu(QPoint globalPlace) {
     const auto base = std::make_shared<MenuItem>();
     Q_EMIT list_.ConstructContextualMenu(*base);
     if (base->Count() == 0) {
@@ -222,7 +265,7 @@ void ListboxView::contextMenuEvent(QContextMenuEvent *event) {
         connect(menu->addAction(base->Item(item).Text()), &QAction::triggered, this,
                 [this, base, item] { Q_EMIT list_.ContextualMenuAction(base->Item(item)); });
     }
-    menu->popup(event->globalPos());
+    menu->popup(globalPlace);
 }
 
 void ListboxView::focusOutEvent(QFocusEvent *event) {

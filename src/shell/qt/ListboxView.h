@@ -4,6 +4,7 @@
 
 #include <vector>
 
+class ListHeading;
 class Listbox;
 
 /// Shows a Listbox and hands it what the user does.
@@ -17,12 +18,20 @@ public:
     /// what is left.
     void SetColumnWidths(const std::vector<int> &widths);
 
+Q_SIGNALS:
+    /// The key Insert, or Delete.
+    void AddWanted();
+    void RemoveWanted();
+
 protected:
+    /// The frame shows the focus: no row need be selected.
+    bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
-    /// F2 opens the selected row, Space flips its check box.
+    /// F2 opens the selected row, Space flips its check box, Shift+F10 opens its menu.
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
@@ -33,7 +42,11 @@ protected:
     void selectionChanged(const QItemSelection &now, const QItemSelection &before) override;
 
 private:
-    void SetUpHeading();
+    bool TakeKey(const QKeyEvent &event);
+    void FlipCheck(int row);
+    void OpenRow(int row);
+    void OpenMenu(QPoint globalPlace);
+    QPoint PlaceBelowRow() const;
     void OpenEditor();
     void CloseEditor();
     void ShowSelection();
@@ -42,6 +55,7 @@ private:
     void PaintRow(QPainter &painter, int row, int top);
 
     Listbox &list_;
+    ListHeading *heading_;
     QPersistentModelIndex edited_;
     bool showing_ = false;
     bool pressTaken_ = false;

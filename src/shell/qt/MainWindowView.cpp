@@ -2,6 +2,7 @@
 
 #include "core/App.h"
 #include "shell/MainWindow.h"
+#include "shell/qt/FontFit.h"
 #include "shell/qt/GivenColours.h"
 #include "shell/qt/JournalPageView.h"
 #include "shell/qt/MenuBarView.h"
@@ -17,11 +18,12 @@ using namespace Qt::StringLiterals;
 MainWindowView::MainWindowView(MainWindow &window, const App &app) : window_(window) {
     setObjectName(u"MainWindow"_s);
     setWindowTitle(u"Kassenbuch"_s);
-    setPalette(GivenColours(palette(), 0xfffaf9fa));
+    UseGivenColours(*this, 0xfffaf9fa);
     auto *pages = new PagePanelView(window.PagePanel1, this);
     pages->addWidget(new JournalPageView(window, app.Locale(), pages));
     pages->addWidget(new PreferencesPageView(window, pages));
     setCentralWidget(pages);
+    new FontFit(*pages);
     addToolBar(new ToolBarView(
         window.MainWindowToolbar, [&app](const QString &name) { return app.Resource(name).Path(); },
         this));

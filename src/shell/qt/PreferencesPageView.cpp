@@ -37,8 +37,8 @@ void PreferencesPageView::AddCompany(CompanyProfile &profile) {
     AddCaptionOf(9, u"Strasse:"_s, {66, 180});
     AddField(profile.StreetField, {188, 180, 300, 22});
     AddCaptionOf(8, u"Plz, Ort:"_s, {66, 212});
-    AddField(profile.ZipField, {188, 212, 51, 22});
-    AddField(profile.CityField, {247, 212, 241, 22});
+    AddNamed(u"Plz"_s, new TextFieldView(profile.ZipField, this), {188, 212, 51, 22});
+    AddNamed(u"Ort"_s, new TextFieldView(profile.CityField, this), {247, 212, 241, 22});
     // The country and its caption, Prefs(7), do not show.
     Add(new ComboBoxView(profile.CountryCombo, this), {188, 246, 300, 20});
 }
@@ -59,14 +59,33 @@ void PreferencesPageView::AddContact(CompanyProfile &profile) {
 }
 
 void PreferencesPageView::AddLists(MainWindow &window) {
-    auto *cashBooks = new ListboxView(window.cashBooks.CashbookList, this);
-    cashBooks->SetColumnWidths({110, 45, 0, 77});
-    Add(cashBooks, {20, 353, 329, 340}, LTB);
-    auto *accounts = new ListboxView(window.bookingAccounts.CashaccountList, this);
-    accounts->SetColumnWidths({0, 100, 50, 50});
-    Add(accounts, {361, 353, 699, 340}, LTRB);
+    CashBooks &books = window.cashBooks;
+    ListboxView &bookList = *ListWithKeys(books.CashbookList, books.CashBookAdd);
+    bookList.SetColumnWidths({110, 45, 0, 77});
+    AddNamed(u"Kassen"_s, &bookList, {20, 353, 329, 340}, LTB);
+    BookingAccounts &accounts = window.bookingAccounts;
+    ListboxView &accountList = *ListWithKeys(accounts.CashaccountList, accounts.AccountsAdd);
+    accountList.SetColumnWidths({0, 100, 50, 50});
+    AddNamed(u"Buchungskonten"_s, &accountList, {361, 353, 699, 340}, LTRB);
     AddCaptionOf(1, u"Währung:"_s, {521, 212});
     Add(new ComboBoxView(window.companyProfile.CurrencyCombo, this), {643, 212, 95, 20});
-    Add(new CanvasView(window.cashBooks.CashBookAdd, this), {20, 697, 60, 29}, LB);
-    Add(new CanvasView(window.bookingAccounts.AccountsAdd, this), {361, 697, 60, 29}, LB);
+    AddPlusMinus(books.CashBookAdd, u"Kasse"_s, {20, 697, 60, 29});
+    AddPlusMinus(accounts.AccountsAdd, u"Buchungskonto"_s, {361, 697, 60, 29});
+}
+
+ListboxView *PreferencesPageView::ListWithKeys(Listbox &list, TLXPlusMinusButton &button) {
+    auto *view = new ListboxView(list, this);
+    connect(view, &ListboxView::AddWanted, &button, &TLXPlusMinusButton::PlusPressed);
+    connect(view, &ListboxView::RemoveWanted, &button, &TLXPlusMinusButton::MinusPressed);
+    return view;
+}
+
+void PreferencesPageView::AddPlusMinus(TLXPlusMinusButton &button, const QString &what,
+                                       const QRect &place) {
+    auto *view = new CanvasView(button, this);
+    const int side = place.height();
+    view->AddButton(what + u" hinzufügen"_s, {0, 0, side, side});
+    view->AddButton(what + u" entfernen"_s, {side + 1, 0, side, side});
+    view->setToolTip(u"Hinzufügen (Einfg) oder entfernen (Entf)"_s);
+    Add(view, place, LB);
 }

@@ -3,9 +3,12 @@
 #include "platform/PushButton.h"
 #include "shell/qt/PushButtonView.h"
 
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+
+#include <utility>
 
 Sheet::Sheet(QSize design, QWidget *parent)
     : QWidget(parent), layout_(new LockLayout(this, design)) {}
@@ -17,6 +20,20 @@ void Sheet::SetFrame(Frame frame) {
 
 void Sheet::Add(QWidget *widget, const QRect &place, Locks locks) {
     layout_->Place(widget, place, locks);
+    if (QLabel *caption = std::exchange(caption_, nullptr)) {
+        caption->setBuddy(widget);
+    }
+}
+
+void Sheet::AddNamed(const QString &name, QWidget *widget, const QRect &place, Locks locks) {
+    widget->setAccessibleName(name);
+    // On some desktops a combo box tells its row for a name, and what it is only by a caption.
+    if (qobject_cast<QComboBox *>(widget) != nullptr) {
+        auto *caption = new QLabel(name, this);
+        caption->hide();
+        caption->setBuddy(widget);
+    }
+    Add(widget, place, locks);
 }
 
 void Sheet::AddButton(PushButton &button, const QRect &place, Locks locks) {
@@ -24,15 +41,21 @@ void Sheet::AddButton(PushButton &button, const QRect &place, Locks locks) {
     buttons_.push_back(&button);
 }
 
+QLabel *Sheet::AddText(const QString &name, const QString &text, const QRect &place, Locks locks,
+                       Qt::Alignment alignment) {
+    auto *label = new QLabel(text, this);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    const bool hasHeight = alignment & Qt::AlignVertical_Mask;
+    label->setAlignment(hasHeight ? alignment : alignment | Qt::AlignVCenter);
+    Add(label, place, locks);
+    return label;
+}
+
 QLabel *Sheet::AddCaption(const QString &name, const QString &text, const QRect &place, Locks locks,
                           Qt::Alignment alignment) {
-    auto *caption = new QLabel(text, this);
-    caption->setObjectName(name);
-    caption->setTextFormat(Qt::PlainText);
-    const bool hasHeight = alignment & Qt::AlignVertical_Mask;
-    caption->setAlignment(hasHeight ? alignment : alignment | Qt::AlignVCenter);
-    Add(caption, place, locks);
-    return caption;
+    caption_ = AddText(name, text, place, locks, alignment);
+    return caption_;
 }
 
 void Sheet::paintEvent(QPaintEvent *event) {

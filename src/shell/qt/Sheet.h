@@ -28,10 +28,15 @@ public:
     /// Fills the sheet and draws a line of one point around it.
     void SetFrame(Frame frame);
 
-    /// Adds a widget; the sheet owns it.
+    /// Adds a widget; the sheet owns it. A caption added right before names it.
     void Add(QWidget *widget, const QRect &place, Locks locks = LT);
+    /// The same with a name of its own, which nobody sees but assistive tools tell.
+    void AddNamed(const QString &name, QWidget *widget, const QRect &place, Locks locks = LT);
     void AddButton(PushButton &button, const QRect &place, Locks locks = LT);
-    /// Adds a caption that never changes; it stands in the middle of its height unless told.
+    /// Adds a text that never changes; it stands in the middle of its height unless told.
+    QLabel *AddText(const QString &name, const QString &text, const QRect &place, Locks locks = LT,
+                    Qt::Alignment alignment = Qt::AlignLeft);
+    /// The same for a text that names the widget to be added next.
     QLabel *AddCaption(const QString &name, const QString &text, const QRect &place,
                        Locks locks = LT, Qt::Alignment alignment = Qt::AlignLeft);
 
@@ -43,4 +48,5 @@ private:
     LockLayout *layout_;
     std::optional<Frame> frame_;
     std::vector<PushButton *> buttons_;
+    QLabel *caption_ = nullptr;
 };

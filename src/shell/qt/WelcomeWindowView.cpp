@@ -2,15 +2,16 @@
 
 #include "setup/WelcomeWindow.h"
 #include "shell/qt/AmountFieldView.h"
+#include "shell/qt/CanvasButton.h"
 #include "shell/qt/CanvasView.h"
 #include "shell/qt/DateControlView.h"
+#include "shell/qt/FontFit.h"
 #include "shell/qt/GivenColours.h"
 #include "shell/qt/MenuBarView.h"
 #include "shell/qt/PagePanelView.h"
 #include "shell/qt/PopupMenuView.h"
 #include "shell/qt/TextFieldView.h"
 
-#include <QKeyEvent>
 #include <QLabel>
 #include <QScreen>
 
@@ -32,7 +33,7 @@ QRect OnPage(int left, int top, int width, int height) {
 
 /// Sets the text size in points of the design, of which the screen shows one as a pixel.
 QLabel *SetSize(QLabel *label, int textSize, bool bold = false) {
-    QFont font = label->font();
+    QFont font;
     font.setPixelSize(textSize);
     font.setBold(bold);
     label->setFont(font);
@@ -40,7 +41,7 @@ QLabel *SetSize(QLabel *label, int textSize, bool bold = false) {
 }
 
 void AddExplanation(Sheet &page, const QString &name, const QString &text, const QRect &place) {
-    page.AddCaption(name, text, place, LT, Qt::AlignTop)->setWordWrap(true);
+    page.AddText(name, text, place, LT, Qt::AlignTop)->setWordWrap(true);
 }
 
 } // namespace
@@ -52,7 +53,7 @@ WelcomeWindowView::WelcomeWindowView(WelcomeWindow &window, const UserLocale &lo
     setWindowTitle(u"Willkommen"_s);
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowCloseButtonHint);
-    setPalette(GivenColours(palette(), 0xffffffff));
+    UseGivenColours(*this, 0xffffffff);
     sheet_->setFixedSize(designSize);
     sheet_->Add(pages_, placeOfPages);
     AddGreeting();
@@ -61,6 +62,7 @@ WelcomeWindowView::WelcomeWindowView(WelcomeWindow &window, const UserLocale &lo
     AddChoices();
     setMenuBar(new MenuBarView(window.menuBar, this));
     setCentralWidget(sheet_);
+    new FontFit(*sheet_);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     const QSize size = sizeHint();
     move(screen()->availableGeometry().center() - QPoint(size.width() / 2, size.height() / 2));
@@ -70,15 +72,6 @@ WelcomeWindowView::WelcomeWindowView(WelcomeWindow &window, const UserLocale &lo
 void WelcomeWindowView::closeEvent(QCloseEvent *event) {
     QMainWindow::closeEvent(event);
     window_.Event_Close();
-}
-
-void WelcomeWindowView::keyPressEvent(QKeyEvent *event) {
-    const bool accepts = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (accepts && window_.PagePanel1.Value() == 0) {
-        Q_EMIT window_.NewCanvas.MouseDown(0, 0);
-    } else {
-        QMainWindow::keyPressEvent(event);
-    }
 }
 
 Sheet *WelcomeWindowView::AddPage(const QString &name) {
@@ -91,17 +84,18 @@ Sheet *WelcomeWindowView::AddPage(const QString &name) {
 
 void WelcomeWindowView::AddGreeting() {
     Sheet &page = *AddPage(u"Rectangle1"_s);
-    SetTextColour(*SetSize(page.AddCaption(u"Label1"_s, u"Willkomen bei Zolmark"_s,
-                                           OnPage(27, 9, 510, 36), LT, Qt::AlignHCenter),
+    SetTextColour(*SetSize(page.AddText(u"Label1"_s, u"Willkomen bei Zolmark"_s,
+                                        OnPage(27, 9, 510, 36), LT, Qt::AlignHCenter),
                            32, true),
                   strongText);
-    SetTextColour(*SetSize(page.AddCaption(u"Label2"_s,
-                                           u"Einnahmen und Ausgabenverwaltung für \n"
-                                           "Selbstständige und Freiberufler"_s,
-                                           OnPage(27, 54, 510, 45), LT, Qt::AlignHCenter),
+    SetTextColour(*SetSize(page.AddText(u"Label2"_s,
+                                        u"Einnahmen und Ausgabenverwaltung für \n"
+                                        "Selbstständige und Freiberufler"_s,
+                                        OnPage(27, 54, 510, 45), LT, Qt::AlignHCenter),
                            16),
                   softText);
-    page.Add(new CanvasView(window_.Canvas1, &page), OnPage(31, 102, 513, 200));
+    page.AddNamed(u"Bild zur Begrüßung"_s, new CanvasView(window_.Canvas1, &page),
+                  OnPage(31, 102, 513, 200));
 }
 
 void WelcomeWindowView::AddCompanyPage() {
@@ -109,19 +103,20 @@ void WelcomeWindowView::AddCompanyPage() {
     auto *title = new Sheet({526, 41}, &page);
     title->setObjectName(u"Placard1"_s);
     title->SetFrame(frameOfTitle);
-    SetSize(title->AddCaption(u"Label13"_s, u"Firmendaten erfassen"_s, {53, 8, 406, 24}, LT,
-                              Qt::AlignHCenter),
+    SetSize(title->AddText(u"Label13"_s, u"Firmendaten erfassen"_s, {53, 8, 406, 24}, LT,
+                           Qt::AlignHCenter),
             18);
     page.Add(title, OnPage(19, 15, 526, 41));
     // In the order of the Tab key.
     page.AddCaption(u"Label17"_s, u"Name:"_s, OnPage(39, 77, 82, 20), LT, Qt::AlignRight);
     page.Add(new TextFieldView(window_.CompanyField, &page), OnPage(136, 76, 300, 22));
-    page.Add(new TextFieldView(window_.DepartmendField, &page), OnPage(136, 106, 300, 22));
+    page.AddNamed(u"Name, zweite Zeile"_s, new TextFieldView(window_.DepartmendField, &page),
+                  OnPage(136, 106, 300, 22));
     page.AddCaption(u"Label3"_s, u"Strasse:"_s, OnPage(41, 138, 80, 20), LT, Qt::AlignRight);
     page.Add(new TextFieldView(window_.StreetField, &page), OnPage(136, 137, 300, 22));
     page.AddCaption(u"Label16"_s, u"Plz, Ort:"_s, OnPage(41, 170, 80, 20), LT, Qt::AlignRight);
-    page.Add(new TextFieldView(window_.ZipField, &page), OnPage(136, 169, 51, 22));
-    page.Add(new TextFieldView(window_.CityField, &page), OnPage(192, 169, 244, 22));
+    page.AddNamed(u"Plz"_s, new TextFieldView(window_.ZipField, &page), OnPage(136, 169, 51, 22));
+    page.AddNamed(u"Ort"_s, new TextFieldView(window_.CityField, &page), OnPage(192, 169, 244, 22));
     page.AddCaption(u"Label15"_s, u"Telefon:"_s, OnPage(39, 200, 82, 20), LT, Qt::AlignRight);
     page.Add(new TextFieldView(window_.PhoneField, &page), OnPage(136, 200, 300, 22));
     AddExplanation(page, u"Label14"_s,
@@ -134,7 +129,8 @@ void WelcomeWindowView::AddCompanyPage() {
 void WelcomeWindowView::AddCashBookPage(const UserLocale &locale) {
     Sheet &page = *AddPage(u"Rectangle3"_s);
     // In the order of the Tab key.
-    page.Add(new PopupMenuView(window_.AccountsPopup, &page), OnPage(171, 19, 372, 20));
+    page.AddNamed(u"Kontorahmen"_s, new PopupMenuView(window_.AccountsPopup, &page),
+                  OnPage(171, 19, 372, 20));
     AddExplanation(page, u"Label11"_s,
                    u"Wählen Sie den Kontorahmen den Sie in Ihrer Buchhaltung benutzen, oder "
                    "alternativ einen leeren Kontorahmen. Sie können später selbst weitere Konten "
@@ -156,7 +152,8 @@ void WelcomeWindowView::AddOpeningBalance(Sheet &page, const UserLocale &locale)
     page.AddCaption(u"Label19"_s, u"Eröffnungsbestand:"_s, OnPage(40, 156, 120, 20), LT,
                     Qt::AlignRight);
     page.Add(new AmountFieldView(window_.OpeningBalanceField, &page), OnPage(170, 155, 100, 22));
-    page.Add(new PopupMenuView(window_.CurrencyPopup, &page), OnPage(282, 155, 80, 20));
+    page.AddNamed(u"Währung"_s, new PopupMenuView(window_.CurrencyPopup, &page),
+                  OnPage(282, 155, 80, 20));
     page.AddCaption(u"Label18"_s, u"Datum des Eröffnungsbestandes:"_s, OnPage(19, 180, 141, 60), LT,
                     Qt::AlignRight)
         ->setWordWrap(true);
@@ -171,10 +168,12 @@ void WelcomeWindowView::AddChoices() {
               {0,
                {u"Label4"_s, u"Demo Datenbank"_s, 12},
                {u"Label9"_s, u"Testen Sie Zolmark mit einer Beispiel-Datenbank.\n"_s, 35}});
+    // Who only presses Return gets a new book.
     AddChoice(window_.NewCanvas,
               {100,
                {u"Label5"_s, u"Neue Datenbank"_s, 111},
-               {u"Label10"_s, u"Erstellen Sie eine neue lokale Datenbank."_s, 134}});
+               {u"Label10"_s, u"Erstellen Sie eine neue lokale Datenbank."_s, 134}})
+        ->setFocus();
     AddChoice(window_.ManualCanvas,
               {200,
                {u"Label8"_s, u"Handbuch"_s, 211},
@@ -182,17 +181,24 @@ void WelcomeWindowView::AddChoices() {
                 u"Verschaffen Sie sich einen Überblick über die Funk-tionen von Zolmark."_s, 235}});
 }
 
-void WelcomeWindowView::AddChoice(TLXCanvasButton &button, const Choice &choice) {
-    sheet_->Add(new CanvasView(button, sheet_), {565, choice.top, 245, 100});
+QWidget *WelcomeWindowView::AddChoice(TLXCanvasButton &canvas, const Choice &choice) {
+    const QRect place(565, choice.top, 245, 100);
+    auto *view = new CanvasView(canvas, sheet_);
+    sheet_->Add(view, place);
+    QAbstractButton *button = view->AddButton(choice.title.text, {{0, 0}, place.size()});
+    button->setAccessibleDescription(choice.description.text);
     const auto add = [this](const Text &text, int height) {
-        QLabel *label = sheet_->AddCaption(text.name, text.text, {640, text.top, 162, height}, LT,
-                                           Qt::AlignTop);
+        QLabel *label =
+            sheet_->AddText(text.name, text.text, {640, text.top, 162, height}, LT, Qt::AlignTop);
         // The button below answers the mouse.
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
         label->setWordWrap(true);
         return label;
     };
-    SetSize(add(choice.title, 20), QFontInfo(font()).pixelSize(), true);
+    QFont bold;
+    bold.setBold(true);
+    add(choice.title, 20)->setFont(bold);
     SetTextColour(*SetSize(add(choice.description, choice.top + 99 - choice.description.top), 12),
                   strongText);
+    return button;
 }

@@ -9,8 +9,7 @@ class TLXCanvasButton;
 class UserLocale;
 class WelcomeWindow;
 
-/// The welcome window on the desktop: pages on the left, three large buttons on the right. Return
-/// goes on to a new book from the greeting too.
+/// The welcome window on the desktop: pages on the left, three large buttons on the right.
 class WelcomeWindowView : public QMainWindow {
     Q_OBJECT
 
@@ -19,7 +18,6 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     struct Text {
@@ -39,7 +37,8 @@ private:
     void AddCashBookPage(const UserLocale &locale);
     void AddOpeningBalance(Sheet &page, const UserLocale &locale);
     void AddChoices();
-    void AddChoice(TLXCanvasButton &button, const Choice &choice);
+    /// Gives what of it the keys press.
+    QWidget *AddChoice(TLXCanvasButton &canvas, const Choice &choice);
 
     WelcomeWindow &window_;
     Sheet *sheet_;

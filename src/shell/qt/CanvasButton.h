@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QAbstractButton>
+
+class Canvas;
+
+/// A part of a Canvas that works like a button: for the keys, which reach it with Tab and press it
+/// with Space or Return, and for assistive tools. It draws nothing but the focus. The mouse goes
+/// through it, and never brings it the focus.
+class CanvasButton : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    CanvasButton(Canvas &canvas, const QString &name, const QRect &place, QWidget *view);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    /// A click of the mouse on its middle.
+    void Press();
+
+    Canvas &canvas_;
+};
