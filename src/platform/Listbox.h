@@ -82,6 +82,8 @@ Q_SIGNALS:
     /// A click in a cell, before the selection moves on. Handled means that the list does no more.
     void CellClick(int row, int column, bool &handled);
     void DoubleClick();
+    /// A key went to the list while a row is selected, as the arrows do.
+    void KeyDown();
     void LostFocus();
     /// The user has changed the cell: its edit ended with another text, or its box was flipped.
     void CellAction(int row, int column);

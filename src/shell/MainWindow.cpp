@@ -18,6 +18,8 @@ MainWindow::MainWindow(App &app)
       bookingAccounts(app), cashReport(app, selectors, journal, balances, companyProfile),
       accountingExport(app, selectors), PagePanel1(u"PagePanel1"_s), app_(app) {
     connect(&journal.CashList, &Listbox::CellClick, this, &MainWindow::CashList_CellClick);
+    // Who chooses a row by keys has its commands too.
+    connect(&journal.CashList, &Listbox::KeyDown, this, &MainWindow::CashList_CellClick);
     connect(&journal.CashList, &Listbox::LostFocus, this, [this] { EnableRowCommands(false); });
     connect(&MainWindowToolbar, &MainToolbar::Action, this, &MainWindow::MainWindowToolbar_Action);
     AddMenuHandlers();

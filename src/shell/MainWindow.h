@@ -52,8 +52,8 @@ public:
     /// Runs whenever the state of the menus may have changed.
     void Event_EnableMenuItems();
 
-    /// Whether the commands that work on a booking are open: a click in the list opens them, and
-    /// they close when the focus leaves the list.
+    /// Whether the commands that work on a booking are open: a click in the list opens them, or a
+    /// key on a row of it, and they close when the focus leaves the list.
     bool MenuItemEnable() const { return menuItemEnable_; }
 
 private:

@@ -75,6 +75,11 @@ TEST_F(CommandsTest, OnARowAreOpenFromAClickInItUntilTheFocusLeavesTheList) {
     Choose(u"CopyButton"_s);
     EXPECT_EQ(RowCommands(), u"-----"_s);
     EXPECT_EQ(Find<QLineEdit>(u"OutputField"_s).text(), u"4,00"_s);
+    list.setFocus();
+    EXPECT_EQ(RowCommands(), u"-----"_s);
+    Key(Qt::Key_Up);
+    EXPECT_EQ(RowCommands(), u"+++++"_s) << "of the row that the key has chosen";
+    window.entryRow.DateField.SetFocus();
     Key(Qt::Key_L, Qt::ControlModifier);
     EXPECT_EQ(Bookings(), u"2"_s);
     Click(list, 1, 2);

@@ -180,8 +180,12 @@ void ListboxView::mouseDoubleClickEvent(QMouseEvent *event) {
 }
 
 void ListboxView::keyPressEvent(QKeyEvent *event) {
-    if (!TakeKey(*event)) {
-        QTableView::keyPressEvent(event);
+    if (TakeKey(*event)) {
+        return;
+    }
+    QTableView::keyPressEvent(event);
+    if (hasFocus() && list_.ListIndex() >= 0) {
+        Q_EMIT list_.KeyDown();
     }
 }
 
