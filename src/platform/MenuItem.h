@@ -20,7 +20,6 @@ public:
         /// A letter behind "Cmd+", the platform's command key.
         QStringView keyboardShortcut = {};
         Kind kind = Kind::Plain;
-        /// Whether it can be used as soon as somebody handles it.
         bool autoEnable = true;
     };
 
@@ -31,7 +30,8 @@ public:
     QString KeyboardShortcut() const { return keyboardShortcut_; }
     Kind ItemKind() const { return kind_; }
 
-    /// Without AutoEnable an item is disabled until it is told.
+    /// With autoEnable it is enabled while somebody is connected to its Action, without it as it
+    /// was told, disabled at first.
     bool Enabled() const;
     void SetEnabled(bool enabled);
     bool Visible() const { return visible_; }

@@ -49,6 +49,10 @@ TEST_F(CommandsTest, AreReachedByTheEntriesOfTheMenusOnEitherPage) {
     }
     ChooseByKeys(Qt::Key_D, Qt::Key_E);
     EXPECT_EQ(window.PagePanel1.Value(), 1);
+    Find<QLineEdit>(u"CompanyField"_s).setFocus();
+    Key(Qt::Key_Backtab);
+    Key(Qt::Key_Return);
+    EXPECT_EQ(window.PagePanel1.Value(), 0) << "by the last button of the tool bar";
     for (const auto &entry :
          {u"AboutItem"_s, u"QuickReferenceItem"_s, u"SupportItem"_s, u"HomepageItem"_s}) {
         Choose(entry);

@@ -140,7 +140,8 @@ TEST(EveryPage, TellsAssistiveToolsWhatTheKeysReach) {
     QStringList orders;
     ForEveryPage([&orders](const QWidget &window) { orders.append(TabOrder(window)); });
     const QString choices = u"B Demo Datenbank, B Neue Datenbank, B Handbuch"_s;
-    const QString lists = u"L Buchungen, C Jahr/Monat, C Monat, C Kasse"_s;
+    const QString lists = u"L Buchungen, C Jahr/Monat, C Monat, C Kasse, B Neu, "
+                          "B Drucken, B Einstellungen"_s;
     EXPECT_EQ(orders[0], choices);
     EXPECT_EQ(orders[1], u"T Name:, T Name, zweite Zeile, T Strasse:, T Plz, T Ort, T Telefon:, "
                          "B Weiter, "_s +
@@ -157,7 +158,8 @@ TEST(EveryPage, TellsAssistiveToolsWhatTheKeysReach) {
     EXPECT_EQ(orders[5], u"T Firma:, T Zusatz:, T Vorname:, T Nachname:, T Strasse:, T Plz, T Ort, "
                          "T Telefon:, T Fax:, T E-Mail:, T Homepage:, T Ust. Nr.:, L Kassen, "
                          "L Buchungskonten, B Kasse hinzufügen, B Kasse entfernen, "
-                         "B Buchungskonto hinzufügen, B Buchungskonto entfernen"_s);
+                         "B Buchungskonto hinzufügen, B Buchungskonto entfernen, B Neu, B Drucken, "
+                         "B Kassenbuch"_s);
 }
 
 } // namespace

@@ -12,6 +12,8 @@ namespace {
 /// The writing end of the pipe that wakes the event loop: a signal handler reaches nothing else.
 int wakeUp = -1;
 
+constexpr int endings[] = {SIGTERM, SIGINT, SIGHUP};
+
 void HandleSignal(int /*signal*/) {
     const char byte = 1;
     // There is nobody to tell; a full pipe has woken the loop already.
@@ -21,15 +23,30 @@ void HandleSignal(int /*signal*/) {
 } // namespace
 
 TerminationSignals::TerminationSignals() {
-    int ends[2] = {};
-    if (pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0) {
+    if (pipe2(ends_.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
         qWarning("The end of the session will not be noticed.");
         return;
     }
-    wakeUp = ends[1];
-    const auto *notifier = new QSocketNotifier(ends[0], QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, qApp, &QApplication::closeAllWindows);
-    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+    wakeUp = ends_[1];
+    const auto *notifier = new QSocketNotifier(ends_[0], QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, &TerminationSignals::CloseWindows);
+    for (const int signal : endings) {
         std::signal(signal, HandleSignal);
     }
+}
+
+TerminationSignals::~TerminationSignals() {
+    for (const int signal : endings) {
+        std::signal(signal, SIG_DFL);
+    }
+    for (const int end : ends_) {
+        close(end);
+    }
+}
+
+void TerminationSignals::CloseWindows() {
+    char byte = 0;
+    // What it says is known: there is only one message.
+    static_cast<void>(!read(ends_[0], &byte, 1));
+    QApplication::closeAllWindows();
 }

@@ -3,8 +3,9 @@
 #include "shell/MainToolbar.h"
 
 #include <QAction>
-#include <QEvent>
 #include <QIcon>
+#include <QKeyEvent>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -50,7 +51,9 @@ void ToolBarView::AddButton(ToolItem &item, const IconPath &icon) {
     show();
     connect(&item, &ToolItem::Updated, action, show);
     connect(action, &QAction::triggered, &item, &ToolItem::Action);
-    widgetForAction(action)->installEventFilter(this);
+    auto *button = static_cast<QToolButton *>(widgetForAction(action));
+    button->setFocusPolicy(Qt::TabFocus);
+    button->installEventFilter(this);
 }
 
 void ToolBarView::AddSpace(QSizePolicy::Policy width) {
@@ -61,5 +64,12 @@ void ToolBarView::AddSpace(QSizePolicy::Policy width) {
 }
 
 bool ToolBarView::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            static_cast<QToolButton *>(watched)->click();
+            return true;
+        }
+    }
     return event->type() == QEvent::ToolTip || QToolBar::eventFilter(watched, event);
 }

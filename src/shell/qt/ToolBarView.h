@@ -7,7 +7,9 @@
 class MainToolbar;
 class ToolItem;
 
-/// Shows the tool bar: buttons with their captions below, lines and spaces between them.
+/// Shows the tool bar: buttons with their captions below, lines and spaces between them. The keys
+/// reach the buttons with Tab and press them with Space or Return; a click never takes the focus,
+/// so the list keeps it.
 class ToolBarView : public QToolBar {
     Q_OBJECT
 
