@@ -28,12 +28,10 @@ TEST(App, OpensAChosenFileWithoutAKeyAndKeepsTheBookOnACancel) {
     book.desktop.fileToOpen = FolderItem(book.desktop.Path(u"plain"_s));
     EXPECT_FALSE(book.app.DBLoad1());
     EXPECT_EQ(book.Value(nameOfTheBook), u"Kasse"_s);
-    {
-        SQLiteDatabase plain;
-        plain.SetDatabaseFile(*book.desktop.fileToOpen);
-        ASSERT_TRUE(plain.CreateDatabaseFile());
-        plain.SQLExecute(u"CREATE TABLE cash_book AS SELECT 'offen' AS name"_s);
-    }
+    SQLiteDatabase plain;
+    plain.SetDatabaseFile(*book.desktop.fileToOpen);
+    ASSERT_TRUE(plain.CreateDatabaseFile());
+    plain.SQLExecute(u"CREATE TABLE cash_book AS SELECT 'offen' AS name"_s);
     ASSERT_TRUE(book.app.DBLoad1());
     book.app.Connect();
     EXPECT_EQ(book.Value(nameOfTheBook), u"offen"_s);
