@@ -29,12 +29,15 @@ protected:
     }
 
     EntryRow &row = window.entryRow;
-    Listbox &bookings = window.journal.CashList;
+    ComboBox &tax = row.pickLists.TaxCombo;
+    ComboBox &category = row.pickLists.CategoryCombo;
     QTableView &list = Find<QTableView>(u"CashList"_s);
 };
 
 TEST_F(JournalPageTest, BooksAReceiptAndAnExpenseByKeysAlone) {
     Open();
+    Key(Qt::Key_Return);
+    EXPECT_TRUE(Shows(u"ErrorLabel"_s));
     Type(u"0203\t119"_s);
     Key(Qt::Key_Period, Qt::KeypadModifier);
     EXPECT_EQ(row.InputField.Text(), u"119,"_s);
@@ -53,81 +56,66 @@ TEST_F(JournalPageTest, BooksAReceiptAndAnExpenseByKeysAlone) {
     EXPECT_EQ(book.Value(u"SELECT account FROM cash_journal WHERE id = 1"_s), u"8300"_s);
 }
 
-TEST_F(JournalPageTest, ShowsWhatIsMissingAndEscapeLeavesAChange) {
-    book.Add({u"2026-03-01"_s, u"E"_s, u"10"_s});
+TEST_F(JournalPageTest, ChangesABookingByKeysAndEscapeLeavesTheChange) {
+    const QString note = u"eins\nzwei\tdrei "_s + QString(40000, u'x'); // No line edit holds it.
+    book.Add({.date = u"2026-03-01"_s, .type = u"E"_s, .amount = u"10"_s, .note = note});
+    const auto stored = [this] { return book.Value(u"SELECT vdate || note FROM cash_journal"_s); };
     Open();
-    Key(Qt::Key_Return);
-    EXPECT_TRUE(Shows(u"ErrorLabel"_s));
     DoubleClick(list, 0, 4);
     EXPECT_TRUE(Shows(u"ChangeButton"_s) && !Shows(u"SubmitButton"_s));
     EXPECT_FALSE(Find<QWidget>(u"OutputField"_s).isEnabled());
-    row.NoteField.SetText(u"neu"_s);
     Type(u"2\x1b"_s); // Into the date, and Escape.
     EXPECT_TRUE(Shows(u"SubmitButton"_s));
     EXPECT_EQ(row.InputField.Text() + row.NoteField.Text(), u""_s);
     EXPECT_EQ(bookings.ListIndex(), -1);
-    EXPECT_EQ(book.Value(u"SELECT vdate || note FROM cash_journal"_s), u"2026-03-01"_s);
+    EXPECT_EQ(stored(), u"2026-03-01"_s + note);
+    DoubleClick(list, 0, 4);
+    Type(u"2\r"_s);
+    EXPECT_EQ(stored(), u"2026-03-02"_s + note);
 }
 
-TEST_F(JournalPageTest, CommandsActOnTheRowUnderThePointerWhileTheListHasTheFocus) {
-    Open();
-    Click(list.viewport(), {50, 50});
-    bool handled = false; // The view tells of no click there; the window must not rest on it.
-    Q_EMIT window.journal.CashList.CellClick(0, 0, handled);
-    EXPECT_FALSE(window.MenuItemEnable()) << "an empty list enables nothing";
+TEST_F(JournalPageTest, OpensAMenuOnTheRowUnderThePointer) {
     book.Add({u"2026-03-01"_s, u"E"_s, u"10"_s});
     book.Add({u"2026-03-02"_s, u"E"_s, u"20"_s});
-    row.NewSale();
-    Click(list, 0, 4);
-    EXPECT_TRUE(window.MenuItemEnable() && bookings.ListIndex() == 0);
-    row.NoteField.SetFocus();
-    EXPECT_FALSE(window.MenuItemEnable());
+    Open();
     ChooseFromMenu(Centre(list, 1, 4), u"Duplizieren"_s);
     EXPECT_EQ(row.InputField.Text(), u"20,00"_s);
     EXPECT_TRUE(row.SubmitButton.Visible());
     Click(list, 0, 4);
+    EXPECT_EQ(bookings.ListIndex(), 0);
     ChooseFromMenu(Centre(list, 1, 4), u"Löschen"_s);
     EXPECT_EQ(bookings.Cell(-1, Journal::Input), u"10,00"_s);
     EXPECT_EQ(bookings.ListIndex(), -1);
     EXPECT_TRUE(window.MenuItemEnable()) << "a menu takes the focus for a while only";
     ChooseFromMenu({50, 300}, u"Löschen"_s);
     EXPECT_EQ(bookings.ListCount(), 1) << "no row is selected";
+    ChooseFromMenu(Centre(list, 0, 4), u"Bearbeiten"_s);
+    EXPECT_TRUE(row.ChangeButton.Visible());
 }
 
 TEST_F(JournalPageTest, TypedTextOfNoRowLeavesNoStaleRowBehind) {
     Open();
     row.InputField.SetText(u"1"_s);
-    const ComboBox &category = row.pickLists.CategoryCombo;
-    Menu(u"CategoryCombo"_s).setFocus();
+    QComboBox &menu = Menu(u"CategoryCombo"_s);
+    menu.setFocus();
     Key(Qt::Key_Down);
     ASSERT_EQ(category.ListIndex(), 0);
     Type(u"x"_s);
     EXPECT_EQ(category.ListIndex(), -1);
-    EXPECT_EQ(Menu(u"CategoryCombo"_s).currentText(), category.Text());
-
-    Menu(u"CategoryCombo"_s).lineEdit()->selectAll();
+    EXPECT_EQ(menu.currentText(), category.Text());
+    menu.lineEdit()->selectAll();
     Type(u"19"_s);
-    ASSERT_TRUE(Menu(u"CategoryCombo"_s).completer()->popup()->isVisible()) << "inside words";
-    Key(Qt::Key_Escape);
-    EXPECT_EQ(category.Text(), u"19"_s);
-    Key(Qt::Key_Tab);
-    EXPECT_EQ(category.Text(), u"19"_s);
-    row.pickLists.TaxCombo.SetFocus();
+    ASSERT_TRUE(menu.completer()->popup()->isVisible()) << "inside words";
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Tab}) {
+        Key(key);
+        EXPECT_EQ(category.Text(), u"19"_s);
+    }
+    tax.SetFocus();
     Menu(u"TaxCombo"_s).lineEdit()->selectAll();
     Type(u"KEINE\x1b"_s);
-    EXPECT_EQ(row.pickLists.TaxCombo.ListIndex(), -1);
+    EXPECT_EQ(tax.ListIndex(), -1);
     row.NoteField.SetFocus();
-    EXPECT_EQ(row.pickLists.TaxCombo.ListIndex(), 2);
-}
-
-TEST_F(JournalPageTest, KeepsALongNoteWithLineBreaksThroughAChange) {
-    const QString note = u"eins\nzwei\tdrei "_s + QString(40000, u'x');
-    book.Add({.date = u"2026-03-01"_s, .type = u"E"_s, .amount = u"10"_s, .note = note});
-    Open();
-    bookings.SetListIndex(0);
-    row.EditSale(EntryRow::EditMode::Change);
-    row.ChangeButton.Press();
-    EXPECT_EQ(book.Value(u"SELECT note FROM cash_journal"_s), note);
+    EXPECT_EQ(tax.ListIndex(), 2);
 }
 
 TEST_F(JournalPageTest, ShowsTheBookingsOfThePeriodThatTheKeysChoose) {
@@ -165,6 +153,8 @@ TEST_F(JournalPageTest, LetsTheWheelTurnOnlyTheControlWithTheFocus) {
         TurnWheel(Menu(name), -120);
         EXPECT_NE(Menu(name).currentText(), before);
     }
+    TurnWheel(Find<QWidget>(u"DateField"_s), 120);
+    EXPECT_EQ(row.DateField.DateValue().Day(), book.desktop.now.Day());
 }
 
 TEST_F(JournalPageTest, ShowsTheNewBookingInALongListAndKeepsThePlaceThroughAReload) {
@@ -177,7 +167,7 @@ TEST_F(JournalPageTest, ShowsTheNewBookingInALongListAndKeepsThePlaceThroughARel
         return list.viewport()->rect().contains(Centre(list, index, 4));
     };
     row.InputField.SetText(u"5"_s);
-    row.pickLists.CategoryCombo.SetText(u"frei"_s);
+    category.SetText(u"frei"_s);
     row.SubmitButton.Press();
     EXPECT_TRUE(isShown(bookings.FindRow(u"20001"_s)));
 

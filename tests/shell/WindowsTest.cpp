@@ -66,14 +66,6 @@ TEST_F(FirstStartTest, LeadsFromTheWelcomeWindowIntoTheSampleBook) {
     EXPECT_FALSE(app.DefaultDatabaseFile().Exists());
 }
 
-TEST(Windows, OpenTheMainWindowAtOnceOnABookInItsPlace) {
-    Book book(Book::Place::File);
-    Windows windows(book.app);
-    windows.Open();
-    EXPECT_TRUE(ShownWindow(u"MainWindow"_s));
-    EXPECT_FALSE(ShownWindow(u"WelcomeWindow"_s));
-}
-
 TEST_F(FirstStartTest, LeadsByTheKeysToABookOfOnesOwn) {
     const auto *pages = welcome->findChild<QStackedWidget *>(u"PagePanel1"_s);
     Type(*welcome, u"\r"_s);
@@ -93,10 +85,17 @@ TEST_F(FirstStartTest, LeadsByTheKeysToABookOfOnesOwn) {
     EXPECT_FALSE(ShownWindow(u"WelcomeWindow"_s));
     EXPECT_TRUE(ShownWindow(u"MainWindow"_s));
     app.NewDatabase();
-    EXPECT_EQ(ReadWithShell(app.DefaultDatabaseFile().Path(),
-                            u"SELECT company, account_frame FROM core_company"_s),
-              u"Peter|SKR-03\n"_s);
+    EXPECT_EQ(ReadWithShell(app, u"SELECT company, account_frame FROM core_company"_s),
+              u"Peter|SKR-03"_s);
     EXPECT_TRUE(app.DefaultDatabaseFile().Delete());
+}
+
+TEST(Windows, OpenTheMainWindowAtOnceOnABookInItsPlace) {
+    Book book(Book::Place::File);
+    Windows windows(book.app);
+    windows.Open();
+    EXPECT_TRUE(ShownWindow(u"MainWindow"_s));
+    EXPECT_FALSE(ShownWindow(u"WelcomeWindow"_s));
 }
 
 TEST(Windows, CloseOnAFailedCreationWithoutItsFile) {

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "shell/MainWindow.h"
 #include "shell/qt/MainWindowView.h"
-#include "support/Book.h"
+#include "support/BookTest.h"
 
 #include <QApplication>
 #include <QTableView>
@@ -26,7 +25,7 @@ inline void TurnWheel(QWidget &widget, int delta) {
 
 /// The real main window on a book, driven by keys and clicks as by its user. A test fills the book
 /// and opens the window.
-class MainWindowTest : public testing::Test {
+class MainWindowTest : public BookTest {
 protected:
     void Open() {
         window.Event_Open();
@@ -55,7 +54,5 @@ protected:
         QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, Centre(list, row, column));
     }
 
-    Book book;
-    MainWindow window{book.app};
     MainWindowView view{window, book.app};
 };
