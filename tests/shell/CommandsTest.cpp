@@ -15,12 +15,6 @@ namespace {
 class CommandsTest : public MainWindowTest {
 protected:
     void Choose(const QString &action) { Find<QAction>(action).trigger(); }
-    /// The keys of a menu's mnemonic and of those in it.
-    void ChooseByKeys(Qt::Key menu, Qt::Key entry) {
-        Key(menu, Qt::AltModifier);
-        ASSERT_TRUE(QApplication::activePopupWidget());
-        QTest::keyClick(QApplication::activePopupWidget(), entry);
-    }
     /// Which commands on a row are open, in the tool bar and in the menu.
     QString RowCommands() {
         QString open;
@@ -37,16 +31,16 @@ TEST_F(CommandsTest, AreReachedByTheEntriesOfTheMenusOnEitherPage) {
     book.desktop.paper.emplace();
     for (const int page : {0, 1}) {
         window.PagePanel1.SetValue(page);
-        ChooseByKeys(Qt::Key_D, Qt::Key_D);
+        Type(u"{Alt+D}d"_s);
         EXPECT_FALSE(std::exchange(book.desktop.paper, QStringList())->isEmpty());
-        ChooseByKeys(Qt::Key_D, Qt::Key_X);
+        Type(u"{Alt+D}x"_s);
         EXPECT_TRUE(std::exchange(book.desktop.saveDialog, std::nullopt));
         Find<QLineEdit>(u"NoteField"_s).setText(u"half typed"_s);
-        Key(Qt::Key_N, Qt::ControlModifier);
+        Type(u"{Ctrl+N}"_s);
         EXPECT_EQ(Find<QLineEdit>(u"NoteField"_s).text(), u""_s);
         EXPECT_EQ(window.PagePanel1.Value(), page);
     }
-    ChooseByKeys(Qt::Key_D, Qt::Key_E);
+    Type(u"{Alt+D}e"_s);
     EXPECT_EQ(window.PagePanel1.Value(), 1);
     for (const auto &entry :
          {u"AboutItem"_s, u"QuickReferenceItem"_s, u"SupportItem"_s, u"HomepageItem"_s}) {
@@ -78,14 +72,13 @@ TEST_F(CommandsTest, OnARowAreOpenFromAClickInItUntilTheFocusLeavesTheList) {
     EXPECT_EQ(Find<QLineEdit>(u"OutputField"_s).text(), u"4,00"_s);
     list.setFocus();
     EXPECT_EQ(RowCommands(), u"-----"_s);
-    Key(Qt::Key_Up);
+    Type(u"{Up}"_s);
     EXPECT_EQ(RowCommands(), u"+++++"_s) << "of the row that the key has chosen";
     window.entryRow.DateField.SetFocus();
-    Key(Qt::Key_L, Qt::ControlModifier);
+    Type(u"{Ctrl+L}"_s);
     EXPECT_EQ(bookings.ListCount(), 2);
     Click(list, 1, 2);
-    Key(Qt::Key_L, Qt::ControlModifier);
-    Key(Qt::Key_L, Qt::ControlModifier);
+    Type(u"{Ctrl+L}{Ctrl+L}"_s);
     EXPECT_EQ(bookings.ListCount(), 1);
     EXPECT_EQ(RowCommands(), u"+++++"_s);
     Choose(u"PreferencesButton"_s);
@@ -103,7 +96,7 @@ TEST_F(CommandsTest, OfTheEditMenuActOnTheFocusedField) {
         {u"EditPaste"_s, u"abab"_s},   {u"EditUndo"_s, u"ab"_s}, {u"EditSelectAll"_s, u"ab"_s},
         {u"EditCopy"_s, u"ab"_s},      {u"EditClear"_s, u""_s}};
     for (const auto &[entry, text] : steps) {
-        Key(Qt::Key_B, Qt::AltModifier);
+        Type(u"{Alt+B}"_s);
         EXPECT_TRUE(Find<QAction>(entry).isEnabled()) << qPrintable(entry);
         Choose(entry);
         QApplication::activePopupWidget()->close();
@@ -119,7 +112,7 @@ TEST(MainWindowView, SavesWhatIsTypedHoweverTheProgramEnds) {
     const TerminationSignals endOfSession;
     const std::function<void(MainWindowView &)> ends[] = {
         [](MainWindowView &view) { view.close(); },
-        [](MainWindowView &view) { QTest::keyClick(&view, Qt::Key_Q, Qt::ControlModifier); },
+        [](MainWindowView &view) { Type(view.windowHandle(), u"{Ctrl+Q}"_s); },
         [](MainWindowView & /*view*/) { std::raise(SIGTERM); }};
     for (const auto &end : ends) {
         Book book;

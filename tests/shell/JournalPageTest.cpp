@@ -36,18 +36,13 @@ protected:
 
 TEST_F(JournalPageTest, BooksAReceiptAndAnExpenseByKeysAlone) {
     Open();
-    Key(Qt::Key_Return);
+    Type(u"\r"_s);
     EXPECT_TRUE(Shows(u"ErrorLabel"_s));
-    Type(u"0203\t119"_s);
-    Key(Qt::Key_Period, Qt::KeypadModifier);
-    EXPECT_EQ(row.InputField.Text(), u"119,"_s);
-    Type(u"5\t7\terl"_s); // The locked amount is passed over.
-    Key(Qt::Key_Down);
-    Key(Qt::Key_Down);
-    Type(u"\r"_s); // The Return that completes does not save.
+    // The number pad has no comma, the locked amount is passed over, and the Return that completes
+    // does not save.
+    Type(u"0203\t119{Num+.}5\t7\terl{Down}{Down}\r"_s);
     EXPECT_EQ(bookings.ListCount(), 0);
-    Type(u"\tR1\tbar\r"_s);
-    Type(u"+\t\t"_s); // The focus is back in the date.
+    Type(u"\tR1\tbar\r+\t\t"_s); // Return takes the focus back to the date.
     EXPECT_EQ(row.CategoryLabel.Text(), u"Art der Ausgabe"_s);
     Type(u"2.5\t\tfrei\r"_s);
     EXPECT_EQ(bookings.Cell(-1, -1),
@@ -98,7 +93,7 @@ TEST_F(JournalPageTest, TypedTextOfNoRowLeavesNoStaleRowBehind) {
     row.InputField.SetText(u"1"_s);
     QComboBox &menu = Menu(u"CategoryCombo"_s);
     menu.setFocus();
-    Key(Qt::Key_Down);
+    Type(u"{Down}"_s);
     ASSERT_EQ(category.ListIndex(), 0);
     Type(u"x"_s);
     EXPECT_EQ(category.ListIndex(), -1);
@@ -106,8 +101,8 @@ TEST_F(JournalPageTest, TypedTextOfNoRowLeavesNoStaleRowBehind) {
     menu.lineEdit()->selectAll();
     Type(u"19"_s);
     ASSERT_TRUE(menu.completer()->popup()->isVisible()) << "inside words";
-    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Tab}) {
-        Key(key);
+    for (const auto &key : {u"\x1b"_s, u"\t"_s}) {
+        Type(key);
         EXPECT_EQ(category.Text(), u"19"_s);
     }
     tax.SetFocus();
@@ -125,17 +120,15 @@ TEST_F(JournalPageTest, ShowsTheBookingsOfThePeriodThatTheKeysChoose) {
     book.Add({u"2025-02-10"_s, u"A"_s, u"1"_s});
     book.Add({.date = u"2025-02-11"_s, .type = u"E"_s, .amount = u"7"_s, .cashbook = u"2"_s});
     Open();
-    const std::tuple<QString, QList<Qt::Key>, QString, QString> steps[] = {
-        {u"MonthPopup"_s, {}, u"Alle Monate"_s, u"109,00\n106,50"_s},
-        {u"MonthPopup"_s, {Qt::Key_Down, Qt::Key_Down}, u"Februar"_s, u"106,50"_s},
-        {u"YearPopup"_s, {Qt::Key_Down}, u"2025"_s, u"99,00"_s},
-        {u"CashbookPopup"_s, {Qt::Key_End}, u"1010:Laden"_s, u"7,00"_s},
-        {u"MonthPopup"_s, {Qt::Key_D}, u"Dezember"_s, u""_s}};
+    const std::tuple<QString, QString, QString, QString> steps[] = {
+        {u"MonthPopup"_s, u""_s, u"Alle Monate"_s, u"109,00\n106,50"_s},
+        {u"MonthPopup"_s, u"{Down}{Down}"_s, u"Februar"_s, u"106,50"_s},
+        {u"YearPopup"_s, u"{Down}"_s, u"2025"_s, u"99,00"_s},
+        {u"CashbookPopup"_s, u"{End}"_s, u"1010:Laden"_s, u"7,00"_s},
+        {u"MonthPopup"_s, u"d"_s, u"Dezember"_s, u""_s}};
     for (const auto &[name, keys, text, balances] : steps) {
         Menu(name).setFocus();
-        for (const Qt::Key key : keys) {
-            Key(key);
-        }
+        Type(keys);
         EXPECT_EQ(Menu(name).currentText(), text);
         EXPECT_EQ(bookings.Cell(-1, Journal::Balance), balances);
     }
@@ -174,9 +167,9 @@ TEST_F(JournalPageTest, ShowsTheNewBookingInALongListAndKeepsThePlaceThroughARel
     window.selectors.MonthPopup.SetListIndex(0);
     QApplication::processEvents(); // The view lays out its rows.
     list.setFocus();
-    Key(Qt::Key_End);
+    Type(u"{End}"_s);
     EXPECT_TRUE(bookings.ListIndex() == 20000 && isShown(20000));
-    Key(Qt::Key_Up);
+    Type(u"{Up}"_s);
     EXPECT_EQ(bookings.ListIndex(), 19999);
 
     list.verticalScrollBar()->setValue(12345);

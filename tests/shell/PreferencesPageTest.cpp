@@ -49,8 +49,7 @@ TEST_F(PreferencesPageTest, OpensACellWithAClickAndWritesItAsToldByTheKeys) {
     EXPECT_EQ(QApplication::focusWidget()->accessibleName(), u"Kontonummer"_s);
     Type(u"99\x1b"_s); // Escape.
     EXPECT_EQ(Accounts(), u"bbb21E1 c10A0"_s);
-    Key(Qt::Key_F2);
-    Type(u"d"_s);
+    Type(u"{F2}d"_s);
     Click(&view, {5, view.height() - 5}); // On nothing.
     EXPECT_EQ(Accounts(), u"bbb21E1 d10A0"_s);
     EXPECT_EQ(window.bookingAccounts.CashaccountList.EditedRow(), -1);
@@ -62,8 +61,7 @@ TEST_F(PreferencesPageTest, OpensACellWithAClickAndWritesItAsToldByTheKeys) {
 
 TEST_F(PreferencesPageTest, ChecksChoosesAndSortsByClicks) {
     Click(accounts, 0, BookingAccounts::Active);
-    Key(Qt::Key_Down);
-    Key(Qt::Key_Space);
+    Type(u"{Down} "_s);
     EXPECT_EQ(Accounts(), u"b20E0 c10A1"_s);
     book.desktop.menuChoice = 1;
     Click(accounts, 0, BookingAccounts::Kind);
@@ -115,19 +113,14 @@ TEST_F(PreferencesPageTest, AddsAndRemovesWhileACellIsOpen) {
 
 TEST_F(PreferencesPageTest, WorksByTheKeysAloneAndIsReadByAssistiveTools) {
     accounts.setFocus();
-    Key(Qt::Key_Home);
-    Key(Qt::Key_F10, Qt::ShiftModifier);
-    Key(Qt::Key_Down);
-    Key(Qt::Key_Down);
-    Type(u"\r"_s);
+    Type(u"{Home}{Shift+F10}{Down}{Down}\r"_s);
     EXPECT_EQ(Accounts(), u"b20A1 c10A0"_s);
-    Key(Qt::Key_Insert);
-    Type(u"a\r"_s);
+    Type(u"{Ins}a\r"_s);
     auto &list = *QAccessible::queryAccessibleInterface(&accounts)->tableInterface();
     ASSERT_EQ(list.rowCount(), 3);
     EXPECT_EQ(list.cellAt(2, 0)->text(QAccessible::Name), u"a"_s);
     EXPECT_EQ(list.columnDescription(3) + list.cellAt(2, 3)->text(QAccessible::Name), u"Aktivja"_s);
-    Key(Qt::Key_Delete);
+    Type(u"{Del}"_s);
     EXPECT_EQ(list.rowCount(), 2);
     Type(u"\t \t"_s); // Space on the plus of the cash books, which opens the new name.
     EXPECT_EQ(CashBooks(), u"Kasse 1000 100.0, Nebenkasse 0 1010 0.0"_s);

@@ -68,20 +68,19 @@ TEST_F(FirstStartTest, LeadsFromTheWelcomeWindowIntoTheSampleBook) {
 
 TEST_F(FirstStartTest, LeadsByTheKeysToABookOfOnesOwn) {
     const auto *pages = welcome->findChild<QStackedWidget *>(u"PagePanel1"_s);
-    Type(*welcome, u"\r"_s);
+    Type(welcome->windowHandle(), u"\r"_s);
     ASSERT_TRUE(welcome->focusWidget());
     EXPECT_EQ(welcome->focusWidget()->objectName(), u"CompanyField"_s);
-    EXPECT_EQ(Boxes([&] { Type(*welcome, u"\r"_s); }),
+    EXPECT_EQ(Boxes([&] { Type(welcome->windowHandle(), u"\r"_s); }),
               QStringList(u"Bitte geben Sie einen Firmannamen an"_s));
-    Type(*welcome, u"Peter's\r"_s);
+    Type(welcome->windowHandle(), u"Peter's\r"_s);
     EXPECT_EQ(pages->currentIndex(), 2);
-    Type(*welcome, u"\x1b"_s);
+    Type(welcome->windowHandle(), u"\x1b"_s);
     EXPECT_EQ(pages->currentIndex(), 1);
-    Type(*welcome, u"\r"_s);
-    QTest::keyClick(welcome->windowHandle(), Qt::Key_Down);
-    EXPECT_EQ(Boxes([&] { Type(*welcome, u"\r"_s); }).size(), 1);
+    Type(welcome->windowHandle(), u"\r{Down}"_s);
+    EXPECT_EQ(Boxes([&] { Type(welcome->windowHandle(), u"\r"_s); }).size(), 1);
     EXPECT_TRUE(app.DefaultDatabaseFile().Exists());
-    Type(*welcome, u"\x1b\b\b\r\r"_s);
+    Type(welcome->windowHandle(), u"\x1b\b\b\r\r"_s);
     EXPECT_FALSE(ShownWindow(u"WelcomeWindow"_s));
     EXPECT_TRUE(ShownWindow(u"MainWindow"_s));
     app.NewDatabase();
@@ -107,7 +106,7 @@ TEST(Windows, CloseOnAFailedCreationWithoutItsFile) {
     QTest::mouseMove(view.windowHandle(), {600, 200});
     QTest::mouseMove(view.windowHandle(), {700, 250});
     EXPECT_TRUE(QTest::qWaitFor([&] { return view.grab().toImage() != plain; }));
-    Type(view, u"\t "_s); // From the new book to the manual.
+    Type(view.windowHandle(), u"\t "_s); // From the new book to the manual.
     welcome.AccountNameField.SetText(u"'"_s);
     welcome.SaveButton.Press();
     EXPECT_EQ(book.desktop.messages.size(), 1);
