@@ -33,7 +33,6 @@ TEST_F(JournalTest, ListsWhateverTheBookHoldsInOrderOfDateAndEntry) {
     book.Add({u"2027-01-01"_s, u"E"_s, u"1"_s});
     window.selectors.GetJournalYears();
     EXPECT_EQ(window.balances.OpeningBalanceLabel.Text(), u"2123,51"_s);
-    EXPECT_EQ(messages, QStringList());
 }
 
 TEST_F(JournalTest, StaysAsItWasWhenTheQueryFails) {
@@ -42,9 +41,8 @@ TEST_F(JournalTest, StaysAsItWasWhenTheQueryFails) {
     const QString before = bookings.Cell(-1, -1);
     book.Run(u"DROP TABLE cash_journal"_s);
     window.journal.LoadJournal();
-    EXPECT_EQ(messages, QStringList());
     window.balances.ReCalcAmount();
-    EXPECT_EQ(messages, QStringList(u"DB Error: no such table: cash_journal"_s));
+    EXPECT_EQ(book.desktop.TakeMessages(), u"DB Error: no such table: cash_journal"_s);
     EXPECT_EQ(bookings.Cell(-1, -1), before);
     EXPECT_EQ(window.balances.LastAmountLabel.Text(), u"112,50"_s);
 }
@@ -61,7 +59,6 @@ TEST_F(JournalTest, TakesTheFirstCashBookForTheMainOneWhateverItsTag) {
     EXPECT_EQ(bookings.Cell(-1, Journal::Balance), u"10,50"_s);
     EXPECT_FALSE(window.balances.GetOpeningDate());
     EXPECT_EQ(window.balances.GetOpeningBalance(8), Currency());
-    EXPECT_EQ(messages, QStringList());
 }
 
 } // namespace

@@ -7,8 +7,6 @@
 
 #include <QDir>
 #include <QFileDialog>
-#include <QLabel>
-#include <QPushButton>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -28,11 +26,8 @@ protected:
         AnswerModalWindows(action, [&](QWidget &box) {
             EXPECT_EQ(box.parentWidget(), &window);
             titles.append(box.windowTitle());
-            for (const QPushButton *button : box.findChildren<QPushButton *>()) {
-                texts.append(button->text());
-            }
-            for (const QLabel *label : box.findChildren<QLabel *>()) {
-                texts.append(label->text());
+            for (const QWidget *child : box.findChildren<QWidget *>()) {
+                texts.append(child->property("text").toString());
             }
             QTest::keyClick(&box, key);
         });

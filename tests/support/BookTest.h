@@ -10,7 +10,6 @@ protected:
     explicit BookTest(Book::Place place = Book::Place::Memory) : book(place) {}
 
     Book book;
-    QStringList &messages = book.desktop.messages;
     MainWindow window{book.app};
     Listbox &bookings = window.journal.CashList;
 };

@@ -102,7 +102,7 @@ TEST(SQLiteDatabase, WaitsForAnotherProgramButNotForEver) {
     };
     other.SQLExecute(u"BEGIN EXCLUSIVE"_s);
     book.app.kvoDB().SQLExecute(u"UPDATE cash_book SET name = 'zu früh'"_s);
-    EXPECT_TRUE(book.app.ReportError());
+    EXPECT_EQ(book.app.kvoDB().ErrorMessage(), u"database is locked"_s);
     std::jthread release(letGo);
     book.Run(u"UPDATE cash_book SET name = 'Laden'"_s);
     release.join();
