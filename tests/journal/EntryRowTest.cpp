@@ -47,20 +47,16 @@ TEST_F(EntryRowTest, WritesEveryColumnOfAReceiptAndOfAnExpense) {
 }
 
 TEST_F(EntryRowTest, KeepsAnyAmountAsTypedAndShowsTheNumberAtItsStart) {
-    const std::tuple<QString, QString, QString> cases[] = {
-        {u"12.50"_s, u"12.50 real"_s, u"12,50 112,50"_s},
-        {u"0"_s, u"0 real"_s, u"0,00 100,00"_s},
-        {u"-5"_s, u"-5 real"_s, u"-5,00 95,00"_s},
-        {u"1,234,50"_s, u"1.234,50 text"_s, u"1,23 101,23"_s},
-        {u"1.234,56"_s, u"1.234.56 text"_s, u"1,23 101,23"_s},
-        {u"zwölf"_s, u"zwölf text"_s, u"0,00 100,00"_s},
-        {u" 7 EUR"_s, u" 7 EUR text"_s, u"7,00 107,00"_s},
-    };
-    for (const auto &[typed, stored, shown] : cases) {
-        Submit(typed);
-        EXPECT_EQ(Columns(u"input || ' ' || typeof(amount)"_s), stored);
+    const QString cases =
+        u"12.50=12.50 real=12,50 112,50|0=0 real=0,00 100,00|-5=-5 real=-5,00 95,00|"
+        "1,234,50=1.234,50 text=1,23 101,23|1.234,56=1.234.56 text=1,23 101,23|"
+        "zwölf=zwölf text=0,00 100,00| 7 EUR= 7 EUR text=7,00 107,00"_s;
+    for (const QString &each : cases.split(u'|')) {
+        const QStringList texts = each.split(u'=');
+        Submit(texts[0]);
+        EXPECT_EQ(Columns(u"input || ' ' || typeof(amount)"_s), texts[1]);
         EXPECT_EQ(bookings.Cell(-1, Journal::Input) + u' ' + bookings.Cell(-1, Journal::Balance),
-                  shown);
+                  texts[2]);
         book.Run(u"DELETE FROM cash_journal"_s);
     }
     Submit(QString(1000000, u'9'));

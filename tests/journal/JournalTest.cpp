@@ -41,7 +41,10 @@ TEST_F(JournalTest, StaysAsItWasWhenTheQueryFails) {
     const QString before = bookings.Cell(-1, -1);
     book.Run(u"DROP TABLE cash_journal"_s);
     window.journal.LoadJournal();
+    EXPECT_EQ(book.desktop.TakeMessages(), QString());
     window.balances.ReCalcAmount();
+    EXPECT_EQ(book.desktop.TakeMessages(), u"DB Error: no such table: cash_journal"_s);
+    EXPECT_EQ(window.balances.CalcAmount(u"E"_s), u""_s);
     EXPECT_EQ(book.desktop.TakeMessages(), u"DB Error: no such table: cash_journal"_s);
     EXPECT_EQ(bookings.Cell(-1, -1), before);
     EXPECT_EQ(window.balances.LastAmountLabel.Text(), u"112,50"_s);

@@ -34,7 +34,7 @@ TEST(TLXCanvasButton, ShowsWhetherTheMouseIsOverIt) {
     EXPECT_EQ(Painted(button), plain);
 }
 
-TEST(TLXPlusMinusButton, DrawsTwoHalvesAndShadesTheOneHeldDown) {
+TEST(TLXPlusMinusButton, DrawsTwoHalvesAndCountsAPressWhereItIsReleased) {
     TLXPlusMinusButton button(u"CashBookAdd"_s);
     button.FillColor = Color{0xC0C0C0};
     button.SetSize(60, 29);
@@ -49,10 +49,7 @@ TEST(TLXPlusMinusButton, DrawsTwoHalvesAndShadesTheOneHeldDown) {
     EXPECT_EQ(Painted(button), plain);
     button.SetSize(31, 100);
     EXPECT_TRUE(Painted(button).startsWith(u"cccccc rect 0 0 14 15, rect 16 0 15 15, "_s));
-}
 
-TEST(TLXPlusMinusButton, CountsAPressWhereItIsReleased) {
-    TLXPlusMinusButton button(u"CashBookAdd"_s);
     button.SetSize(100, 29);
     Painted(button);
     const QSignalSpy plus(&button, &TLXPlusMinusButton::PlusPressed);

@@ -76,10 +76,6 @@ TEST_F(PreferencesPageTest, ChecksChoosesAndSortsByClicks) {
     }
     Click(accounts.viewport(), {50, 200}); // Below the last row: the selection stays.
     EXPECT_EQ(accounts.selectionModel()->selectedRows().size(), 1);
-    FlipPage();
-    window.entryRow.OutputField.SetText(u"1"_s); // An expense is offered what is active and "A".
-    EXPECT_EQ(window.entryRow.pickLists.CategoryCombo.List(0), u"c"_s);
-    EXPECT_EQ(window.entryRow.pickLists.CategoryCombo.ListCount(), 1);
 }
 
 TEST_F(PreferencesPageTest, AddsAndRemovesWhileACellIsOpen) {
