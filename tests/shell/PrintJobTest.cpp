@@ -34,20 +34,19 @@ protected:
     /// What poppler's reader finds: on each page the words and the points of their left and bottom.
     QString Read() const {
         QProcess reader;
-        reader.start(u"pdftotext"_s, {u"-tsv"_s, path, u"-"_s});
+        reader.start(u"pdftotext"_s, {u"-bbox"_s, path, u"-"_s});
         EXPECT_TRUE(reader.waitForFinished());
+        static const QRegularExpression word(
+            u"<page|xMin=\"([\\d.]+)\".*yMax=\"([\\d.]+)\">(.*)<"_s);
         QStringList found;
-        const QString table = QString::fromUtf8(reader.readAllStandardOutput());
-        for (const QString &line : table.split(u'\n')) {
-            const QStringList cells = line.split(u'\t');
-            const auto points = [&cells](int column) { return cells.value(column).toDouble(); };
-            if (cells.last() == u"###PAGE###") {
-                found.append(u"|"_s);
-            } else if (points(0) == 5) { // A word.
-                found.append(u"%1 %2 %3"_s.arg(cells.last())
-                                 .arg(qRound(points(6)))
-                                 .arg(qRound(points(7) + points(9))));
-            }
+        const QString xml = QString::fromUtf8(reader.readAllStandardOutput());
+        for (auto match = word.globalMatch(xml); match.hasNext();) {
+            const QRegularExpressionMatch each = match.next();
+            found.append(each.captured(3).isEmpty()
+                             ? u"|"_s
+                             : u"%1 %2 %3"_s.arg(each.captured(3))
+                                   .arg(qRound(each.captured(1).toDouble()))
+                                   .arg(qRound(each.captured(2).toDouble())));
         }
         return found.join(u' ');
     }
