@@ -24,8 +24,8 @@ protected:
     template <typename Action>
     void Press(Qt::Key key, const Action &action) {
         AnswerModalWindows(action, [&](QWidget &box) {
-            EXPECT_EQ(box.parentWidget(), &window);
             titles.append(box.windowTitle());
+            EXPECT_EQ(box.parentWidget(), &window);
             for (const QWidget *child : box.findChildren<QWidget *>()) {
                 texts.append(child->property("text").toString());
             }
