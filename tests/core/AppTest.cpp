@@ -17,9 +17,9 @@ TEST(App, LoadsTheDefaultFileOfItsDesktop) {
     EXPECT_EQ(book.Value(nameOfTheBook), u"Kasse"_s);
     ASSERT_TRUE(QFile::remove(book.app.DefaultDatabaseFile().Path()));
     EXPECT_FALSE(book.app.DBLoad());
-    EXPECT_EQ(book.desktop.messages, QStringList());
     EXPECT_FALSE(book.app.kvoDB().SQLSelect(nameOfTheBook));
     EXPECT_TRUE(book.app.ReportError());
+    EXPECT_EQ(book.desktop.TakeMessages(), u"DB Error: Es ist keine Datenbank geöffnet."_s);
 }
 
 TEST(App, OpensAChosenFileWithoutAKeyAndKeepsTheBookOnACancel) {
@@ -28,20 +28,18 @@ TEST(App, OpensAChosenFileWithoutAKeyAndKeepsTheBookOnACancel) {
     book.desktop.fileToOpen = FolderItem(book.desktop.Path(u"plain"_s));
     EXPECT_FALSE(book.app.DBLoad1());
     EXPECT_EQ(book.Value(nameOfTheBook), u"Kasse"_s);
-    {
-        SQLiteDatabase plain;
-        plain.SetDatabaseFile(*book.desktop.fileToOpen);
-        ASSERT_TRUE(plain.CreateDatabaseFile());
-        plain.SQLExecute(u"CREATE TABLE cash_book AS SELECT 'offen' AS name"_s);
-    }
+    SQLiteDatabase plain;
+    plain.SetDatabaseFile(*book.desktop.fileToOpen);
+    ASSERT_TRUE(plain.CreateDatabaseFile());
+    plain.SQLExecute(u"CREATE TABLE cash_book AS SELECT 'offen' AS name"_s);
     ASSERT_TRUE(book.app.DBLoad1());
     book.app.Connect();
     EXPECT_EQ(book.Value(nameOfTheBook), u"offen"_s);
     book.desktop.fileToOpen = book.app.DefaultDatabaseFile();
     ASSERT_TRUE(book.app.DBLoad1());
     book.app.Connect();
-    EXPECT_EQ(book.desktop.messages,
-              QStringList(u"DB Connection Error: "_s + book.app.kvoDB().ErrorMessage()));
+    EXPECT_EQ(book.desktop.TakeMessages(),
+              u"DB Connection Error: "_s + book.app.kvoDB().ErrorMessage());
 }
 
 } // namespace

@@ -1,12 +1,12 @@
-#include "shell/MainWindow.h"
-#include "support/Book.h"
+#include "support/BookTest.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(Journal, ListsWhateverTheBookHoldsInOrderOfDateAndEntry) {
-    Book book;
+using JournalTest = BookTest;
+
+TEST_F(JournalTest, ListsWhateverTheBookHoldsInOrderOfDateAndEntry) {
     book.Add({u"2026-03-15"_s, u"E"_s, u"10"_s, u"0"_s, u"Privateinlagen"_s});
     book.Add({u"2026-01-31"_s, u"e"_s, u"12,50"_s, u"3"_s, u"Erlöse"_s, u"1"_s, u"8400"_s, u"07"_s,
               u"a\nb"_s});
@@ -18,56 +18,50 @@ TEST(Journal, ListsWhateverTheBookHoldsInOrderOfDateAndEntry) {
     book.Add({u"2026-03-15"_s, u"E"_s, u"1000"_s, u"99"_s, u"Steuer unbekannt"_s});
     book.Add({u"2026-03-15"_s, u"E"_s, u"1000"_s, u"3"_s, u"Nebenkasse"_s, u"2"_s});
     book.Add({u"2025-03-15"_s, u"E"_s, u"1000"_s, u"3"_s, u"Vorjahr"_s});
-    MainWindow window(book.app);
     window.Event_Open();
-    const Listbox &list = window.journal.CashList;
-    EXPECT_EQ(list.Cell(-1, -1), u"2026-02-30\t\t-1,01\t19% VSt.\tkein Tag\t\t\t1101,01\n"
-                                 "02.01.2026\t\t0,00\t19% VSt.\tkeine Zahl\t\t\t1101,01\n"
-                                 "31.01.2026\t12,50\t\t19% USt.\tErlöse\t07\ta\nb\t1113,51\n"
-                                 "15.03.2026\t10,00\t\tkeine\tPrivateinlagen\t\t\t1123,51\n"
-                                 "15.03.2026\t\t5,00\t7% VSt.\t\t\t\t1118,51\n"
-                                 "15.03.2026\t\t0,00\tkeine\t\t\t\t1118,51"_s);
-    EXPECT_EQ(list.RowTag(2), u"2"_s);
-    EXPECT_EQ(list.CellTag(2, Journal::DateColumn), Listbox::Tag(Date(QDate(2026, 1, 31))));
-    EXPECT_EQ(list.CellTag(2, Journal::Tax), Listbox::Tag(u"3"_s));
-    EXPECT_EQ(list.CellTag(2, Journal::Category), Listbox::Tag(u"8400"_s));
+    EXPECT_EQ(bookings.Cell(-1, -1), u"2026-02-30\t\t-1,01\t19% VSt.\tkein Tag\t\t\t1101,01\n"
+                                     "02.01.2026\t\t0,00\t19% VSt.\tkeine Zahl\t\t\t1101,01\n"
+                                     "31.01.2026\t12,50\t\t19% USt.\tErlöse\t07\ta\nb\t1113,51\n"
+                                     "15.03.2026\t10,00\t\tkeine\tPrivateinlagen\t\t\t1123,51\n"
+                                     "15.03.2026\t\t5,00\t7% VSt.\t\t\t\t1118,51\n"
+                                     "15.03.2026\t\t0,00\tkeine\t\t\t\t1118,51"_s);
+    EXPECT_EQ(bookings.RowTag(2), u"2"_s);
+    EXPECT_EQ(bookings.CellTag(2, Journal::DateColumn), Listbox::Tag(Date(QDate(2026, 1, 31))));
+    EXPECT_EQ(bookings.CellTag(2, Journal::Tax), Listbox::Tag(u"3"_s));
+    EXPECT_EQ(bookings.CellTag(2, Journal::Category), Listbox::Tag(u"8400"_s));
     // What the list leaves out counts all the same; a type that is none counts nowhere.
     book.Add({u"2027-01-01"_s, u"E"_s, u"1"_s});
     window.selectors.GetJournalYears();
     EXPECT_EQ(window.balances.OpeningBalanceLabel.Text(), u"2123,51"_s);
-    EXPECT_EQ(book.desktop.messages, QStringList());
 }
 
-TEST(Journal, StaysAsItWasWhenTheQueryFails) {
-    Book book;
+TEST_F(JournalTest, StaysAsItWasWhenTheQueryFails) {
     book.Add({u"2026-01-31"_s, u"E"_s, u"12.50"_s});
-    MainWindow window(book.app);
     window.Event_Open();
-    const QString before = window.journal.CashList.Cell(-1, -1);
+    const QString before = bookings.Cell(-1, -1);
     book.Run(u"DROP TABLE cash_journal"_s);
     window.journal.LoadJournal();
-    EXPECT_EQ(book.desktop.messages, QStringList());
+    EXPECT_EQ(book.desktop.TakeMessages(), QString());
     window.balances.ReCalcAmount();
-    EXPECT_EQ(book.desktop.messages, QStringList(u"DB Error: no such table: cash_journal"_s));
-    EXPECT_EQ(window.journal.CashList.Cell(-1, -1), before);
+    EXPECT_EQ(book.desktop.TakeMessages(), u"DB Error: no such table: cash_journal"_s);
+    EXPECT_EQ(window.balances.CalcAmount(u"E"_s), u""_s);
+    EXPECT_EQ(book.desktop.TakeMessages(), u"DB Error: no such table: cash_journal"_s);
+    EXPECT_EQ(bookings.Cell(-1, -1), before);
     EXPECT_EQ(window.balances.LastAmountLabel.Text(), u"112,50"_s);
 }
 
-TEST(Journal, TakesTheFirstCashBookForTheMainOneWhateverItsTag) {
-    Book book;
+TEST_F(JournalTest, TakesTheFirstCashBookForTheMainOneWhateverItsTag) {
     book.Run(u"UPDATE cash_book SET id = 7"_s);
     book.Run(u"INSERT INTO cash_book VALUES (9, 'Laden', '1010', '12,50', 'bald', NULL)"_s);
     book.Add({u"2026-01-01"_s, u"E"_s, u"1"_s});
     book.Add({.date = u"2026-01-02"_s, .type = u"A"_s, .amount = u"2"_s, .cashbook = u"9"_s});
-    MainWindow window(book.app);
     window.Event_Open();
-    EXPECT_EQ(window.journal.CashList.Cell(-1, Journal::Balance), u"101,00"_s);
+    EXPECT_EQ(bookings.Cell(-1, Journal::Balance), u"101,00"_s);
     EXPECT_EQ(window.balances.GetOpeningDate(), std::optional(Date(QDate(2026, 1, 1))));
     window.selectors.CashbookPopup.SetListIndex(1);
-    EXPECT_EQ(window.journal.CashList.Cell(-1, Journal::Balance), u"10,50"_s);
+    EXPECT_EQ(bookings.Cell(-1, Journal::Balance), u"10,50"_s);
     EXPECT_FALSE(window.balances.GetOpeningDate());
     EXPECT_EQ(window.balances.GetOpeningBalance(8), Currency());
-    EXPECT_EQ(book.desktop.messages, QStringList());
 }
 
 } // namespace

@@ -29,8 +29,9 @@ protected:
 };
 
 TEST_F(BookingAccountsTest, ListsThemByNameAndSortsByTheCheckBothWays) {
-    EXPECT_EQ(list.Cell(-1, -1), u"A\t\tE\t\nb\t4711\tE\t\nölig\t0815\tA\t"_s);
-    EXPECT_EQ(list.Heading(-1), u"Bezeichnung\tKontonummer\tArt\tAktiv"_s);
+    EXPECT_EQ(list.Heading(-1) + u'\n' + list.Cell(-1, -1),
+              u"Bezeichnung\tKontonummer\tArt\tAktiv\n"
+              "A\t\tE\t\nb\t4711\tE\t\nölig\t0815\tA\t"_s);
     for (const auto &names : {u"A\nb\nölig"_s, u"ölig\nA\nb"_s}) {
         list.PressHeading(BookingAccounts::Active);
         EXPECT_EQ(list.Cell(-1, BookingAccounts::Name), names);
@@ -40,11 +41,7 @@ TEST_F(BookingAccountsTest, ListsThemByNameAndSortsByTheCheckBothWays) {
 }
 
 TEST_F(BookingAccountsTest, WritesTextsAndChecksAtOnceAndLeavesTheRestAlone) {
-    bool handled = false;
-    Q_EMIT list.CellClick(1, BookingAccounts::Active, handled);
-    EXPECT_FALSE(handled);
-    Q_EMIT list.CellClick(0, BookingAccounts::Account, handled);
-    EXPECT_TRUE(handled);
+    list.EditCell(0, BookingAccounts::Account);
     for (const auto &text : {u"0042"_s, u"Ö'; \"x\""_s, u"0043"_s}) {
         list.SetEditText(text);
         Q_EMIT list.CellKeyDown(list.EditedRow(), list.EditedColumn(), u'\t');
@@ -79,24 +76,16 @@ TEST_F(BookingAccountsTest, ChoosesTheKindFromAMenu) {
 }
 
 TEST_F(BookingAccountsTest, PlusOpensTheNewNameAtItsPlaceAndMinusRemoves) {
-    Q_EMIT button.MinusPressed(); // Nothing is selected.
     list.EditCell(0, BookingAccounts::Name);
     list.SetEditText(u"Zins"_s);
     Q_EMIT button.PlusPressed();
-    Q_EMIT button.PlusPressed();
     EXPECT_EQ(list.Cell(list.EditedRow(), list.EditedColumn()), u"Neues Konto"_s);
-    EXPECT_EQ(list.Cell(-1, BookingAccounts::Name), u"b\nNeues Konto\nNeues Konto\nZins\nölig"_s);
-    EXPECT_EQ(Stored(u"name || type || active"_s),
-              u"öligA1 bE0 NULL Neues KontoE1 Neues KontoE1"_s);
-    list.SetListIndex(4);
+    EXPECT_EQ(list.Cell(-1, BookingAccounts::Name), u"b\nNeues Konto\nZins\nölig"_s);
+    EXPECT_EQ(Stored(u"name || type || active"_s), u"öligA1 bE0 NULL Neues KontoE1"_s);
+    list.SetListIndex(3);
     Q_EMIT button.MinusPressed();
     Q_EMIT button.MinusPressed(); // The row above is selected now.
-    EXPECT_EQ(Stored(u"name || ifnull(account, '')"_s), u"b4711 Neues Konto Neues Konto"_s);
-    EXPECT_EQ(book.desktop.messages, QStringList());
-    book.app.NewDatabase();
-    accounts.LoadCashAccounts();
-    EXPECT_EQ(list.ListCount(), 3);
-    EXPECT_EQ(book.desktop.messages.filter(u"DB Error: "_s).size(), 1);
+    EXPECT_EQ(Stored(u"name || ifnull(account, '')"_s), u"b4711 Neues Konto"_s);
 }
 
 } // namespace

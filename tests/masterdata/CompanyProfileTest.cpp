@@ -14,35 +14,27 @@ TEST(CompanyProfile, WritesEachFieldIntoItsColumnAndReadsItBack) {
     EXPECT_EQ(profile.CompanyField.Text() + profile.AccountFrameCombo.Text(), u"MusterSKR-03"_s);
     EXPECT_EQ(profile.CurrencyCombo.Text(), u"EUR"_s);
     EXPECT_EQ(profile.CountryCombo.ListIndex(), -1);
-    const std::pair<TextField &, QString> fields[] = {{profile.CompanyField, u"company"_s},
-                                                      {profile.DepartmentField, u"department"_s},
-                                                      {profile.FirstnameField, u"firstname"_s},
-                                                      {profile.LastnameField, u"lastname"_s},
-                                                      {profile.StreetField, u"street"_s},
-                                                      {profile.ZipField, u"zipcode"_s},
-                                                      {profile.CityField, u"city"_s},
-                                                      {profile.PhoneField, u"phone"_s},
-                                                      {profile.FaxField, u"fax"_s},
-                                                      {profile.EMailField, u"email"_s},
-                                                      {profile.HomepageField, u"website"_s},
-                                                      {profile.UIDField, u"ustid"_s}};
-    for (const auto &[field, column] : fields) {
-        profile.LoadFields();
+    TextField *const fields[] = {
+        &profile.CompanyField,  &profile.DepartmentField, &profile.FirstnameField,
+        &profile.LastnameField, &profile.StreetField,     &profile.ZipField,
+        &profile.CityField,     &profile.PhoneField,      &profile.FaxField,
+        &profile.EMailField,    &profile.HomepageField,   &profile.UIDField};
+    auto field = std::begin(fields);
+    for (const QString &column : u"company department firstname lastname street zipcode city phone "
+                                 "fax email website ustid"_s.split(u' ')) {
+        const QString typed = u" 'Müßig' "_s + column;
         EXPECT_FALSE(profile.RecordChange());
-        field.SetText(u" 'Müßig' "_s + column);
+        (*field)->SetText(typed);
         EXPECT_TRUE(profile.RecordChange()) << qPrintable(column);
         profile.SaveFields();
-        EXPECT_EQ(book.Value(u"SELECT %1 FROM core_company"_s.arg(column)), field.Text());
-    }
-    EXPECT_TRUE(profile.RecordChange());
-    profile.LoadFields();
-    for (const auto &[field, column] : fields) {
-        EXPECT_EQ(field.Text(), u" 'Müßig' "_s + column);
+        EXPECT_EQ(book.Value(u"SELECT %1 FROM core_company"_s.arg(column)), typed);
+        (*field)->SetText({});
+        profile.LoadFields();
+        EXPECT_EQ((*field++)->Text(), typed);
     }
     EXPECT_EQ(book.Value(u"SELECT id || account_frame || countryID || taxnumber || "
                          "(SELECT count(*) FROM core_company) FROM core_company"_s),
               u"1SKR-034971"_s);
-    EXPECT_EQ(book.desktop.messages, QStringList());
 }
 
 TEST(CompanyProfile, TellsWhatFailsAndKeepsWhatWasTyped) {
@@ -61,7 +53,7 @@ TEST(CompanyProfile, TellsWhatFailsAndKeepsWhatWasTyped) {
     profile.SaveFields();
     EXPECT_EQ(profile.CityField.Text(), u"Köln"_s);
     EXPECT_TRUE(profile.RecordChange());
-    EXPECT_EQ(book.desktop.messages.filter(u"DB Error: "_s).size(), 4);
+    EXPECT_EQ(book.desktop.TakeMessages().count(u"DB Error: "_s), 4);
 }
 
 } // namespace

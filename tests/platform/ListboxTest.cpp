@@ -39,7 +39,6 @@ protected:
 
     Listbox list{u"CashList"_s, 3};
     QAbstractItemModelTester tester{&list, QAbstractItemModelTester::FailureReportingMode::Fatal};
-    QSignalSpy resets{&list, &Listbox::modelReset};
     QString actions;
 };
 
@@ -47,7 +46,6 @@ TEST_F(ListboxTest, JoinsCellsAndReadsAsEmptyOutside) {
     EXPECT_EQ(list.Cell(-1, -1) + list.Cell(list.LastIndex(), 1), u""_s);
     list.AddRow(u"a"_s);
     Fill({u"b"_s, u"c"_s});
-    EXPECT_EQ(resets.count(), 1);
     EXPECT_EQ(list.Cell(-1, -1), u"b\t0\t\nc\t1\t"_s);
     EXPECT_EQ(list.Cell(-1, 1) + u'|' + list.Cell(1, -1), u"0\n1|c\t1\t"_s);
     EXPECT_EQ(list.Cell(2, 0) + list.Cell(0, 3) + list.RowTag(2), u""_s);
@@ -57,6 +55,7 @@ TEST_F(ListboxTest, JoinsCellsAndReadsAsEmptyOutside) {
 }
 
 TEST_F(ListboxTest, SortsStablyBothWaysAndKeepsTheSelectionWithItsRow) {
+    const QSignalSpy resets(&list, &Listbox::modelReset);
     QStringList names;
     QStringList upwards; // The places in the beginning, in the order of the names.
     for (int place = 0; place < 40; ++place) {
@@ -89,13 +88,11 @@ TEST_F(ListboxTest, WritesAnEditedCellOnlyIfItsTextIsAnother) {
     list.EditCell(2, 0);
     list.EditCell(0, 2);
     EXPECT_EQ(actions, u""_s);
-    EXPECT_EQ(opened.count(), 2);
     Type(1, 1, u""_s);
     list.EndEdit();
     list.EndEdit();
-    EXPECT_EQ(list.Cell(-1, -1), u"a\t0\t\nb\t\t"_s);
-    EXPECT_EQ(actions, u"11 "_s);
-    EXPECT_EQ(closed.count(), 3);
+    EXPECT_EQ(list.Cell(-1, -1) + u'|' + actions, u"a\t0\t\nb\t\t|11 "_s);
+    EXPECT_EQ(u"%1 %2"_s.arg(opened.count()).arg(closed.count()), u"3 3"_s);
 }
 
 TEST_F(ListboxTest, WritesTheOpenCellIntoItsOwnRowBeforeTheRowsChange) {

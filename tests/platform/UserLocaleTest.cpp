@@ -6,27 +6,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const UserLocale german(QLocale(QLocale::German, QLocale::Germany));
-
 TEST(UserLocale, RoundsHalfAwayFromZeroOnTheShortestText) {
-    const std::tuple<double, QString, QString> cases[] = {
-        {0, u"0,00"_s, u",00"_s},
-        {0.5, u"0,50"_s, u",50"_s},
-        {-0.5, u"-0,50"_s, u"-,50"_s},
-        {-0.004, u"0,00"_s, u",00"_s},
-        {-0.005, u"-0,01"_s, u"-,01"_s},
-        {1.005, u"1,01"_s, u"1,01"_s},
-        {2.675, u"2,68"_s, u"2,68"_s},
-        {999.995, u"1000,00"_s, u"1000,00"_s},
-        {0.995, u"1,00"_s, u"1,00"_s},
-        {10, u"10,00"_s, u"10,00"_s},
-        {1234567.891, u"1234567,89"_s, u"1234567,89"_s},
-        {1e15, u"1000000000000000,00"_s, u"1000000000000000,00"_s},
-        {5e-324, u"0,00"_s, u",00"_s},
-    };
-    for (const auto &[value, amount, balance] : cases) {
-        EXPECT_EQ(german.FormatAmount(value), amount);
-        EXPECT_EQ(german.FormatBalance(value), balance);
+    const UserLocale german(QLocale(QLocale::German, QLocale::Germany));
+    // A number, as an amount and as a balance.
+    const QString cases =
+        u"0=0,00 ,00|0.5=0,50 ,50|-0.5=-0,50 -,50|-0.004=0,00 ,00|-0.005=-0,01 -,01|"
+        "1.005=1,01 1,01|2.675=2,68 2,68|999.995=1000,00 1000,00|0.995=1,00 1,00|"
+        "10=10,00 10,00|1234567.891=1234567,89 1234567,89|5e-324=0,00 ,00|"
+        "1e15=1000000000000000,00 1000000000000000,00"_s;
+    for (const QString &each : cases.split(u'|')) {
+        const double value = each.section(u'=', 0, 0).toDouble();
+        EXPECT_EQ(german.FormatAmount(value) + u' ' + german.FormatBalance(value),
+                  each.section(u'=', 1));
     }
 }
 

@@ -10,51 +10,46 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QStringList Painted(Canvas &canvas) {
+QString Painted(Canvas &canvas) {
     QStringList drawn;
     DrawingRecorder surface(drawn);
     if (canvas.Backdrop()) {
         canvas.Backdrop()->DrawOn(surface);
     }
     Q_EMIT canvas.Paint(surface);
-    return drawn;
+    return drawn.join(u", "_s);
 }
 
 TEST(TLXCanvasButton, ShowsWhetherTheMouseIsOverIt) {
     TLXCanvasButton button(u"DemoCanvas"_s);
-    EXPECT_EQ(Painted(button), QStringList());
+    EXPECT_EQ(Painted(button), u""_s);
     button.SetSize(245, 100);
-    const QStringList plain = {u"f1f1f1 fill 0 1 245 99"_s, u"ffffff line 0 0 245 0"_s,
-                               u"cccccc line 0 99 245 99"_s};
+    const QString plain = u"f1f1f1 fill 0 1 245 99, ffffff line 0 0 245 0, "
+                          "cccccc line 0 99 245 99"_s;
     Q_EMIT button.Open();
     EXPECT_EQ(Painted(button), plain);
     Q_EMIT button.MouseEnter();
-    EXPECT_EQ(Painted(button).first(), u"e6e6e6 fill 0 1 245 99"_s);
+    EXPECT_TRUE(Painted(button).startsWith(u"e6e6e6 fill 0 1 245 99, "_s));
     Q_EMIT button.MouseExit();
     EXPECT_EQ(Painted(button), plain);
 }
 
-TEST(TLXPlusMinusButton, DrawsTwoHalvesAndShadesTheOneHeldDown) {
+TEST(TLXPlusMinusButton, DrawsTwoHalvesAndCountsAPressWhereItIsReleased) {
     TLXPlusMinusButton button(u"CashBookAdd"_s);
     button.FillColor = Color{0xC0C0C0};
     button.SetSize(60, 29);
-    const QStringList plain = {u"cccccc rect 0 0 28 29"_s, u"cccccc rect 30 0 29 29"_s,
-                               u"333333 line 9 14 19 14"_s, u"333333 line 14 9 14 19"_s,
-                               u"333333 line 38 14 48 14"_s};
+    const QString plain = u"cccccc rect 0 0 28 29, rect 30 0 29 29, 333333 line 9 14 19 14, "
+                          "line 14 9 14 19, line 38 14 48 14"_s;
     EXPECT_EQ(Painted(button), plain);
     Q_EMIT button.MouseDown(28, 200);
-    EXPECT_EQ(Painted(button), QStringList(u"c0c0c0 fill 0 0 29 29"_s) + plain);
+    EXPECT_EQ(Painted(button), u"c0c0c0 fill 0 0 29 29, "_s + plain);
     Q_EMIT button.MouseDown(29, 0);
-    EXPECT_EQ(Painted(button), QStringList(u"c0c0c0 fill 29 0 29 29"_s) + plain);
+    EXPECT_EQ(Painted(button), u"c0c0c0 fill 29 0 29 29, "_s + plain);
     Q_EMIT button.MouseUp(200, 0);
     EXPECT_EQ(Painted(button), plain);
     button.SetSize(31, 100);
-    EXPECT_EQ(Painted(button).mid(0, 2),
-              QStringList({u"cccccc rect 0 0 14 15"_s, u"cccccc rect 16 0 15 15"_s}));
-}
+    EXPECT_TRUE(Painted(button).startsWith(u"cccccc rect 0 0 14 15, rect 16 0 15 15, "_s));
 
-TEST(TLXPlusMinusButton, CountsAPressWhereItIsReleased) {
-    TLXPlusMinusButton button(u"CashBookAdd"_s);
     button.SetSize(100, 29);
     Painted(button);
     const QSignalSpy plus(&button, &TLXPlusMinusButton::PlusPressed);

@@ -1,7 +1,5 @@
 #include "shell/qt/DateControlView.h"
 
-#include "platform/DateControl.h"
-#include "platform/UserLocale.h"
 #include "support/MainWindowTest.h"
 
 #include <QAbstractButton>
@@ -13,28 +11,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A window with a date field and another one, on 15 March 2026. It keeps the keys passed on to it.
-class DateWindow : public QWidget {
-public:
-    DateWindow() {
-        field.setGeometry(20, 10, 108, 23);
-        other.setGeometry(20, 50, 108, 23);
-        show();
+/// The date field of the entry row, with the focus and on 15 November 2025; today is 15 March 2026.
+class DateControlViewTest : public MainWindowTest {
+protected:
+    void SetUp() override {
+        Open();
+        Begin();
+    }
+    void Begin() {
+        date.SetDateValue(Date(QDate(2025, 11, 15)));
         date.SetFocus();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(this));
     }
-
-    UserLocale locale{QLocale(QLocale::German, QLocale::Germany)};
-    DateControl date{u"DateField"_s, Date(QDate(2025, 11, 15)),
-                     [] { return Date(QDateTime(QDate(2026, 3, 15), QTime(12, 0))); }};
-    DateControlView field{date, locale, this};
-    QLineEdit other{this};
-    QList<int> passedOn;
-
-    void Type(const QString &text) { QTest::keyClicks(&field, text); }
-    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QTest::keyClick(&field, key, modifiers);
-    }
+    void Type(const QString &text) { ::Type(&field, text); }
     QString Day() const { return date.DateValue().SQLDate(); }
     /// That the field shows the day, and has it selected as a whole.
     bool Selects(const QString &text) const {
@@ -45,194 +33,153 @@ public:
         return qobject_cast<QCalendarWidget *>(QApplication::activePopupWidget());
     }
 
-protected:
-    void keyPressEvent(QKeyEvent *event) override { passedOn.append(event->key()); }
+    DateControl &date = window.entryRow.DateField;
+    DateControlView &field = Find<DateControlView>(u"DateField"_s);
+    QLineEdit &other = Find<QLineEdit>(u"NoteField"_s);
 };
 
-TEST(DateControlView, TakesADayAndRefusesWhatIsNone) {
-    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Enter}) {
-        DateWindow window;
-        ASSERT_TRUE(window.Selects(u"15.11.2025"_s));
-        window.Type(u"31.02.2026"_s);
-        window.Key(key);
-        EXPECT_TRUE(window.Selects(u"31.02.2026"_s) && window.LooksRefused());
-        EXPECT_EQ(window.Day(), u"2025-11-15"_s);
-        EXPECT_TRUE(window.passedOn.isEmpty());
-        EXPECT_EQ(window.field.toolTip(), u"31.02.2026 ist kein gültiges Datum."_s);
-        EXPECT_EQ(QToolTip::text(), window.field.toolTip());
-        window.Type(u"2"_s);
-        EXPECT_FALSE(window.LooksRefused());
-        EXPECT_TRUE(window.field.toolTip().isEmpty());
-        window.Key(key);
-        EXPECT_EQ(window.field.text() + window.Day(), u"02.11.20252025-11-02"_s);
-        EXPECT_EQ(window.other.hasFocus(), key == Qt::Key_Tab || key == Qt::Key_Backtab);
+TEST_F(DateControlViewTest, TakesADayAndRefusesWhatIsNone) {
+    const Label &answer = window.entryRow.ErrorLabel; // To a Return that reaches the window.
+    for (const auto &key : {u"\t"_s, u"{Backtab}"_s, u"\r"_s, u"{Num+Enter}"_s}) {
+        Begin();
+        ASSERT_TRUE(Selects(u"15.11.2025"_s));
+        Type(u"31.02.2026"_s + key);
+        EXPECT_TRUE(Selects(u"31.02.2026"_s) && LooksRefused());
+        EXPECT_EQ(Day() + answer.Text(), u"2025-11-15"_s);
+        EXPECT_EQ(field.toolTip(), u"31.02.2026 ist kein gültiges Datum."_s);
+        EXPECT_EQ(QToolTip::text(), field.toolTip());
+        Type(u"2"_s);
+        EXPECT_TRUE(!LooksRefused() && field.toolTip().isEmpty());
+        Type(key);
+        EXPECT_EQ(field.text() + Day(), u"02.11.20252025-11-02"_s);
+        EXPECT_EQ(field.hasFocus(), !answer.Text().isEmpty());
+        EXPECT_EQ(field.hasFocus(), key != u"\t"_s && key != u"{Backtab}"_s);
+        date.SetFocus();
+        Type(u"31.2\x1b"_s);
+        EXPECT_TRUE(Selects(u"02.11.2025"_s));
+        window.entryRow.NewSale();
     }
 }
 
-TEST(DateControlView, PassesReturnOnWithADayAndEscapeAlways) {
-    DateWindow window;
-    window.Type(u"0102"_s);
-    window.Key(Qt::Key_Return);
-    EXPECT_TRUE(window.Selects(u"01.02.2025"_s));
-    window.Key(Qt::Key_Enter, Qt::KeypadModifier);
-    window.Type(u"31.2"_s);
-    window.Key(Qt::Key_Escape);
-    EXPECT_TRUE(window.Selects(u"01.02.2025"_s));
-    EXPECT_EQ(window.passedOn, QList<int>({Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}));
-}
-
-TEST(DateControlView, StepsByKeys) {
-    const std::tuple<QString, Qt::Key, QString> cases[] = {
-        {u""_s, Qt::Key_Plus, u"16.11.2025"_s},
-        {u""_s, Qt::Key_Minus, u"14.11.2025"_s},
-        {u"30"_s, Qt::Key_Up, u"01.12.2025"_s},
-        {u""_s, Qt::Key_Down, u"14.11.2025"_s},
-        {u""_s, Qt::Key_PageUp, u"15.10.2025"_s},
-        {u"31.1."_s, Qt::Key_PageDown, u"28.02.2025"_s},
-        {u""_s, Qt::Key_H, u"15.03.2026"_s},
-        {u"t31.2"_s, Qt::Key_T, u"15.03.2026"_s},
-        {u"1.1."_s, Qt::Key_Minus, u"31.12.2024"_s},
-        {u"010126"_s, Qt::Key_Minus, u"31.12.2025"_s},
-        {u"2026-03-01"_s, Qt::Key_Minus, u"28.02.2026"_s},
-    };
-    for (const auto &[typed, key, shown] : cases) {
-        for (const auto modifier : {Qt::NoModifier, Qt::KeypadModifier, Qt::ShiftModifier}) {
-            DateWindow window;
-            window.Type(typed);
-            window.Key(key, modifier);
-            EXPECT_TRUE(window.Selects(shown)) << qPrintable(shown + window.field.text());
-            EXPECT_EQ(window.locale.ShortDate(window.date.DateValue()), shown);
-        }
+TEST_F(DateControlViewTest, StepsByKeys) {
+    const QString cases = u"+=16.11.2025|{Shift++}=16.11.2025|{Num+-}=14.11.2025|30{Up}=01.12.2025|"
+                          "{Down}=14.11.2025|{PgUp}=15.10.2025|31.1.{PgDown}=28.02.2025|"
+                          "h=15.03.2026|t31.2{Shift+T}=15.03.2026|1.1.-=31.12.2024|"
+                          "010126-=31.12.2025|2026-03-01-=28.02.2026"_s;
+    for (const QString &each : cases.split(u'|')) {
+        Begin();
+        Type(each.section(u'=', 0, 0));
+        EXPECT_TRUE(Selects(each.section(u'=', 1))) << qPrintable(each + field.text());
+        EXPECT_EQ(book.app.Locale().ShortDate(date.DateValue()), field.text());
     }
-    DateWindow window;
-    window.Type(u"31.2."_s);
-    window.Key(Qt::Key_Plus);
-    EXPECT_TRUE(window.LooksRefused());
-    window.Key(Qt::Key_T, Qt::ControlModifier);
-    EXPECT_EQ(window.Day(), u"2025-11-15"_s);
+    Begin();
+    Type(u"31.2.+"_s);
+    EXPECT_TRUE(LooksRefused());
+    Type(u"{Ctrl+T}"_s);
+    EXPECT_EQ(Day(), u"2025-11-15"_s);
 }
 
-TEST(DateControlView, SelectsAllWhenTheFocusComes) {
-    DateWindow window;
-    window.Key(Qt::Key_Tab);
-    EXPECT_FALSE(window.field.hasSelectedText());
-    QTest::keyClick(&window.other, Qt::Key_Backtab);
-    EXPECT_TRUE(window.Selects(u"15.11.2025"_s));
+TEST_F(DateControlViewTest, SelectsAllWhenTheFocusComes) {
+    Type(u"\t"_s);
+    EXPECT_FALSE(field.hasSelectedText());
+    ::Type(&other, u"{Backtab}"_s);
+    EXPECT_TRUE(Selects(u"15.11.2025"_s));
 
-    window.other.setFocus();
-    QTest::mousePress(&window.field, Qt::LeftButton, {}, {20, 8});
-    QMouseEvent jitter(QEvent::MouseMove, QPointF(22, 8), window.field.mapToGlobal(QPointF(22, 8)),
+    other.setFocus();
+    QTest::mousePress(&field, Qt::LeftButton, {}, {20, 8});
+    QMouseEvent jitter(QEvent::MouseMove, QPointF(22, 8), field.mapToGlobal(QPointF(22, 8)),
                        Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&window.field, &jitter);
-    QTest::mouseRelease(&window.field, Qt::LeftButton, {}, {22, 8});
-    EXPECT_TRUE(window.Selects(u"15.11.2025"_s));
-    QTest::mouseClick(&window.field, Qt::LeftButton, {}, {20, 8});
-    EXPECT_FALSE(window.field.hasSelectedText());
+    QApplication::sendEvent(&field, &jitter);
+    QTest::mouseRelease(&field, Qt::LeftButton, {}, {22, 8});
+    EXPECT_TRUE(Selects(u"15.11.2025"_s));
+    QTest::mouseClick(&field, Qt::LeftButton, {}, {20, 8});
+    EXPECT_FALSE(field.hasSelectedText());
 
-    window.Type(u"7"_s);
-    window.date.SetFocus();
-    EXPECT_TRUE(window.Selects(u"15.11.2025"_s));
+    Type(u"7"_s);
+    date.SetFocus();
+    EXPECT_TRUE(Selects(u"15.11.2025"_s));
 }
 
-TEST(DateControlView, TakesADayAndDropsWhatIsNoneWhenTheMouseTakesTheFocus) {
-    DateWindow window;
+TEST_F(DateControlViewTest, TakesADayAndDropsWhatIsNoneWhenTheMouseTakesTheFocus) {
     QString heard;
-    QObject::connect(&window.date, &Control::LostFocus, &window, [&] { heard = window.Day(); });
-    window.Type(u"0102"_s);
-    window.other.setFocus(Qt::MouseFocusReason);
+    QObject::connect(&date, &Control::LostFocus, &window, [&] { heard = Day(); });
+    Type(u"0102"_s);
+    other.setFocus(Qt::MouseFocusReason);
     EXPECT_EQ(heard, u"2025-02-01"_s) << "the day is taken before the loss is told";
 
-    window.date.SetFocus();
-    window.Type(u"31.02."_s);
-    window.Key(Qt::Key_Return);
-    window.other.setFocus(Qt::MouseFocusReason);
-    QTest::mouseClick(&window.other, Qt::LeftButton);
-    EXPECT_EQ(window.field.text(), u"01.02.2025"_s);
-    EXPECT_FALSE(window.LooksRefused());
+    date.SetFocus();
+    Type(u"31.02.\r"_s);
+    other.setFocus(Qt::MouseFocusReason);
+    QTest::mouseClick(&other, Qt::LeftButton);
+    EXPECT_EQ(field.text(), u"01.02.2025"_s);
+    EXPECT_FALSE(LooksRefused());
     const QString notice = u"31.02. ist kein gültiges Datum. Es bleibt beim 01.02.2025."_s;
     EXPECT_TRUE(
         QTest::qWaitFor([&] { return QToolTip::isVisible() && QToolTip::text() == notice; }));
-    EXPECT_EQ(window.field.toolTip(), notice);
+    EXPECT_EQ(field.toolTip(), notice);
 }
 
-TEST(DateControlView, KeepsWhatIsHalfTypedWhileAnotherWindowIsActive) {
-    DateWindow window;
-    window.Type(u"1.2"_s);
+TEST_F(DateControlViewTest, KeepsWhatIsHalfTypedWhileAnotherWindowIsActive) {
+    Type(u"1.2"_s);
     for (const QEvent::Type type : {QEvent::FocusOut, QEvent::FocusIn}) {
         QFocusEvent event(type, Qt::ActiveWindowFocusReason);
-        QApplication::sendEvent(&window.field, &event);
-        EXPECT_EQ(window.Day(), u"2025-11-15"_s);
+        QApplication::sendEvent(&field, &event);
+        EXPECT_EQ(Day(), u"2025-11-15"_s);
     }
-    window.Type(u"0."_s);
-    EXPECT_EQ(window.field.text(), u"1.20."_s);
+    Type(u"0."_s);
+    EXPECT_EQ(field.text(), u"1.20."_s);
 }
 
-TEST(DateControlView, TurnsByWholeNotchesOfTheWheelAndOnlyWithTheFocus) {
-    DateWindow window;
+TEST_F(DateControlViewTest, TurnsByWholeNotchesOfTheWheel) {
     const std::pair<int, QString> turns[] = {
         {60, u"2025-11-15"_s}, {60, u"2025-11-16"_s}, {-240, u"2025-11-14"_s}};
     for (const auto &[delta, day] : turns) {
-        TurnWheel(window.field, delta);
-        EXPECT_EQ(window.Day(), day);
+        TurnWheel(field, delta);
+        EXPECT_EQ(Day(), day);
     }
-    window.other.setFocus();
-    TurnWheel(window.field, 120);
-    EXPECT_EQ(window.Day(), u"2025-11-14"_s);
 }
 
-TEST(DateControlView, ChoosesInACalendarByKeys) {
-    DateWindow window;
-    const QSignalSpy got(&window.date, &Control::GotFocus);
-    const QSignalSpy lost(&window.date, &Control::LostFocus);
-    window.Type(u"1.2."_s);
-    window.Key(Qt::Key_Down, Qt::AltModifier);
-    QCalendarWidget *calendar = DateWindow::Calendar();
-    ASSERT_TRUE(calendar);
-    EXPECT_EQ(calendar->selectedDate(), QDate(2025, 2, 1));
-    EXPECT_EQ(calendar->locale().language(), QLocale::German);
-    EXPECT_EQ(calendar->firstDayOfWeek(), Qt::Monday);
-    EXPECT_GE(calendar->y(), window.field.mapToGlobal(QPoint(0, window.field.height())).y());
-    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Down, Qt::Key_PageDown, Qt::Key_Return}) {
-        QTest::keyClick(QApplication::focusWidget(), key);
-    }
-    EXPECT_TRUE(!DateWindow::Calendar() && window.Selects(u"09.03.2025"_s));
+TEST_F(DateControlViewTest, ChoosesInACalendar) {
+    other.setFocus();
+    QTest::mouseClick(field.findChild<QAbstractButton *>(), Qt::LeftButton);
+    ASSERT_TRUE(Calendar());
+    auto *days = Calendar()->findChild<QTableView *>();
+    // Below the names of the weekdays; the first of November 2025 is a Saturday.
+    const QModelIndex first = days->model()->index(1, 5);
+    EXPECT_EQ(first.data().toInt(), 1);
+    QTest::mouseClick(days->viewport(), Qt::LeftButton, {}, days->visualRect(first).center());
+    EXPECT_TRUE(!Calendar() && Selects(u"01.11.2025"_s));
 
-    window.Key(Qt::Key_F4);
-    ASSERT_TRUE(DateWindow::Calendar());
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-    EXPECT_TRUE(!DateWindow::Calendar() && window.Selects(u"09.03.2025"_s));
-    EXPECT_EQ(window.Day(), u"2025-03-09"_s);
+    const QSignalSpy got(&date, &Control::GotFocus);
+    const QSignalSpy lost(&date, &Control::LostFocus);
+    Type(u"1.2.{Alt+Down}"_s);
+    ASSERT_TRUE(Calendar());
+    EXPECT_EQ(Calendar()->selectedDate(), QDate(2025, 2, 1));
+    EXPECT_EQ(Calendar()->locale().language(), QLocale::German);
+    EXPECT_EQ(Calendar()->firstDayOfWeek(), Qt::Monday);
+    EXPECT_GE(Calendar()->y(), field.mapToGlobal(QPoint(0, 23)).y());
+    ::Type(QApplication::focusWidget(), u"{Right}{Down}{PgDown}\r"_s);
+    EXPECT_TRUE(!Calendar() && Selects(u"09.03.2025"_s));
+    Type(u"{F4}"_s);
+    ASSERT_TRUE(Calendar());
+    ::Type(QApplication::focusWidget(), u"{Right}\x1b"_s);
+    EXPECT_TRUE(!Calendar() && Selects(u"09.03.2025"_s));
+    Type(u"{F4}"_s);
+    ::Type(QApplication::focusWidget(), u"{Right}"_s);
+    QTest::mouseClick(Calendar(), Qt::LeftButton, {}, {-5, -5});
+    EXPECT_TRUE(!Calendar() && Selects(u"09.03.2025"_s));
+    EXPECT_EQ(Day(), u"2025-03-09"_s);
     EXPECT_EQ(got.count() + lost.count(), 0);
 }
 
-TEST(DateControlView, ChoosesInACalendarByTheMouse) {
-    DateWindow window;
-    window.other.setFocus();
-    QTest::mouseClick(window.field.findChild<QAbstractButton *>(), Qt::LeftButton);
-    ASSERT_TRUE(DateWindow::Calendar());
-    auto *days = DateWindow::Calendar()->findChild<QTableView *>();
-    // Below the names of the weekdays; the first of November 2025 is a Saturday.
-    const QPoint first = days->visualRect(days->model()->index(1, 5)).center();
-    EXPECT_EQ(days->model()->index(1, 5).data().toInt(), 1);
-    QTest::mouseClick(days->viewport(), Qt::LeftButton, {}, first);
-    EXPECT_TRUE(!DateWindow::Calendar() && window.Selects(u"01.11.2025"_s));
-
-    window.Key(Qt::Key_F4);
-    ASSERT_TRUE(DateWindow::Calendar());
-    QTest::mouseClick(DateWindow::Calendar(), Qt::LeftButton, {}, {-5, -5});
-    EXPECT_TRUE(!DateWindow::Calendar() && window.Selects(u"01.11.2025"_s));
-}
-
-TEST(DateControlView, ShowsAWholeDayInTheNarrowestPlace) {
-    DateWindow window;
-    window.field.setFont(QFont(u"DejaVu Sans"_s, 11));
-    window.field.resize(100, 23);
-    window.date.SetDateValue(Date(QDate(2026, 12, 31)));
-    window.field.end(false);
-    const auto *button = window.field.findChild<QAbstractButton *>();
-    EXPECT_EQ(window.field.cursorPositionAt(QPoint(3, 11)), 0);
-    EXPECT_EQ(window.field.cursorPositionAt(QPoint(button->x() - 1, 11)), 10);
+TEST_F(DateControlViewTest, ShowsAWholeDayInTheNarrowestPlace) {
+    field.setFont(QFont(u"DejaVu Sans"_s, 11));
+    field.resize(100, 23);
+    date.SetDateValue(Date(QDate(2026, 12, 31)));
+    field.end(false);
+    const auto *button = field.findChild<QAbstractButton *>();
+    EXPECT_EQ(field.cursorPositionAt(QPoint(3, 11)), 0);
+    EXPECT_EQ(field.cursorPositionAt(QPoint(button->x() - 1, 11)), 10);
 }
 
 } // namespace

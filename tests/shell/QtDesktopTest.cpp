@@ -7,8 +7,6 @@
 
 #include <QDir>
 #include <QFileDialog>
-#include <QLabel>
-#include <QPushButton>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -26,13 +24,10 @@ protected:
     template <typename Action>
     void Press(Qt::Key key, const Action &action) {
         AnswerModalWindows(action, [&](QWidget &box) {
-            EXPECT_EQ(box.parentWidget(), &window);
             titles.append(box.windowTitle());
-            for (const QPushButton *button : box.findChildren<QPushButton *>()) {
-                texts.append(button->text());
-            }
-            for (const QLabel *label : box.findChildren<QLabel *>()) {
-                texts.append(label->text());
+            EXPECT_EQ(box.parentWidget(), &window);
+            for (const QWidget *child : box.findChildren<QWidget *>()) {
+                texts.append(child->property("text").toString());
             }
             QTest::keyClick(&box, key);
         });

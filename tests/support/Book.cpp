@@ -45,14 +45,14 @@ QString Book::Value(const QString &sql) const {
     return records ? records->IdxField(1).StringValue() : QString();
 }
 
-QString ReadWithShell(const QString &file, const QString &sql) {
+QString ReadWithShell(const App &app, const QString &sql) {
     QProcess shell;
-    shell.start(u"sqlcipher"_s, {file});
+    shell.start(u"sqlcipher"_s, {app.DefaultDatabaseFile().Path()});
     shell.write("PRAGMA key = '" + fixedKey + "';\nPRAGMA cipher_compatibility = 3;\n");
     shell.write(sql.toUtf8() + ";\n");
     shell.closeWriteChannel();
     EXPECT_TRUE(shell.waitForFinished());
     // Newer shells answer "ok" to the key.
-    QString output = QString::fromUtf8(shell.readAllStandardOutput());
-    return output.startsWith(u"ok\n"_s) ? output.mid(3) : output;
+    const QString output = QString::fromUtf8(shell.readAllStandardOutput());
+    return (output.startsWith(u"ok\n"_s) ? output.mid(3) : output).trimmed();
 }

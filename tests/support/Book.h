@@ -43,5 +43,6 @@ public:
 /// The key of every book.
 inline const QByteArray fixedKey("rk7WPNdTLqhvM4");
 
-/// Runs the standard sqlcipher shell on a keyed book and gives what it prints for the statement.
-QString ReadWithShell(const QString &file, const QString &sql);
+/// What the standard sqlcipher shell prints for a statement on the default file, without the line
+/// break at its end.
+QString ReadWithShell(const App &app, const QString &sql);

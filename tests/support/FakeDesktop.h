@@ -3,17 +3,24 @@
 #include "platform/Desktop.h"
 #include "platform/SaveAsDialog.h"
 #include "support/DrawingRecorder.h"
+#include "support/GoogleTest.h"
 
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <utility>
+
 /// A desktop for tests: it records the messages, holds the answers of dialogs, and has a clock and
-/// folders of its own.
+/// folders of its own. A message that the test does not take is a failure.
 class FakeDesktop : public Desktop {
 public:
+    FakeDesktop() = default;
+    FakeDesktop(const FakeDesktop &) = delete;
+    FakeDesktop &operator=(const FakeDesktop &) = delete;
+    ~FakeDesktop() override { EXPECT_EQ(TakeMessages(), QString()); }
+
     /// The clock stands still at noon of this day, until a test sets it.
     Date now = Date(QDateTime(QDate(2026, 3, 15), QTime(12, 0)));
-    QStringList messages;
     std::optional<FolderItem> fileToOpen;
     std::optional<int> menuChoice;
     /// The answer to the dialog for a new file, and the last one that was shown.
@@ -27,7 +34,7 @@ public:
     Date Now() const override { return now; }
     FolderItem ApplicationData() const override { return FolderItem(Path(QStringLiteral("data"))); }
     FolderItem DesktopFolder() const override { return FolderItem(Path(QStringLiteral("desk"))); }
-    void MsgBox(const QString &message) override { messages.append(message); }
+    void MsgBox(const QString &message) override { messages_.append(message); }
     FolderItem ExecutableFile() const override {
         return FolderItem(Path(QStringLiteral("bin/zolmark")));
     }
@@ -44,9 +51,12 @@ public:
     void ShowURL(const QString &address) override { opened.append(address); }
     void Launch(const FolderItem &file) override { opened.append(file.Path()); }
 
+    /// The messages since the last time, with a bar between them.
+    QString TakeMessages() { return std::exchange(messages_, {}).join(QLatin1Char('|')); }
     /// A path in a folder that goes with this desktop.
     QString Path(const QString &name) const { return folder_.filePath(name); }
 
 private:
+    QStringList messages_;
     QTemporaryDir folder_;
 };

@@ -1,19 +1,27 @@
 #pragma once
 
-#include "shell/MainWindow.h"
 #include "shell/qt/MainWindowView.h"
-#include "support/Book.h"
+#include "support/BookTest.h"
 
 #include <QApplication>
+#include <QRegularExpression>
 #include <QTableView>
 #include <QTest>
 #include <QWheelEvent>
 
-/// Presses the keys of a text, in which \t is the Tab key, \r is Return and \x1b is Escape; to
-/// wherever the focus of the window is, or to its pop-up.
-inline void Type(const QWidget &window, const QString &text) {
-    for (const QChar letter : text) {
-        QTest::keyClick(window.windowHandle(), letter.toLatin1());
+/// Presses the keys of a text: its letters, \t, \r and \x1b for Tab, Return and Escape, and any key
+/// by its name, as in "{Ctrl+N}" and "{Down}". They go to a widget; or, if a window is given, to
+/// wherever its focus is, or to its pop-up.
+template <class Target>
+void Type(Target *target, const QString &text) {
+    static const QRegularExpression each(QStringLiteral("\\{([^}]+)\\}|[^{]"));
+    for (const QRegularExpressionMatch &key : each.globalMatch(text)) {
+        if (key.hasCaptured(1)) {
+            const QKeyCombination named = QKeySequence(key.captured(1))[0];
+            QTest::keyClick(target, named.key(), named.keyboardModifiers());
+        } else {
+            QTest::keyClick(target, key.captured()[0].toLatin1());
+        }
     }
 }
 
@@ -26,7 +34,7 @@ inline void TurnWheel(QWidget &widget, int delta) {
 
 /// The real main window on a book, driven by keys and clicks as by its user. A test fills the book
 /// and opens the window.
-class MainWindowTest : public testing::Test {
+class MainWindowTest : public BookTest {
 protected:
     void Open() {
         window.Event_Open();
@@ -37,10 +45,7 @@ protected:
     Widget &Find(const QString &name) {
         return *view.findChild<Widget *>(name);
     }
-    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QTest::keyClick(view.windowHandle(), key, modifiers);
-    }
-    void Type(const QString &text) { ::Type(view, text); }
+    void Type(const QString &text) { ::Type(view.windowHandle(), text); }
     static QPoint Centre(const QTableView &list, int row, int column) {
         return list.visualRect(list.model()->index(row, column)).center();
     }
@@ -55,7 +60,5 @@ protected:
         QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, Centre(list, row, column));
     }
 
-    Book book;
-    MainWindow window{book.app};
     MainWindowView view{window, book.app};
 };
