@@ -42,7 +42,11 @@ TEST_F(CommandsTest, AreReachedByTheEntriesOfTheMenusOnEitherPage) {
     }
     Type(u"{Alt+D}e"_s);
     EXPECT_EQ(window.PagePanel1.Value(), 1);
-    Find<QLineEdit>(u"CompanyField"_s).setFocus();
+    auto &company = Find<QLineEdit>(u"CompanyField"_s);
+    company.setText(u"half typed"_s);
+    Type(u"{Alt+D}e"_s);
+    EXPECT_EQ(company.text(), u"Muster"_s) << "the entry reads the page anew";
+    company.setFocus();
     Type(u"{Backtab}\r"_s);
     EXPECT_EQ(window.PagePanel1.Value(), 0) << "by the last button of the tool bar";
     for (const auto &entry :

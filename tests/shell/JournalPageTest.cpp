@@ -36,6 +36,7 @@ protected:
 
 TEST_F(JournalPageTest, BooksAReceiptAndAnExpenseByKeysAlone) {
     Open();
+    EXPECT_FALSE(Shows(u"ErrorLabel"_s));
     Type(u"\r"_s);
     EXPECT_TRUE(Shows(u"ErrorLabel"_s));
     // The number pad has no comma, the locked amount is passed over, and the Return that completes
@@ -49,6 +50,10 @@ TEST_F(JournalPageTest, BooksAReceiptAndAnExpenseByKeysAlone) {
               u"02.03.2026\t119,50\t\t7% USt.\tErlöse 7% USt\tR1\tbar\t219,50\n"
               "03.03.2026\t\t2,50\t19% VSt.\tfrei\t\t\t217,00"_s);
     EXPECT_EQ(book.Value(u"SELECT account FROM cash_journal WHERE id = 1"_s), u"8300"_s);
+    row.InputField.SetText(u"1"_s);
+    category.SetText(u"bar"_s);
+    Click(&Find<QWidget>(u"SubmitButton"_s), {5, 5});
+    EXPECT_EQ(bookings.ListCount(), 3) << "by a click of the mouse";
 }
 
 TEST_F(JournalPageTest, ChangesABookingByKeysAndEscapeLeavesTheChange) {

@@ -121,6 +121,8 @@ TEST_F(PreferencesPageTest, WorksByTheKeysAloneAndIsReadByAssistiveTools) {
     Type(u"\t \t"_s); // Space on the plus of the cash books, which opens the new name.
     EXPECT_EQ(CashBooks(), u"Kasse 1000 100.0, Nebenkasse 0 1010 0.0"_s);
     EXPECT_EQ(QApplication::focusWidget()->accessibleName(), u"Konto"_s);
+    Type(u"\x1b\t\t\t "_s); // To the minus beside it.
+    EXPECT_EQ(CashBooks(), u"Kasse 1000 100.0"_s);
     EXPECT_EQ(Find<QWidget>(u"OpeningBalanceLabel"_s).accessibleName(),
               u"Anfangsbestand: 100,00"_s);
     auto &company = Find<QLineEdit>(u"CompanyField"_s);

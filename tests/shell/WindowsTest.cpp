@@ -112,6 +112,7 @@ TEST(Windows, CloseOnAFailedCreationWithoutItsFile) {
     EXPECT_EQ(book.desktop.TakeMessages(), u"Error: near \"1000\": syntax error"_s);
     EXPECT_TRUE(book.app.DefaultDatabaseFile().Exists());
     const QString manual = book.desktop.Path(u"Resources/Zolmark.pdf"_s);
+    EXPECT_FALSE(view.findChild<QAction *>(u"FilePrint"_s)->isEnabled());
     view.findChild<QAction *>(u"AboutItem"_s)->trigger();
     Click(&view, {700, 250});
     EXPECT_EQ(book.desktop.opened, QStringList({manual, u"about"_s, manual}));
