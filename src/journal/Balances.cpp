@@ -5,7 +5,6 @@
 #include "journal/Journal.h"
 #include "journal/Selectors.h"
 #include "platform/DebugLog.h"
-#include "platform/Text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,10 +17,9 @@ Currency SumOf(RecordSet &records) {
     const auto type = records.Field("type"_L1);
     const auto amount = records.Field("amount"_L1);
     for (; !records.AtEnd(); records.MoveNext()) {
-        const QString kind = type.StringValue();
-        if (SameText(kind, u"A")) {
+        if (type.IsCode("A")) {
             expenses += amount.CurrencyValue();
-        } else if (SameText(kind, u"E")) {
+        } else if (type.IsCode("E")) {
             receipts += amount.CurrencyValue();
         }
     }
@@ -74,7 +72,7 @@ void Balances::RunBalance(Currency balance) {
         }
         texts.push_back(app_.Locale().FormatBalance(balance.ToDouble()));
     }
-    list.SetColumn(Journal::Balance, texts);
+    list.SetColumn(Journal::Balance, std::move(texts));
 }
 
 std::unique_ptr<RecordSet> Balances::SelectCashbook(int id) {

@@ -1,9 +1,9 @@
 #include "journal/Journal.h"
 
 #include "core/App.h"
+#include "core/database/SharedTexts.h"
 #include "journal/Selectors.h"
 #include "platform/DebugLog.h"
-#include "platform/Text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -44,13 +44,13 @@ public:
         list_.AddRow(dateText_);
         const int row = list_.LastIndex();
         list_.SetCellTag(row, Journal::DateColumn, dateTag_);
-        const bool receipt = SameText(type_.StringValue(), u"E");
+        const bool receipt = type_.IsCode("E");
         list_.SetCell(row, receipt ? Journal::Input : Journal::Output,
                       locale_.FormatAmount(amount_.DoubleValue()));
-        list_.SetCell(row, Journal::Tax, taxname_.StringValue());
-        list_.SetCellTag(row, Journal::Tax, tax_.StringValue());
-        list_.SetCell(row, Journal::Category, category_.StringValue());
-        list_.SetCellTag(row, Journal::Category, account_.StringValue());
+        list_.SetCell(row, Journal::Tax, shared_.Of(taxname_));
+        list_.SetCellTag(row, Journal::Tax, shared_.Of(tax_));
+        list_.SetCell(row, Journal::Category, shared_.Of(category_));
+        list_.SetCellTag(row, Journal::Category, shared_.Of(account_));
         list_.SetCell(row, Journal::SaleNumber, salesnumber_.StringValue());
         list_.SetCell(row, Journal::Note, note_.StringValue());
         list_.SetRowTag(row, id_.StringValue());
@@ -58,7 +58,7 @@ public:
 
 private:
     void ReadDate() {
-        const QString text = vdate_.StringValue();
+        const QString text = shared_.Of(vdate_);
         if (text == sqlDate_) {
             return;
         }
@@ -73,6 +73,7 @@ private:
     Listbox &list_;
     DatabaseField id_, vdate_, type_, amount_, taxname_, tax_, category_, account_, salesnumber_,
         note_;
+    SharedTexts shared_;
     QString sqlDate_;
     QString dateText_;
     Listbox::Tag dateTag_;

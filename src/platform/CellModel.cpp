@@ -1,21 +1,38 @@
 #include "platform/CellModel.h"
 
-#include <QStringList>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The place of a column among values that few rows have; they exist only up to the last in use.
+/// The place of a row among values that exist only up to the last in use.
 template <typename Values>
-auto Place(Values &values, int column) {
-    const auto place = static_cast<size_t>(column);
+auto Place(Values &values, int row) {
+    const auto place = static_cast<size_t>(row);
     if (place >= values.size()) {
         values.resize(place + 1);
     }
-    return values.begin() + column;
+    return values.begin() + row;
+}
+
+template <typename Values>
+bool Reaches(const Values &values, int row) {
+    return static_cast<size_t>(row) < values.size();
+}
+
+template <typename Values>
+void Reorder(Values &values, const std::vector<int> &order) {
+    if (values.empty()) {
+        return;
+    }
+    values.resize(order.size());
+    Values ordered;
+    ordered.reserve(order.size());
+    for (const int row : order) {
+        ordered.push_back(std::move(values[static_cast<size_t>(row)]));
+    }
+    values = std::move(ordered);
 }
 
 } // namespace
@@ -32,13 +49,22 @@ void CellModel::EndRefill() {
     }
 }
 
-void CellModel::ReorderRows(const std::vector<int> &order) {
-    std::vector<Row> ordered;
-    ordered.reserve(rows_.size());
-    for (const int row : order) {
-        ordered.push_back(std::move(At(row)));
+void CellModel::RemoveRows() {
+    for (Column &column : columns_) {
+        column.cells.clear();
+        column.tags.clear();
+        column.checks.clear();
     }
-    rows_ = std::move(ordered);
+    rowTags_.clear();
+}
+
+void CellModel::ReorderRows(const std::vector<int> &order) {
+    for (Column &column : columns_) {
+        Reorder(column.cells, order);
+        Reorder(column.tags, order);
+        Reorder(column.checks, order);
+    }
+    Reorder(rowTags_, order);
 }
 
 void CellModel::AddRow(const QString &text) {
@@ -46,9 +72,11 @@ void CellModel::AddRow(const QString &text) {
     if (!told) {
         beginInsertRows({}, ListCount(), ListCount());
     }
-    Row &row = rows_.emplace_back();
-    row.cells.resize(columns_.size());
-    row.cells.front() = text;
+    for (Column &column : columns_) {
+        column.cells.emplace_back();
+    }
+    columns_.front().cells.back() = text;
+    rowTags_.emplace_back();
     if (!told) {
         endInsertRows();
     }
@@ -56,21 +84,26 @@ void CellModel::AddRow(const QString &text) {
 
 QString CellModel::Cell(int row, int column) const {
     if (row >= 0) {
-        if (!Has(row) || column >= ColumnCount()) {
-            return {};
-        }
-        return column < 0 ? Joined(At(row)) : At(row).cells[static_cast<size_t>(column)];
+        const bool stands = Has(row) && column < ColumnCount();
+        return !stands      ? QString()
+               : column < 0 ? JoinedCells(row)
+                            : ColumnAt(column).cells[static_cast<size_t>(row)];
     }
-    QStringList lines;
-    lines.reserve(ListCount());
+    QString lines;
     for (int each = 0; each < ListCount(); ++each) {
-        lines.append(Cell(each, column));
+        lines += Cell(each, column) + u'\n';
     }
-    return lines.join(u'\n');
+    lines.chop(1);
+    return lines;
 }
 
-QString CellModel::Joined(const Row &row) const {
-    return QStringList(row.cells.begin(), row.cells.end()).join(u'\t');
+QString CellModel::JoinedCells(int row) const {
+    QString cells;
+    for (const Column &column : columns_) {
+        cells += column.cells[static_cast<size_t>(row)] + u'\t';
+    }
+    cells.chop(1);
+    return cells;
 }
 
 void CellModel::ShowCell(int row, int column) {
@@ -81,59 +114,57 @@ void CellModel::ShowCell(int row, int column) {
 
 void CellModel::SetCell(int row, int column, const QString &text) {
     if (Has(row)) {
-        At(row).cells[static_cast<size_t>(column)] = text;
+        ColumnAt(column).cells[static_cast<size_t>(row)] = text;
         ShowCell(row, column);
     }
 }
 
-void CellModel::SetColumn(int column, const std::vector<QString> &texts) {
-    const int count = std::min(ListCount(), static_cast<int>(texts.size()));
-    for (int row = 0; row < count; ++row) {
-        At(row).cells[static_cast<size_t>(column)] = texts[static_cast<size_t>(row)];
-    }
-    if (!IsRefilling() && count > 0) {
-        Q_EMIT dataChanged(index(0, column), index(count - 1, column));
+void CellModel::SetColumn(int column, std::vector<QString> texts) {
+    texts.resize(rowTags_.size());
+    ColumnAt(column).cells = std::move(texts);
+    if (!IsRefilling() && ListCount() > 0) {
+        Q_EMIT dataChanged(index(0, column), index(LastIndex(), column));
     }
 }
 
 bool CellModel::CellCheck(int row, int column) const {
-    const auto place = static_cast<size_t>(column);
-    return Has(row) && place < At(row).checks.size() && At(row).checks[place];
+    return Has(row) && HasColumn(column) && Reaches(ColumnAt(column).checks, row) &&
+           ColumnAt(column).checks[static_cast<size_t>(row)];
 }
 
 void CellModel::SetCellCheck(int row, int column, bool checked) {
     if (Has(row)) {
-        *Place(At(row).checks, column) = checked;
+        *Place(ColumnAt(column).checks, row) = checked;
         ShowCell(row, column);
     }
 }
 
 const CellModel::Tag &CellModel::CellTag(int row, int column) const {
     static const Tag none;
-    const auto place = static_cast<size_t>(column);
-    return Has(row) && place < At(row).tags.size() ? At(row).tags[place] : none;
+    return Has(row) && HasColumn(column) && Reaches(ColumnAt(column).tags, row)
+               ? ColumnAt(column).tags[static_cast<size_t>(row)]
+               : none;
 }
 
 void CellModel::SetCellTag(int row, int column, Tag tag) {
     if (Has(row)) {
-        *Place(At(row).tags, column) = std::move(tag);
+        *Place(ColumnAt(column).tags, row) = std::move(tag);
     }
 }
 
 QString CellModel::RowTag(int row) const {
-    return Has(row) ? At(row).tag : QString();
+    return Has(row) ? rowTags_[static_cast<size_t>(row)] : QString();
 }
 
 void CellModel::SetRowTag(int row, const QString &tag) {
     if (Has(row)) {
-        At(row).tag = tag;
+        rowTags_[static_cast<size_t>(row)] = tag;
     }
 }
 
 int CellModel::FindRow(const QString &tag) const {
-    const auto found =
-        std::find_if(rows_.begin(), rows_.end(), [&tag](const Row &row) { return row.tag == tag; });
-    return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+    const auto found = std::find(rowTags_.begin(), rowTags_.end(), tag);
+    return found == rowTags_.end() ? -1 : static_cast<int>(found - rowTags_.begin());
 }
 
 void CellModel::SetColumnAlignment(int column, Alignment alignment) {
@@ -144,11 +175,12 @@ QString CellModel::Heading(int column) const {
     if (column >= 0) {
         return HasColumn(column) ? ColumnAt(column).heading : QString();
     }
-    QStringList headings;
+    QString headings;
     for (const Column &each : columns_) {
-        headings.append(each.heading);
+        headings += each.heading + u'\t';
     }
-    return headings.join(u'\t');
+    headings.chop(1);
+    return headings;
 }
 
 void CellModel::SetHeading(int column, const QString &text) {

@@ -23,15 +23,15 @@ public:
 
     /// Adds a row with the text in column 0; it is LastIndex then.
     void AddRow(const QString &text);
-    int ListCount() const { return static_cast<int>(rows_.size()); }
+    int ListCount() const { return static_cast<int>(rowTags_.size()); }
     int LastIndex() const { return ListCount() - 1; }
 
     /// Row -1 stands for all rows, column -1 for all columns: cells are then joined by a Tab, rows
     /// by a line feed.
     QString Cell(int row, int column) const;
     void SetCell(int row, int column, const QString &text);
-    /// Writes one column from the first row on, and shows it at once.
-    void SetColumn(int column, const std::vector<QString> &texts);
+    /// Writes one column from the first row to the last, one text to a row, and shows it at once.
+    void SetColumn(int column, std::vector<QString> texts);
     bool CellCheck(int row, int column) const;
     void SetCellCheck(int row, int column, bool checked);
     const Tag &CellTag(int row, int column) const;
@@ -67,33 +67,30 @@ protected:
     void EndRefill();
     bool IsRefilling() const { return refills_ > 0; }
     /// Both only in a refill.
-    void RemoveRows() { rows_.clear(); }
+    void RemoveRows();
     /// Puts the row of the first index first, and so on; each index stands once.
     void ReorderRows(const std::vector<int> &order);
 
 private:
+    /// Column by column instead of row by row: thousands of rows then cost no memory of their own.
     struct Column {
         QString heading;
         Alignment alignment = Alignment::Default;
         ColumnType type = ColumnType::Default;
-    };
-    struct Row {
         std::vector<QString> cells;
+        /// These two reach to the last row that has one.
         std::vector<Tag> tags;
         std::vector<bool> checks;
-        QString tag;
     };
 
-    const Row &At(int row) const { return rows_[static_cast<size_t>(row)]; }
-    Row &At(int row) { return rows_[static_cast<size_t>(row)]; }
     const Column &ColumnAt(int column) const { return columns_[static_cast<size_t>(column)]; }
     Column &ColumnAt(int column) { return columns_[static_cast<size_t>(column)]; }
-    QString Joined(const Row &row) const;
+    QString JoinedCells(int row) const;
     QVariant AlignmentOf(int column) const;
     void ShowCell(int row, int column);
 
     std::vector<Column> columns_;
-    std::vector<Row> rows_;
+    std::vector<QString> rowTags_;
     int refills_ = 0;
     bool hasHeading_ = false;
 };

@@ -1,5 +1,6 @@
 #include "platform/Encodings.h"
 
+#include <algorithm>
 #include <memory>
 #include <unicode/translit.h>
 #include <unicode/ucnv.h>
@@ -31,6 +32,13 @@ void Transliterate(icu::UnicodeString &text, const UConverter *converter) {
     }
 }
 
+/// Nearly every text: Latin-1, which is all in the code page but for its control characters.
+bool IsPlain(const QString &text) {
+    return std::all_of(text.begin(), text.end(), [](QChar letter) {
+        return letter < QChar(0x80) || (letter >= QChar(0xa0) && letter <= QChar(0xff));
+    });
+}
+
 } // namespace
 
 QByteArray Encodings::WindowsANSI(const QString &text) {
@@ -38,7 +46,9 @@ QByteArray Encodings::WindowsANSI(const QString &text) {
     const QString composed = text.normalized(QString::NormalizationForm_C);
     icu::UnicodeString unicode(composed.utf16(), static_cast<int32_t>(composed.size()));
     const Converter converter = OpenConverter();
-    Transliterate(unicode, converter.get());
+    if (!IsPlain(composed)) {
+        Transliterate(unicode, converter.get());
+    }
     UErrorCode status = U_ZERO_ERROR;
     QByteArray bytes(UCNV_GET_MAX_BYTES_FOR_STRING(unicode.length(), 1), Qt::Uninitialized);
     bytes.resize(ucnv_fromUChars(converter.get(), bytes.data(), static_cast<int32_t>(bytes.size()),

@@ -1,12 +1,18 @@
 #include "platform/Text.h"
 
+#include <QStringTokenizer>
+
 #include <charconv>
+#include <string>
 
 using namespace Qt::StringLiterals;
 
 double Val(QStringView text) {
-    const QByteArray number = text.trimmed().toUtf8();
-    const char *begin = number.constData();
+    std::string number;
+    for (const QChar letter : text.trimmed()) {
+        number += letter.toLatin1(); // What has no Latin letter ends a number as well as any other.
+    }
+    const char *begin = number.data();
     const char *end = begin + number.size();
     const bool negative = begin != end && *begin == '-';
     if (begin != end && (*begin == '-' || *begin == '+')) {
@@ -22,8 +28,13 @@ double Val(QStringView text) {
     return negative ? -value : value;
 }
 
-QString NthField(const QString &text, QChar separator, int number) {
-    return text.section(separator, number - 1, number - 1);
+QString NthField(QStringView text, QChar separator, int number) {
+    for (const QStringView field : qTokenize(text, separator)) {
+        if (--number == 0) {
+            return field.toString();
+        }
+    }
+    return {};
 }
 
 QString ReplaceLineEndings(QString text, const QString &ending) {

@@ -8,7 +8,7 @@
 double Val(QStringView text);
 
 /// The piece with the given number, from 1; empty beyond the last.
-QString NthField(const QString &text, QChar separator, int number);
+QString NthField(QStringView text, QChar separator, int number);
 
 /// Turns all line ends of a text, of whatever kind, into the given one.
 QString ReplaceLineEndings(QString text, const QString &ending);

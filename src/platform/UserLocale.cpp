@@ -1,10 +1,9 @@
 #include "platform/UserLocale.h"
 
-#include <QByteArray>
-
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <string>
 
 using namespace Qt::StringLiterals;
 
@@ -20,46 +19,42 @@ QString WithFourDigitYear(QString form) {
 }
 
 /// The shortest decimal text of the magnitude, without an exponent.
-QByteArray Digits(double value) {
-    std::array<char, 400> text{};
+std::string Digits(double value) {
+    std::array<char, 400> text;
     const auto end = std::to_chars(text.data(), text.data() + text.size(), std::fabs(value),
                                    std::chars_format::fixed);
-    return {text.data(), end.ptr - text.data()};
+    return {text.data(), end.ptr};
 }
 
 /// Adds one to the last digit of a text of digits and one dot.
-void AddOneUnit(QByteArray &digits) {
-    for (qsizetype i = digits.size() - 1; i >= 0; --i) {
-        if (digits[i] == '.') {
+void AddOneUnit(std::string &digits) {
+    for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit) {
+        if (*digit == '.') {
             continue;
         }
-        if (digits[i] != '9') {
-            ++digits[i];
+        if (*digit != '9') {
+            ++*digit;
             return;
         }
-        digits[i] = '0';
+        *digit = '0';
     }
-    digits.prepend('1');
+    digits.insert(0, 1, '1');
 }
 
-void RoundTo(QByteArray &digits, qsizetype decimals) {
-    if (!digits.contains('.')) {
-        digits.append('.');
+void RoundTo(std::string &digits, size_t decimals) {
+    if (digits.find('.') == std::string::npos) {
+        digits += '.';
     }
-    const qsizetype end = digits.indexOf('.') + 1 + decimals;
-    if (digits.size() <= end) {
-        digits.append(end - digits.size(), '0');
-        return;
-    }
-    const bool up = digits[end] >= '5';
-    digits.truncate(end);
+    const size_t end = digits.find('.') + 1 + decimals;
+    const bool up = digits.size() > end && digits[end] >= '5';
+    digits.resize(end, '0');
     if (up) {
         AddOneUnit(digits);
     }
 }
 
-bool IsZero(const QByteArray &digits) {
-    return digits.count('0') + 1 == digits.size();
+bool IsZero(const std::string &digits) {
+    return digits.find_first_not_of("0.") == std::string::npos;
 }
 
 } // namespace
@@ -74,21 +69,21 @@ QString UserLocale::Format(double value, QStringView mask) const {
     }
     const qsizetype dot = mask.indexOf(u'.');
     const bool leadingDigit = mask.left(dot).contains(u'0');
-    QByteArray digits = Digits(value);
-    RoundTo(digits, mask.size() - dot - 1);
+    std::string digits = Digits(value);
+    RoundTo(digits, static_cast<size_t>(mask.size() - dot - 1));
     const bool negative = value < 0 && !IsZero(digits);
-    const qsizetype point = digits.indexOf('.');
+    const QLatin1StringView all(digits.data(), static_cast<qsizetype>(digits.size()));
+    const qsizetype point = all.indexOf(u'.');
     QString text;
-    text.reserve(digits.size() + 1);
+    text.reserve(all.size() + 1);
     if (negative) {
         text += u'-';
     }
-    if (leadingDigit || point != 1 || digits[0] != '0') {
-        text += QLatin1StringView(digits.constData(), point);
+    if (leadingDigit || point != 1 || digits.front() != '0') {
+        text += all.left(point);
     }
     text += decimalSeparator_;
-    text += QLatin1StringView(digits.constData() + point + 1, digits.size() - point - 1);
-    return text;
+    return text += all.mid(point + 1);
 }
 
 QString UserLocale::ShortDate(const Date &date) const {

@@ -2,8 +2,8 @@
 
 #include "core/App.h"
 #include "core/TLXModule.h"
+#include "core/database/SharedTexts.h"
 #include "journal/Selectors.h"
-#include "platform/Text.h"
 
 #include <array>
 
@@ -33,18 +33,54 @@ void SetHeadings(Listbox &list, const Headings &headings) {
     }
 }
 
-PostingRecord ReadRecord(RecordSet &booking, const UserLocale &locale) {
-    const auto text = [&booking](QLatin1StringView column) {
-        return booking.Field(column).StringValue();
-    };
-    const bool isReceipt = SameText(text("type"_L1), u"E");
-    const auto debit = isReceipt ? "cbaccount"_L1 : "account"_L1;
-    const auto credit = isReceipt ? "account"_L1 : "cbaccount"_L1;
-    return {.cells = {TLXModule::DateSQL2German(text("vdate"_L1)),
-                      locale.FormatAmount(booking.Field("amount"_L1).DoubleValue()), text("tax"_L1),
-                      text("taxname"_L1), text("category"_L1), text("salesnumber"_L1), text(debit),
-                      text(credit), u"EUR"_s, text("note"_L1)},
-            .id = text("id"_L1)};
+/// Reads one booking after the other.
+class RecordReader {
+public:
+    RecordReader(RecordSet &bookings, const UserLocale &locale)
+        : locale_(locale), id_(bookings.Field("id"_L1)), vdate_(bookings.Field("vdate"_L1)),
+          type_(bookings.Field("type"_L1)), amount_(bookings.Field("amount"_L1)),
+          tax_(bookings.Field("tax"_L1)), taxname_(bookings.Field("taxname"_L1)),
+          category_(bookings.Field("category"_L1)), salesnumber_(bookings.Field("salesnumber"_L1)),
+          account_(bookings.Field("account"_L1)), cbaccount_(bookings.Field("cbaccount"_L1)),
+          note_(bookings.Field("note"_L1)) {}
+
+    PostingRecord Read() {
+        const bool isReceipt = type_.IsCode("E");
+        return {.cells = {GermanDate(), locale_.FormatAmount(amount_.DoubleValue()),
+                          shared_.Of(tax_), shared_.Of(taxname_), shared_.Of(category_),
+                          salesnumber_.StringValue(), shared_.Of(isReceipt ? cbaccount_ : account_),
+                          shared_.Of(isReceipt ? account_ : cbaccount_), currency_,
+                          note_.StringValue()},
+                .id = id_.StringValue()};
+    }
+
+private:
+    /// Neighbours often share their date: it is written out once for them.
+    QString GermanDate() {
+        if (const QString sqlDate = shared_.Of(vdate_); sqlDate != sqlDate_) {
+            sqlDate_ = sqlDate;
+            germanDate_ = TLXModule::DateSQL2German(sqlDate);
+        }
+        return germanDate_;
+    }
+
+    const UserLocale &locale_;
+    DatabaseField id_, vdate_, type_, amount_, tax_, taxname_, category_, salesnumber_, account_,
+        cbaccount_, note_;
+    SharedTexts shared_;
+    QString sqlDate_;
+    QString germanDate_;
+    QString currency_ = u"EUR"_s;
+};
+
+std::vector<PostingRecord> ReadAll(RecordSet *bookings, const UserLocale &locale) {
+    std::vector<PostingRecord> records;
+    if (bookings != nullptr) {
+        for (RecordReader reader(*bookings, locale); !bookings->AtEnd(); bookings->MoveNext()) {
+            records.push_back(reader.Read());
+        }
+    }
+    return records;
 }
 
 void AddRecord(Listbox &list, const PostingRecord &record) {
@@ -71,10 +107,7 @@ void AccountingExport::ExportJournal() {
         "CJ JOIN cash_tax AS ct ON cj.tax = ct.value JOIN cash_book AS cb ON cj.cashbookID = cb.id "
         "WHERE "_s +
         selectors_.CashbookAndYearCondition() + u" ORDER BY vdate"_s);
-    std::vector<PostingRecord> records;
-    for (; bookings && !bookings->AtEnd(); bookings->MoveNext()) {
-        records.push_back(ReadRecord(*bookings, app_.Locale()));
-    }
+    const std::vector<PostingRecord> records = ReadAll(bookings.get(), app_.Locale());
     // A damaged page shows only on the way: half a year must not pass for a whole one.
     if (app_.ReportError() || !bookings) {
         return;

@@ -12,21 +12,7 @@ class AccountingExport {
 public:
     AccountingExport(App &app, Selectors &selectors);
 
-    /// The columns of the record, and of the export file.
-    enum Column {
-        VoucherDate,
-        Amount,
-        TaxKey,
-        TaxName,
-        Category,
-        VoucherNumber,
-        DebitAccount,
-        CreditAccount,
-        CurrencyCode,
-        Note,
-        Internal
-    };
-    static constexpr int columnCount = Internal + 1;
+    static constexpr int columnCount = 11;
 
     /// The records; the user never sees this list. The row tag is the booking's id.
     Listbox ExportList;

@@ -19,8 +19,9 @@ Connection::Connection(const QString &path, const QByteArray &key, Missing missi
 
 bool Connection::Open(const QString &path, const QByteArray &key, Missing missing) {
     const bool inMemory = path.isEmpty();
-    const int flags =
-        SQLITE_OPEN_READWRITE | (inMemory || missing == Missing::Create ? SQLITE_OPEN_CREATE : 0);
+    // The program has one thread: without a lock around each value of a row.
+    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX |
+                      (inMemory || missing == Missing::Create ? SQLITE_OPEN_CREATE : 0);
     const QByteArray name = inMemory ? QByteArrayLiteral(":memory:") : path.toUtf8();
     sqlite3 *handle = nullptr;
     const int result = sqlite3_open_v2(name.constData(), &handle, flags, nullptr);

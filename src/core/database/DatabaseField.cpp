@@ -16,6 +16,15 @@ QString DatabaseField::StringValue() const {
     return statement.Text(column_);
 }
 
+QUtf8StringView DatabaseField::RawText() const {
+    return records_->CanRead(column_) ? records_->statement_->RawText(column_) : QUtf8StringView();
+}
+
+bool DatabaseField::IsCode(const char *code) const {
+    const QUtf8StringView text = RawText();
+    return QByteArrayView(text.data(), text.size()).compare(code, Qt::CaseInsensitive) == 0;
+}
+
 void DatabaseField::SetStringValue(const QString &text) {
     records_->changes_[column_] = text;
 }

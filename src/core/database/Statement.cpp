@@ -61,9 +61,9 @@ Statement::Kind Statement::ColumnKind(int column) const {
     }
 }
 
-QString Statement::Text(int column) const {
+QUtf8StringView Statement::RawText(int column) const {
     const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(handle_.get(), column));
-    return QString::fromUtf8(text, sqlite3_column_bytes(handle_.get(), column));
+    return {text, sqlite3_column_bytes(handle_.get(), column)};
 }
 
 double Statement::Number(int column) const {

@@ -1,0 +1,68 @@
+#include "BareBook.h"
+
+#include "support/Book.h"
+
+#define SQLITE_HAS_CODEC 1
+#include <sqlite3.h>
+
+#include <benchmark/benchmark.h>
+
+void BareBook::Closer::operator()(sqlite3 *handle) const {
+    sqlite3_close_v2(handle);
+}
+
+BareBook::BareBook(const QString &path) {
+    sqlite3 *handle = nullptr;
+    sqlite3_open_v2(path.toUtf8().constData(), &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX,
+                    nullptr);
+    handle_.reset(handle);
+    sqlite3_key(handle, fixedKey.constData(), static_cast<int>(fixedKey.size()));
+    for (const char *pragma : {"PRAGMA cipher_compatibility = 3", "PRAGMA cache_size = -65536",
+                               "PRAGMA temp_store = MEMORY", "PRAGMA synchronous = FULL"}) {
+        Run(pragma);
+    }
+    Run("SELECT count(*) FROM sqlite_master");
+}
+
+void BareBook::Run(const char *sql) {
+    if (sqlite3_exec(handle_.get(), sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
+        qFatal("%s", sqlite3_errmsg(handle_.get()));
+    }
+}
+
+void BareBook::Step(const std::string &sql, const std::vector<int> &texts,
+                    const std::vector<int> &numbers) {
+    sqlite3_stmt *statement = nullptr;
+    sqlite3_prepare_v2(handle_.get(), sql.data(), static_cast<int>(sql.size()), &statement,
+                       nullptr);
+    int result = sqlite3_step(statement);
+    for (; result == SQLITE_ROW; result = sqlite3_step(statement)) {
+        for (const int column : texts) {
+            benchmark::DoNotOptimize(sqlite3_column_text(statement, column));
+        }
+        for (const int column : numbers) {
+            benchmark::DoNotOptimize(sqlite3_column_double(statement, column));
+        }
+    }
+    if (result != SQLITE_DONE) {
+        qFatal("%s", sqlite3_errmsg(handle_.get()));
+    }
+    sqlite3_finalize(statement);
+}
+
+std::string BookingsOf(const std::string &month) {
+    return "SELECT DISTINCT cj.*, ct.name AS taxname FROM cash_journal As cj JOIN cash_tax AS ct "
+           "ON cj.tax = ct.value WHERE cashbookID = '1' AND substr(vdate,1,4) = '2026'" +
+           (month.empty() ? "" : " AND substr(vdate, 6, 2)='" + month + "'") + " ORDER BY vdate";
+}
+
+std::string BookingsBefore(const std::string &month) {
+    return "SELECT * FROM cash_journal WHERE vdate  < '2026-" + (month.empty() ? "01" : month) +
+           "-01' AND cashbookID = '1'";
+}
+
+void StepJournal(BareBook &book, const std::string &month) {
+    // The columns of a booking stand in the order of the table, the name of its tax behind them.
+    book.Step(BookingsOf(month), {0, 1, 2, 6, 7, 8, 9, 12, 13}, {5});
+    book.Step(BookingsBefore(month), {2}, {5});
+}

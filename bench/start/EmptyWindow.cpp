@@ -1,0 +1,32 @@
+#include "PaintWatch.h"
+
+#define SQLITE_HAS_CODEC 1
+#include <QApplication>
+#include <QWidget>
+#include <sqlite3.h>
+
+#include <cstring>
+#include <span>
+
+/// Opens the file of the first argument with the key of the second, steps the statements that
+/// follow, and shows an empty window.
+int main(int argc, char *argv[]) {
+    const QApplication application(argc, argv);
+    sqlite3 *book = nullptr;
+    sqlite3_open_v2(argv[1], &book, SQLITE_OPEN_READWRITE, nullptr);
+    sqlite3_key(book, argv[2], static_cast<int>(std::strlen(argv[2])));
+    sqlite3_exec(book, "PRAGMA cipher_compatibility = 3", nullptr, nullptr, nullptr);
+    sqlite3_exec(book, "PRAGMA cache_size = -65536", nullptr, nullptr, nullptr);
+    for (const char *statement : std::span(argv, static_cast<size_t>(argc)).subspan(3)) {
+        if (sqlite3_exec(book, statement, nullptr, nullptr, nullptr) != SQLITE_OK) {
+            return 1;
+        }
+    }
+    QWidget window;
+    window.setObjectName(QStringLiteral("EmptyWindow"));
+    const PaintWatch watch(window.objectName());
+    window.show();
+    const int result = QApplication::exec();
+    sqlite3_close_v2(book);
+    return result;
+}
