@@ -63,13 +63,6 @@ public:
         Save(name, window.grab(part));
     }
 
-    /// Without an alpha channel, which the PDF would keep apart at great length.
-    void Save(const QString &name, const QPixmap &picture) const {
-        if (!picture.toImage().convertToFormat(QImage::Format_RGB32).save(Path(name))) {
-            qFatal("%s cannot be written.", qUtf8Printable(Path(name)));
-        }
-    }
-
     /// The same, with numbers from 1 on above the names of the fields.
     void AddNumbered(const QString &name, QWidget &window, const QRect &part,
                      const QStringList &fields) const {
@@ -93,6 +86,13 @@ public:
         }
         painter.end();
         Save(name, picture);
+    }
+
+    /// Without an alpha channel, which the PDF would keep apart at great length.
+    void Save(const QString &name, const QPixmap &picture) const {
+        if (!picture.toImage().convertToFormat(QImage::Format_RGB32).save(Path(name))) {
+            qFatal("%s cannot be written.", qUtf8Printable(Path(name)));
+        }
     }
 
 private:
@@ -120,11 +120,6 @@ void TakeWelcome(const Album &album, WelcomeWindow &window, QWidget &view) {
     album.Add(u"willkommen.png"_s, view);
     Q_EMIT window.NewCanvas.MouseDown(0, 0);
     window.CompanyField.SetText(u"Grafikbüro Beispiel"_s);
-    window.StreetField.SetText(u"Lindenstraße 7"_s);
-    window.ZipField.SetText(u"50674"_s);
-    window.CityField.SetText(u"Köln"_s);
-    window.PhoneField.SetText(u"0221 5550143"_s);
-    album.Add(u"firma.png"_s, view);
     window.ForwardButton.Press();
     window.AccountsPopup.SetListIndex(1);
     window.OpeningBalanceField.SetText(u"250,00"_s);
