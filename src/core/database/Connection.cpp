@@ -1,11 +1,13 @@
 #include "core/database/Connection.h"
 
 #define SQLITE_HAS_CODEC 1
+#include <QThread>
 #include <sqlite3.h>
 
 namespace {
 
 constexpr int lockTimeoutMs = 5000;
+constexpr int lockPollMs = 20;
 
 } // namespace
 
@@ -26,7 +28,7 @@ bool Connection::Open(const QString &path, const QByteArray &key, Missing missin
     sqlite3 *handle = nullptr;
     const int result = sqlite3_open_v2(name.constData(), &handle, flags, nullptr);
     handle_.reset(handle);
-    return Note(result) && Note(sqlite3_busy_timeout(handle, lockTimeoutMs)) && Unlock(key) &&
+    return Note(result) && Note(sqlite3_busy_handler(handle, &WaitForLock, this)) && Unlock(key) &&
            Settle();
 }
 
@@ -64,6 +66,22 @@ bool Connection::Note(int resultCode) {
         resultCode == SQLITE_OK || resultCode == SQLITE_ROW || resultCode == SQLITE_DONE;
     message_ = fine ? QString() : QString::fromUtf8(sqlite3_errmsg(Handle()));
     return fine;
+}
+
+int Connection::WaitForLock(void *connection, int attempts) {
+    auto &self = *static_cast<Connection *>(connection);
+    if (!self.restBehindWait_.hasExpired()) {
+        return 0;
+    }
+    if (attempts == 0) {
+        self.lockWait_.setRemainingTime(lockTimeoutMs);
+    }
+    if (self.lockWait_.hasExpired()) {
+        self.restBehindWait_.setRemainingTime(lockTimeoutMs);
+        return 0;
+    }
+    QThread::msleep(lockPollMs);
+    return 1;
 }
 
 void Connection::NoteFailure(const QString &message) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDeadlineTimer>
 #include <QString>
 
 #include <memory>
@@ -10,6 +11,9 @@ struct sqlite3;
 /// An open SQLCipher database and the outcome of the last operation on it. It is shared by the
 /// database object and by all statements and record sets that came from it, and closes with the
 /// last.
+///
+/// A file that another program has locked is waited for up to 5 s. Behind a wait in vain nothing
+/// waits for as long again: one command runs many statements, and the user waits but once.
 class Connection {
 public:
     enum class Missing { Refuse, Create };
@@ -44,8 +48,11 @@ private:
     bool Open(const QString &path, const QByteArray &key, Missing missing);
     bool Unlock(const QByteArray &key);
     bool Settle();
+    static int WaitForLock(void *connection, int attempts);
 
     std::unique_ptr<sqlite3, Closer> handle_;
     QString message_;
+    QDeadlineTimer lockWait_;
+    QDeadlineTimer restBehindWait_;
     bool open_ = false; // Behind what opening writes to.
 };

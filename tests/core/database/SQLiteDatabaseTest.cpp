@@ -101,8 +101,6 @@ TEST(SQLiteDatabase, WaitsForAnotherProgramButNotForEver) {
         other.Commit();
     };
     other.SQLExecute(u"BEGIN EXCLUSIVE"_s);
-    book.app.kvoDB().SQLExecute(u"UPDATE cash_book SET name = 'zu früh'"_s);
-    EXPECT_EQ(book.app.kvoDB().ErrorMessage(), u"database is locked"_s);
     std::jthread release(letGo);
     book.Run(u"UPDATE cash_book SET name = 'Laden'"_s);
     release.join();
@@ -116,6 +114,16 @@ TEST(SQLiteDatabase, WaitsForAnotherProgramButNotForEver) {
     release = std::jthread(letGo);
     records->Update();
     EXPECT_EQ(book.app.kvoDB().ErrorMessage(), QString());
+    release.join();
+    EXPECT_EQ(name(), u"Markt"_s);
+
+    // What follows a wait in vain would find the file open again, if it waited in turn.
+    other.SQLExecute(u"BEGIN EXCLUSIVE"_s);
+    book.app.kvoDB().SQLExecute(u"UPDATE cash_book SET name = 'zu früh'"_s);
+    EXPECT_EQ(book.app.kvoDB().ErrorMessage(), u"database is locked"_s);
+    release = std::jthread(letGo);
+    book.app.kvoDB().SQLExecute(u"UPDATE cash_book SET name = 'zu früh'"_s);
+    EXPECT_EQ(book.app.kvoDB().ErrorMessage(), u"database is locked"_s);
     release.join();
     EXPECT_EQ(name(), u"Markt"_s);
 }
