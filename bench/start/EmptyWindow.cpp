@@ -11,7 +11,7 @@
 /// Opens the file of the first argument with the key of the second, steps the statements that
 /// follow, and shows an empty window.
 int main(int argc, char *argv[]) {
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
     sqlite3 *book = nullptr;
     sqlite3_open_v2(argv[1], &book, SQLITE_OPEN_READWRITE, nullptr);
     sqlite3_key(book, argv[2], static_cast<int>(std::strlen(argv[2])));
@@ -24,7 +24,7 @@ int main(int argc, char *argv[]) {
     }
     QWidget window;
     window.setObjectName(QStringLiteral("EmptyWindow"));
-    const PaintWatch watch(window.objectName());
+    new PaintWatch(window.objectName(), &application);
     window.show();
     const int result = QApplication::exec();
     sqlite3_close_v2(book);

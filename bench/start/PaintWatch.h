@@ -10,8 +10,9 @@
 /// it, and ends the program.
 class PaintWatch : public QObject {
 public:
-    explicit PaintWatch(const QString &window) : window_(window) {
-        QCoreApplication::instance()->installEventFilter(this);
+    PaintWatch(const QString &window, QCoreApplication *application)
+        : QObject(application), window_(window) {
+        application->installEventFilter(this);
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override {
