@@ -28,15 +28,15 @@ std::string Digits(double value) {
 
 /// Adds one to the last digit of a text of digits and one dot.
 void AddOneUnit(std::string &digits) {
-    for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit) {
-        if (*digit == '.') {
+    for (size_t i = digits.size(); i-- > 0;) {
+        if (digits[i] == '.') {
             continue;
         }
-        if (*digit != '9') {
-            ++*digit;
+        if (digits[i] != '9') {
+            ++digits[i];
             return;
         }
-        *digit = '0';
+        digits[i] = '0';
     }
     digits.insert(0, 1, '1');
 }
