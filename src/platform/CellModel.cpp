@@ -91,7 +91,8 @@ QString CellModel::Cell(int row, int column) const {
     }
     QString lines;
     for (int each = 0; each < ListCount(); ++each) {
-        lines += Cell(each, column) + u'\n';
+        lines += Cell(each, column);
+        lines += u'\n';
     }
     lines.chop(1);
     return lines;
@@ -100,7 +101,8 @@ QString CellModel::Cell(int row, int column) const {
 QString CellModel::JoinedCells(int row) const {
     QString cells;
     for (const Column &column : columns_) {
-        cells += column.cells[static_cast<size_t>(row)] + u'\t';
+        cells += column.cells[static_cast<size_t>(row)];
+        cells += u'\t';
     }
     cells.chop(1);
     return cells;

@@ -32,8 +32,8 @@ void Transliterate(icu::UnicodeString &text, const UConverter *converter) {
     }
 }
 
-/// Nearly every text: Latin-1, which is all in the code page but for its control characters.
-bool IsPlain(const QString &text) {
+/// Nearly every text: the code page has all of Latin-1 in its place, but for control characters.
+bool IsLatin1(const QString &text) {
     return std::all_of(text.begin(), text.end(), [](QChar letter) {
         return letter < QChar(0x80) || (letter >= QChar(0xa0) && letter <= QChar(0xff));
     });
@@ -44,11 +44,12 @@ bool IsPlain(const QString &text) {
 QByteArray Encodings::WindowsANSI(const QString &text) {
     // What is typed as a letter and its accent is one character in the code page.
     const QString composed = text.normalized(QString::NormalizationForm_C);
+    if (IsLatin1(composed)) {
+        return composed.toLatin1();
+    }
     icu::UnicodeString unicode(composed.utf16(), static_cast<int32_t>(composed.size()));
     const Converter converter = OpenConverter();
-    if (!IsPlain(composed)) {
-        Transliterate(unicode, converter.get());
-    }
+    Transliterate(unicode, converter.get());
     UErrorCode status = U_ZERO_ERROR;
     QByteArray bytes(UCNV_GET_MAX_BYTES_FOR_STRING(unicode.length(), 1), Qt::Uninitialized);
     bytes.resize(ucnv_fromUChars(converter.get(), bytes.data(), static_cast<int32_t>(bytes.size()),

@@ -38,7 +38,10 @@ QString NthField(QStringView text, QChar separator, int number) {
 }
 
 QString ReplaceLineEndings(QString text, const QString &ending) {
-    return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').replace(u"\n"_s, ending);
+    if (text.contains(u'\r')) {
+        text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+    }
+    return text.replace(u"\n"_s, ending);
 }
 
 bool SameText(QStringView a, QStringView b) {

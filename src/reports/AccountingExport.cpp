@@ -22,9 +22,11 @@ constexpr Headings headingsOfRecord = {u"Belegdatum", u"Buchungsbetrag", u"Steue
                                        u"Sollkonto",  u"Habenkonto",     u"Währung",
                                        u"Notiz",      u"Intern"};
 
-struct PostingRecord {
-    std::array<QString, AccountingExport::columnCount> cells;
-    QString id;
+using Cells = std::array<QString, AccountingExport::columnCount>;
+
+struct PostingRecords {
+    std::array<std::vector<QString>, AccountingExport::columnCount> columns;
+    std::vector<QString> ids;
 };
 
 void SetHeadings(Listbox &list, const Headings &headings) {
@@ -44,14 +46,22 @@ public:
           account_(bookings.Field("account"_L1)), cbaccount_(bookings.Field("cbaccount"_L1)),
           note_(bookings.Field("note"_L1)) {}
 
-    PostingRecord Read() {
+    void ReadInto(PostingRecords &records) {
         const bool isReceipt = type_.IsCode("E");
-        return {.cells = {GermanDate(), locale_.FormatAmount(amount_.DoubleValue()),
-                          shared_.Of(tax_), shared_.Of(taxname_), shared_.Of(category_),
-                          salesnumber_.StringValue(), shared_.Of(isReceipt ? cbaccount_ : account_),
-                          shared_.Of(isReceipt ? account_ : cbaccount_), currency_,
-                          note_.StringValue()},
-                .id = id_.StringValue()};
+        Cells cells = {GermanDate(),
+                       locale_.FormatAmount(amount_.DoubleValue()),
+                       shared_.Of(tax_),
+                       shared_.Of(taxname_),
+                       shared_.Of(category_),
+                       salesnumber_.StringValue(),
+                       shared_.Of(isReceipt ? cbaccount_ : account_),
+                       shared_.Of(isReceipt ? account_ : cbaccount_),
+                       currency_,
+                       note_.StringValue()};
+        for (size_t column = 0; column < cells.size(); ++column) {
+            records.columns[column].push_back(std::move(cells[column]));
+        }
+        records.ids.push_back(id_.StringValue());
     }
 
 private:
@@ -73,23 +83,26 @@ private:
     QString currency_ = u"EUR"_s;
 };
 
-std::vector<PostingRecord> ReadAll(RecordSet *bookings, const UserLocale &locale) {
-    std::vector<PostingRecord> records;
+PostingRecords ReadAll(RecordSet *bookings, const UserLocale &locale) {
+    PostingRecords records;
     if (bookings != nullptr) {
         for (RecordReader reader(*bookings, locale); !bookings->AtEnd(); bookings->MoveNext()) {
-            records.push_back(reader.Read());
+            reader.ReadInto(records);
         }
     }
     return records;
 }
 
-void AddRecord(Listbox &list, const PostingRecord &record) {
-    list.AddRow(record.cells.front());
-    const int row = list.LastIndex();
-    for (int column = 1; column < list.ColumnCount(); ++column) {
-        list.SetCell(row, column, record.cells[static_cast<size_t>(column)]);
+void Fill(Listbox &list, PostingRecords records) {
+    const Listbox::Refill refill(list);
+    list.DeleteAllRows();
+    for (const QString &id : records.ids) {
+        list.AddRow({});
+        list.SetRowTag(list.LastIndex(), id);
     }
-    list.SetRowTag(row, record.id);
+    for (int column = 0; column < list.ColumnCount(); ++column) {
+        list.SetColumn(column, std::move(records.columns[static_cast<size_t>(column)]));
+    }
 }
 
 } // namespace
@@ -107,15 +120,11 @@ void AccountingExport::ExportJournal() {
         "CJ JOIN cash_tax AS ct ON cj.tax = ct.value JOIN cash_book AS cb ON cj.cashbookID = cb.id "
         "WHERE "_s +
         selectors_.CashbookAndYearCondition() + u" ORDER BY vdate"_s);
-    const std::vector<PostingRecord> records = ReadAll(bookings.get(), app_.Locale());
+    PostingRecords records = ReadAll(bookings.get(), app_.Locale());
     // A damaged page shows only on the way: half a year must not pass for a whole one.
     if (app_.ReportError() || !bookings) {
         return;
     }
-    const Listbox::Refill refill(ExportList);
-    ExportList.DeleteAllRows();
     SetHeadings(ExportList, headingsOfRecord);
-    for (const PostingRecord &record : records) {
-        AddRecord(ExportList, record);
-    }
+    Fill(ExportList, std::move(records));
 }
