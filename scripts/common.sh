@@ -2,9 +2,11 @@
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
+# With "package", the section of that name as well.
 install_missing() {
-    local wanted missing=() root=()
-    wanted=$(sed -e 's/#.*//' -e '/^\s*$/d' "$top/scripts/packages.txt")
+    local wanted missing=() root=() leave_out='/^\[package\]/,$d'
+    [ "${1:-}" != package ] || leave_out='/^\[package\]/d'
+    wanted=$(sed -e 's/#.*//' -e '/^\s*$/d' -e "$leave_out" "$top/scripts/packages.txt")
     local installed
     # Exits with 1 when a package is unknown; the comparison below sees that.
     # shellcheck disable=SC2086

@@ -1,0 +1,31 @@
+# The Debian package, which scripts/package makes and checks.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME zolmark)
+set(CPACK_PACKAGE_CONTACT "Zolmark developers <developers@zolmark.example>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "cash book for the self-employed in Germany")
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+"Zolmark keeps receipts and expenses with date, amount, tax key, category,
+voucher number and note, in a main cash book and any number of side cash
+books, by year and month, with their running balance.
+.
+It prints the cash report and exports the bookings for the accountant. One
+person, one machine, one keyed database file. The program speaks German.")
+set(CPACK_DEBIAN_PACKAGE_SECTION non-free/misc) # Nobody has been given a licence.
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${ZOLMARK_HOMEPAGE})
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_STRIP_FILES ON)
+
+# The libraries are found from the program. By hand what it loads when it runs: the toolkit's German
+# texts, letters, the report's Courier.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core, fonts-urw-base35, qt6-translations-l10n")
+# Wayland's windows, and what opens the manual and the web pages. X11's windows are in libqt6gui6.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, xdg-utils")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "evince | pdf-viewer")
+
+include(CPack)
