@@ -2,7 +2,6 @@
 
 #include <QDir>
 
-#include <thread>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -88,36 +87,6 @@ TEST(SQLiteDatabase, StopsAScriptAtItsFirstFailingStatement) {
     EXPECT_TRUE(book.app.kvoDB().ErrorMessage().contains(u"missing"_s));
     EXPECT_EQ(book.Value(u"SELECT name FROM cash_book"_s), u"a"_s);
     EXPECT_FALSE(book.app.kvoDB().Error());
-}
-
-TEST(SQLiteDatabase, WaitsForAnotherProgramButNotForEver) {
-    Book book(Book::Place::File);
-    const auto name = [&book] { return book.Value(u"SELECT name FROM cash_book"_s); };
-    SQLiteDatabase other;
-    book.app.UseDefaultFile(other);
-    ASSERT_TRUE(other.Connect());
-    const auto letGo = [&other] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(300));
-        other.Commit();
-    };
-    other.SQLExecute(u"BEGIN EXCLUSIVE"_s);
-    book.app.kvoDB().SQLExecute(u"UPDATE cash_book SET name = 'zu früh'"_s);
-    EXPECT_EQ(book.app.kvoDB().ErrorMessage(), u"database is locked"_s);
-    std::jthread release(letGo);
-    book.Run(u"UPDATE cash_book SET name = 'Laden'"_s);
-    release.join();
-    EXPECT_EQ(name(), u"Laden"_s);
-
-    // A row that was read is no reason for the other program to wait in turn.
-    const auto records = book.app.kvoDB().SQLSelect(u"SELECT * FROM cash_book"_s);
-    records->Edit();
-    records->Field("name"_L1).SetStringValue(u"Markt"_s);
-    other.SQLExecute(u"BEGIN IMMEDIATE"_s);
-    release = std::jthread(letGo);
-    records->Update();
-    EXPECT_EQ(book.app.kvoDB().ErrorMessage(), QString());
-    release.join();
-    EXPECT_EQ(name(), u"Markt"_s);
 }
 
 } // namespace

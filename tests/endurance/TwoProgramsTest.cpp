@@ -1,0 +1,81 @@
+#include "endurance/Child.h"
+#include "endurance/Endurance.h"
+#include "endurance/Program.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Programs of their own processes on one book.
+class TwoPrograms : public Endurance {
+protected:
+    /// Books, changes every other booking, and tells the line that each of them must have.
+    void Work(const QString &name, const Child::Tell &tell) {
+        Program program(desktop);
+        Listbox &list = program.window->journal.CashList;
+        for (int i = 0; i < 20; ++i) {
+            const QString number = u"%1-%2"_s.arg(name).arg(i);
+            const int times = 1 + Any(500);
+            program.Submit(number, u"1.50"_s, times);
+            if (i % 2 == 0) {
+                const auto numbers = list.Cell(-1, Journal::SaleNumber).split(u'\n');
+                list.SetListIndex(int(numbers.indexOf(number)));
+                program.Change(u"2.50"_s);
+            }
+            EXPECT_EQ(desktop.TakeMessages(), QString());
+            tell(Program::Line(number, i % 2 == 0 ? u"2.50"_s : u"1.50"_s, times).toUtf8());
+        }
+    }
+
+    FakeDesktop desktop;
+};
+
+TEST_F(TwoPrograms, LoseAndDoubleNothing) {
+    Run(4, [this] {
+        {
+            const Program program(desktop);
+            program.app.kvoDB().SQLExecute(u"DELETE FROM cash_journal"_s);
+        }
+        QStringList told;
+        {
+            Child first([this](const Child::Tell &tell) { Work(u"a"_s, tell); });
+            Child second([this](const Child::Tell &tell) { Work(u"b"_s, tell); });
+            for (Child *child : {&first, &second}) {
+                for (QByteArray line = child->Line(); !line.isEmpty(); line = child->Line()) {
+                    told.append(QString::fromUtf8(line));
+                }
+                EXPECT_TRUE(child->Succeeds());
+            }
+        }
+        told.sort();
+        const Program program(desktop);
+        EXPECT_EQ(program.Stored().join(u'\n'), told.join(u'\n'));
+        EXPECT_TRUE(program.IsSound());
+        counts["bookings reported"] += int(told.size());
+        counts["found"] += int(program.Stored().size());
+    });
+}
+
+TEST_F(TwoPrograms, WaitButNotForEver) {
+    static_cast<void>(Program(desktop));
+    Run(1, [this] {
+        Child other([this](const Child::Tell &tell) {
+            const Program program(desktop);
+            program.app.kvoDB().SQLExecute(u"BEGIN IMMEDIATE"_s);
+            tell("locked");
+            pause();
+        });
+        EXPECT_EQ(other.Line(), "locked");
+        Program program(desktop);
+        const QStringList before = program.Stored();
+        program.Submit(u"1"_s, u"1.00"_s);
+        EXPECT_EQ(desktop.TakeMessages(), u"database is locked"_s);
+        EXPECT_TRUE(other.Kill());
+        EXPECT_EQ(program.Stored(), before);
+        program.Submit(u"1"_s, u"1.00"_s);
+        EXPECT_EQ(program.Stored().size(), before.size() + 1);
+        ++counts["waits told"];
+    });
+}
+
+} // namespace
