@@ -13,7 +13,7 @@ protected:
     void Work(const QString &name, const Child::Tell &tell) {
         Program program(desktop);
         Listbox &list = program.window->journal.CashList;
-        for (int i = 0; i < 20; ++i) {
+        for (int i = 0; i < 12; ++i) {
             const QString number = u"%1-%2"_s.arg(name).arg(i);
             const int times = 1 + Any(500);
             program.Submit(number, u"1.50"_s, times);
