@@ -16,24 +16,21 @@ protected:
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         return file.readAll();
     }
-    /// Cuts the bytes, writes others behind or over them, or flips some.
+    /// Cuts the bytes, writes others behind or over them, or flips one bit.
     QByteArray Damaged(QByteArray bytes) {
-        const int place = Any(int(bytes.size()));
+        const qsizetype place = Any(int(bytes.size()));
         const QByteArray other(1 + Any(3000), char(Any(256)));
         switch (Any(5)) {
         case 0:
             return bytes.left(place);
         case 1:
-            return bytes.left(place / 1024 * 1024);
+            return bytes.left(place / 1024 * 1024); // Behind a page.
         case 2:
             return bytes + other;
         case 3:
             return bytes.replace(place, Any(2) == 0 ? other.size() : Any(3000), other);
         default:
-            for (int flips = 1 + Any(4); flips > 0; --flips) {
-                char &byte = bytes[Any(int(bytes.size()))];
-                byte = char(byte ^ (1 << Any(8)));
-            }
+            bytes[place] = char(bytes[place] ^ (1 << Any(8)));
             return bytes;
         }
     }
@@ -66,7 +63,7 @@ protected:
 TEST_F(Damage, IsToldAndMadeNoWorse) {
     {
         Program program(desktop);
-        for (int i = 0; i < 60; ++i) {
+        for (int i = 0; i < 30; ++i) {
             program.window->entryRow.DateField.SetDateValue(Date(QDate(2026 + i % 2, 1, 1)));
             program.Submit(u"R%1"_s.arg(i), QString::number(i));
         }

@@ -38,19 +38,10 @@ TEST(SQLiteDatabase, LeavesAFileThatItCannotReadAsItIs) {
     Book book(Book::Place::File);
     const QByteArray keyed = Bytes(book.app.DefaultDatabaseFile().Path());
     const QByteArray text = QByteArray("Kein Kassenbuch. ").repeated(200);
-    QByteArray damaged = keyed;
-    damaged[100] = char(~damaged[100]);
-    // The last but two are cut, in a page and behind one.
-    const std::tuple<QByteArray, QByteArray, bool> cases[] = {{keyed, fixedKey, true},
-                                                              {"", fixedKey, true},
-                                                              {"xy", fixedKey, false},
-                                                              {text, fixedKey, false},
-                                                              {text, "", false},
-                                                              {keyed, "rk7WPNdTLqhvM5", false},
-                                                              {keyed, "", false},
-                                                              {keyed.left(1500), fixedKey, false},
-                                                              {keyed.left(4096), fixedKey, false},
-                                                              {damaged, fixedKey, false}};
+    const std::tuple<QByteArray, QByteArray, bool> cases[] = {
+        {keyed, fixedKey, true}, {"", fixedKey, true}, {"xy", fixedKey, false},
+        {text, fixedKey, false}, {text, "", false},    {keyed, "rk7WPNdTLqhvM5", false},
+        {keyed, "", false}};
     const QDir folder(book.desktop.Path(u"files"_s));
     ASSERT_TRUE(folder.mkpath(u"."_s));
     for (const auto &[content, key, opens] : cases) {
