@@ -39,26 +39,10 @@ protected:
     /// A text of pieces that programs stumble over.
     QString OddText() {
         using namespace Qt::StringLiterals;
-        static const QStringList pieces = {u"'); DROP TABLE cash_journal; --"_s,
-                                           u"'"_s,
-                                           u"\""_s,
-                                           u"%1 %2"_s,
-                                           u"?1"_s,
-                                           u"\0"_s,
-                                           u"\t\r\n"_s,
-                                           u"\u001b[2J"_s,
-                                           u"\u0085\u2028"_s,
-                                           u"e\u0301"_s,
-                                           u"\U0010FFFF"_s,
-                                           u"\u202Eab\u202C\u200F"_s,
-                                           u"\uFFFE"_s,
-                                           u"\uFDD0"_s,
-                                           u"\U0001F469\u200D\U0001F4BB"_s,
-                                           u"ßİǅﬃ"_s,
-                                           u" \u00A0"_s,
-                                           u";"_s,
-                                           u"Müller"_s,
-                                           u"NULL"_s};
+        static const QStringList pieces =
+            u"'|\"|;|\0|%1 %2|?1|NULL|Müller|ßİǅﬃ|e\u0301| \u00A0|\t\r\n|\u001b[2J|\u0085\u2028|"
+            "'); DROP TABLE cash_journal; --|\u202Eab\u202C\u200F|\U0001F469\u200D\U0001F4BB|"
+            "\U0010FFFF|\uFFFE|\uFDD0"_s.split(u'|');
         QString text;
         for (int count = 1 + Any(6); count > 0; --count) {
             const QString piece =
