@@ -84,6 +84,7 @@ TEST_F(Refusal, IsToldAndLeavesWhatWasThere) {
              at.window->MenuAction(u"delete"_s);
          }}};
     Run(60, [&] {
+        static_cast<void>(book.Delete());
         Program later(desktop);
         later.Submit(QString::number(random()), u"2.50"_s);
         EXPECT_TRUE(exported.open(QIODevice::WriteOnly) && exported.write("before") > 0);
