@@ -1,9 +1,5 @@
 #include "support/BookTest.h"
 
-#include <QFile>
-
-#include <random>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -31,47 +27,6 @@ TEST_F(BalancesTest, CarryEarlierBookingsIntoThePeriodAndSumATypeOverAllCashBook
     EXPECT_EQ(window.balances.CalcAmount(u"E"_s), u"50,30"_s);
     EXPECT_EQ(window.balances.CalcAmount(u"E"_s, u"2026-02-01"_s, u"2026-02-28"_s), u",30"_s);
     EXPECT_EQ(window.balances.CalcAmount(u"E"_s, u"2026-01-01"_s, u"2026-01-31"_s), u",00"_s);
-}
-
-TEST(Balances, TellOfADamagedPageAndShowNoSum) {
-    Book book(Book::Place::File);
-    book.Run(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 2000) "
-             "INSERT INTO cash_journal (vdate, type, amount, cashbookID) "
-             "SELECT '2025-01-01', 'E', 1, 1 FROM n"_s);
-    book.app.NewDatabase();
-    QFile file(book.app.DefaultDatabaseFile().Path());
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek(file.size() / 2));
-    file.write("damaged");
-    file.close();
-    ASSERT_TRUE(book.app.DBLoad());
-    book.app.Connect();
-    MainWindow window(book.app);
-    window.Event_Open();
-    EXPECT_EQ(window.balances.OpeningBalanceLabel.Text(), u"0,00"_s);
-    EXPECT_EQ(book.desktop.TakeMessages(), u"DB Error: database disk image is malformed"_s);
-}
-
-TEST_F(BalancesTest, RunExactlyThroughAnyAmounts) {
-    std::mt19937 random(20260315);
-    std::vector<qint64> booked(1); // By id, in cents; what leaves the till is negative.
-    book.Run(u"BEGIN"_s);
-    for (int i = 0; i < 500; ++i) {
-        const auto cents = qint64(random() % (i % 9 == 0 ? 100'000'000 : 1000));
-        const bool receipt = random() % 2 == 0;
-        booked.push_back(receipt ? cents : -cents);
-        book.Add({QDate(2026, 1, 1).addDays(qint64(random() % 365)).toString(Qt::ISODate),
-                  receipt ? u"E"_s : u"A"_s, QString::number(double(cents) / 100, 'f', 2)});
-    }
-    book.Run(u"COMMIT"_s);
-    window.Event_Open();
-    ASSERT_EQ(bookings.ListCount(), 500);
-    qint64 balance = 10000;
-    for (int row = 0; row < 500; ++row) {
-        balance += booked[bookings.RowTag(row).toUInt()];
-        ASSERT_EQ(bookings.Cell(row, Journal::Balance).remove(u',').toLongLong(), balance) << row;
-    }
-    window.selectors.MonthPopup.SetListIndex(12);
-    EXPECT_EQ(window.balances.LastAmountLabel.Text().remove(u',').toLongLong(), balance);
 }
 
 } // namespace

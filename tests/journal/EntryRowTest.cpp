@@ -104,20 +104,6 @@ TEST_F(EntryRowTest, LocksTheOtherAmountAndOffersItsSide) {
     EXPECT_EQ(tax.Text() + category.Text(), u"19% VSt."_s) << "no account of the other side";
 }
 
-TEST_F(EntryRowTest, StoresEveryTextAsItStands) {
-    for (const QString &odd :
-         {u"O'Neill; \"x\"\t\r\n'); DROP TABLE cash_journal; -- äöüß €🧾 \u0000?"_s,
-          u"\U0001F469\u200D\U0001F4BB e\u0301 „%1\t?1\n"_s, u"ß"_s.repeated(99999)}) {
-        row.SaleNumberField.SetText(odd);
-        row.NoteField.SetText(odd);
-        Submit(u"1"_s, odd);
-        for (const int column : {Journal::Category, Journal::SaleNumber, Journal::Note}) {
-            EXPECT_EQ(bookings.Cell(bookings.LastIndex(), column), odd);
-        }
-        EXPECT_EQ(Columns(u"account"_s), u""_s);
-    }
-}
-
 TEST_F(EntryRowTest, TakesTheViewToTheFirstBookingOfANewYearWithOneLoad) {
     Submit(u"1"_s);
     row.DateField.SetDateValue(Date(QDate(2027, 2, 3)));
@@ -179,26 +165,13 @@ TEST_F(ChangeTest, KeepsTheNameOfASwitchedOffAccountAndAsksForASwitchedOffTax) {
     EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Steuer auswählen!"_s);
 }
 
-TEST_F(ChangeTest, TellsWhatCouldNotBeWrittenAndLosesNothing) {
-    row.EditSale(EntryRow::EditMode::Change);
-    book.Run(u"PRAGMA query_only = ON"_s);
-    row.NoteField.SetText(u"neu"_s);
-    row.ChangeButton.Press();
-    Submit(u"1"_s);
-    bookings.SetListIndex(0);
-    row.DeleteSale();
-    EXPECT_EQ(Columns(u"id || note"_s), u"1alt"_s);
-    EXPECT_EQ(bookings.ListCount(), 1);
-    book.Run(u"PRAGMA query_only = OFF"_s);
-    bookings.SetListIndex(0);
+TEST_F(ChangeTest, TellsThatTheBookingHasGone) {
     row.EditSale(EntryRow::EditMode::Change);
     book.Run(u"DELETE FROM cash_journal"_s); // By another program.
     row.ChangeButton.Press();
     EXPECT_TRUE(row.SubmitButton.Visible());
-    EXPECT_EQ(
-        book.desktop.TakeMessages() + Count(),
-        u"DB Error: attempt to write a readonly database|attempt to write a readonly database|"
-        "DB Error: Der Datensatz ist nicht mehr vorhanden.0"_s);
+    EXPECT_EQ(book.desktop.TakeMessages() + Count(),
+              u"DB Error: Der Datensatz ist nicht mehr vorhanden.0"_s);
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 
 #include "shell/MainWindow.h"
 #include "support/Book.h"
-#include "support/FullDisk.h"
 
 #include <QFile>
 
@@ -51,21 +50,6 @@ TEST_F(WelcomeWindowTest, MakesTheSampleBookInMemoryAlone) {
     EXPECT_EQ(bookings.Cell(-1, Journal::Balance), u"238,89\n234,39\n167,94\n180,84\n280,84"_s);
     EXPECT_EQ(window.balances.OpeningBalanceLabel.Text(), u"88,90"_s);
     EXPECT_FALSE(desktop.ApplicationData().Exists());
-}
-
-TEST_F(WelcomeWindowTest, HandsOverToTheMainWindowEvenOnADamagedFile) {
-    FillCompany(u"Holz"_s);
-    welcome.SaveButton.Press();
-    app.NewDatabase();
-    ASSERT_TRUE(QFile::resize(app.DefaultDatabaseFile().Path(), 1500));
-    Told();
-    welcome.Event_Open();
-    EXPECT_EQ(Told(), u"Closed MainWindowWanted DB Connection Error: "
-                      "database disk image is malformed"_s);
-    MainWindow window(app);
-    window.Event_Open();
-    EXPECT_EQ(window.selectors.CashbookPopup.ListCount(), 0);
-    EXPECT_TRUE(Told().startsWith(u"DB Error: "_s));
 }
 
 TEST_F(WelcomeWindowTest, MakesABookWithTheChosenChart) {
@@ -144,23 +128,6 @@ TEST_F(WelcomeWindowTest, TellsWhenTheFolderIsAFile) {
               u"Die Datenbank konnte nicht erstellt werden: unable to open database file"_s);
     welcome.Event_Close();
     EXPECT_TRUE(file.exists());
-}
-
-TEST_F(WelcomeWindowTest, LeavesNothingBehindOnAFullDisk) {
-    FillCompany(u"Holz"_s);
-    for (const rlim_t bytes : {0U, 1024U, 5000U, 9000U}) {
-        {
-            const FullDisk disk(bytes);
-            welcome.SaveButton.Press();
-        }
-        EXPECT_EQ(signalled, u""_s);
-        const QString message = Told();
-        EXPECT_TRUE(!message.isEmpty() && !message.contains(u'|')) << bytes;
-    }
-    welcome.Event_Close();
-    EXPECT_FALSE(app.DefaultDatabaseFile().Exists());
-    welcome.SaveButton.Press();
-    EXPECT_EQ(Told(), u"MainWindowWanted Closed "_s);
 }
 
 } // namespace

@@ -14,7 +14,7 @@ public:
         const auto known = texts_.constFind(QByteArray::fromRawData(text.data(), text.size()));
         return known != texts_.constEnd()
                    ? *known
-                   : *texts_.insert(QByteArray(text.data(), text.size()), text.toString());
+                   : *texts_.insert(QByteArray(text.data(), text.size()), field.StringValue());
     }
 
 private:

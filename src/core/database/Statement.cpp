@@ -1,5 +1,6 @@
 #include "core/database/Statement.h"
 
+#include <QStringDecoder>
 #include <sqlite3.h>
 
 void Statement::Finalizer::operator()(sqlite3_stmt *handle) const {
@@ -59,6 +60,16 @@ Statement::Kind Statement::ColumnKind(int column) const {
     default:
         return Kind::Text;
     }
+}
+
+QString Statement::Text(int column) const {
+    const QUtf8StringView raw = RawText(column);
+    const QByteArrayView bytes(raw.data(), raw.size());
+    // At the start of a text this mark is a letter of it, which the plain way would drop.
+    return bytes.startsWith("\xEF\xBB\xBF")
+               ? QStringDecoder(QStringDecoder::Utf8,
+                                QStringDecoder::Flag::ConvertInitialBom)(bytes)
+               : raw.toString();
 }
 
 QUtf8StringView Statement::RawText(int column) const {

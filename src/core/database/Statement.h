@@ -34,7 +34,7 @@ public:
 
     enum class Kind { Null, Number, Text };
     Kind ColumnKind(int column) const;
-    QString Text(int column) const { return RawText(column).toString(); }
+    QString Text(int column) const;
     /// The same as the library holds it, until the next step.
     QUtf8StringView RawText(int column) const;
     double Number(int column) const;

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "setup/WelcomeWindow.h"
+#include "shell/MainWindow.h"
+#include "support/Book.h"
+
+#include <optional>
+
+/// The program from its start, without a widget: the welcome window makes a book if there is none,
+/// and opens the main window. What fails is told by the desktop's messages.
+class Program {
+public:
+    explicit Program(FakeDesktop &desktop)
+        : app(desktop, UserLocale(QLocale(QLocale::German, QLocale::Germany))) {
+        QObject::connect(&welcome, &WelcomeWindow::MainWindowWanted, &welcome, [this] {
+            window.emplace(app);
+            window->Event_Open();
+        });
+        welcome.Event_Open();
+        if (!window) {
+            welcome.AccountsPopup.SetListIndex(1);
+            welcome.SaveButton.Press();
+        }
+    }
+
+    /// Books a receipt under a voucher number, with a note of so many times that number.
+    void Submit(const QString &number, const QString &amount, int times = 1) {
+        EntryRow &row = window->entryRow;
+        row.InputField.SetText(amount);
+        row.pickLists.CategoryCombo.SetListIndex(0);
+        row.SaleNumberField.SetText(number);
+        row.NoteField.SetText(number.repeated(times));
+        row.SubmitButton.Press();
+    }
+    /// Gives a booking of the list another amount.
+    void Change(int listRow, const QString &amount) {
+        window->journal.CashList.SetListIndex(listRow);
+        window->MenuAction(QStringLiteral("edit"));
+        window->entryRow.InputField.SetText(amount);
+        window->entryRow.ChangeButton.Press();
+    }
+
+    /// All bookings, sorted; each as Line tells it if it is complete.
+    QStringList Stored() const {
+        QStringList lines = Lines(QStringLiteral(
+            "SELECT CASE WHEN replace(note, salesnumber, '') = '' AND vdate || tax || category || "
+            "cashbookID || bdate || account > '' THEN salesnumber || '|' || type || '|' || "
+            "printf('%.2f', amount) || '|' || input || '|' || length(note) ELSE 'half' END "
+            "FROM cash_journal"));
+        lines.sort();
+        return lines;
+    }
+    static QString Line(const QString &number, const QString &amount, int times) {
+        return QStringLiteral("%1|E|%2|%2|%3").arg(number, amount).arg(number.size() * times);
+    }
+    /// Whether the engine finds the whole file in order.
+    bool IsSound() const {
+        // Only later versions of the engine know the second one, which names what is wrong.
+        return Lines(QStringLiteral("PRAGMA integrity_check")).join(u' ') == u"ok" &&
+               Lines(QStringLiteral("PRAGMA cipher_integrity_check")).isEmpty();
+    }
+
+    App app;
+    WelcomeWindow welcome{app};
+    /// There is none while the book could not be made.
+    std::optional<MainWindow> window;
+
+private:
+    QStringList Lines(const QString &sql) const {
+        QStringList lines;
+        const auto records = app.kvoDB().SQLSelect(sql);
+        for (; records && !records->AtEnd(); records->MoveNext()) {
+            lines.append(records->IdxField(1).StringValue());
+        }
+        EXPECT_EQ(app.kvoDB().ErrorMessage(), QString());
+        return lines;
+    }
+};

@@ -1,0 +1,76 @@
+#include "endurance/Child.h"
+#include "endurance/Endurance.h"
+#include "endurance/Program.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Programs of their own processes on one book.
+class TwoPrograms : public Endurance {
+protected:
+    /// Books, changes every other booking, and tells the line that each of them must have.
+    void Work(QChar name, int pipe) {
+        Program program(desktop);
+        const Listbox &list = program.window->journal.CashList;
+        for (int i = 0; i < 12; ++i) {
+            const QString number = name + QString::number(i);
+            const int times = 1 + Any(500);
+            program.Submit(number, u"1.50"_s, times);
+            const auto numbers = list.Cell(-1, Journal::SaleNumber).split(u'\n');
+            program.Change(i % 2 == 0 ? int(numbers.indexOf(number)) : -1, u"2.50"_s);
+            EXPECT_EQ(desktop.TakeMessages(), QString());
+            Child::Tell(pipe,
+                        Program::Line(number, i % 2 == 0 ? u"2.50"_s : u"1.50"_s, times).toUtf8());
+        }
+    }
+
+    FakeDesktop desktop;
+};
+
+TEST_F(TwoPrograms, LoseAndDoubleNothing) {
+    Run(4, [this] {
+        Program(desktop).app.kvoDB().SQLExecute(u"DELETE FROM cash_journal"_s);
+        QStringList told;
+        {
+            Child first([this](int pipe) { Work(u'a', pipe); });
+            Child second([this](int pipe) { Work(u'b', pipe); });
+            for (Child *child : {&first, &second}) {
+                for (QByteArray line = child->Line(); !line.isEmpty(); line = child->Line()) {
+                    told.append(QString::fromUtf8(line));
+                }
+                EXPECT_EQ(child->End(), 0);
+            }
+        }
+        told.sort();
+        const Program program(desktop);
+        EXPECT_EQ(program.Stored().join(u'\n'), told.join(u'\n'));
+        EXPECT_TRUE(program.IsSound());
+        counts["bookings reported"] += int(told.size());
+        counts["found"] += int(program.Stored().size());
+    });
+}
+
+TEST_F(TwoPrograms, WaitButNotForEver) {
+    Program(desktop).Submit(u"1"_s, u"1.00"_s);
+    Run(1, [this] {
+        Child other([this](int pipe) {
+            const Program program(desktop);
+            program.app.kvoDB().SQLExecute(u"BEGIN IMMEDIATE"_s);
+            Child::Tell(pipe, "locked");
+            pause();
+        });
+        EXPECT_EQ(other.Line(), "locked");
+        Program program(desktop);
+        const QStringList before = program.Stored();
+        program.Submit(u"1"_s, u"1.00"_s);
+        EXPECT_EQ(desktop.TakeMessages(), u"database is locked"_s);
+        EXPECT_EQ(other.End(SIGKILL), SIGKILL);
+        EXPECT_EQ(program.Stored(), before);
+        program.Submit(u"1"_s, u"1.00"_s);
+        EXPECT_EQ(program.Stored().size(), before.size() + 1);
+        ++counts["locks told"];
+    });
+}
+
+} // namespace
