@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QSocketNotifier>
 
+#include <algorithm>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -20,10 +21,17 @@ void HandleSignal(int /*signal*/) {
     static_cast<void>(!write(wakeUp, &byte, 1));
 }
 
+/// Linux could do it in one call, macOS can't.
+bool OpenPipe(std::array<int, 2> &ends) {
+    return pipe(ends.data()) == 0 && std::all_of(ends.begin(), ends.end(), [](int end) {
+               return fcntl(end, F_SETFD, FD_CLOEXEC) == 0 && fcntl(end, F_SETFL, O_NONBLOCK) == 0;
+           });
+}
+
 } // namespace
 
 TerminationSignals::TerminationSignals() {
-    if (pipe2(ends_.data(), O_CLOEXEC | O_NONBLOCK) != 0) {
+    if (!OpenPipe(ends_)) {
         qWarning("The end of the session will not be noticed.");
         return;
     }
