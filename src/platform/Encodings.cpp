@@ -18,25 +18,52 @@ Converter OpenConverter() {
     return converter;
 }
 
-/// Puts plain letters in the place of the characters that the converter lacks.
-void Transliterate(icu::UnicodeString &text, const UConverter *converter) {
+using Transliterator = std::unique_ptr<icu::Transliterator>;
+
+/// What puts plain letters in the place of the characters that the converter lacks.
+Transliterator OpenTransliterator(const UConverter *converter) {
     UErrorCode status = U_ZERO_ERROR;
-    const std::unique_ptr<icu::Transliterator> toPlainLetters(
+    Transliterator toPlainLetters(
         icu::Transliterator::createInstance("Any-Latin; Latin-ASCII", UTRANS_FORWARD, status));
     auto lacking = std::make_unique<icu::UnicodeSet>();
     ucnv_getUnicodeSet(converter, lacking->toUSet(), UCNV_ROUNDTRIP_SET, &status);
-    if (toPlainLetters && U_SUCCESS(status)) {
-        lacking->complement();
-        toPlainLetters->adoptFilter(lacking.release());
-        toPlainLetters->transliterate(text);
+    if (!toPlainLetters || U_FAILURE(status)) {
+        return nullptr; // Without its data files: what the code page lacks is a question mark then.
     }
+    lacking->complement();
+    toPlainLetters->adoptFilter(lacking.release());
+    return toPlainLetters;
+}
+
+/// The end of the piece that begins here: a few words, whole. A long text costs by the square of
+/// its length, for each letter put in moves all behind it.
+qsizetype EndOfPiece(QStringView text, qsizetype begin) {
+    constexpr qsizetype fewWords = 64;
+    qsizetype end = std::min(begin + fewWords, text.size());
+    while (end < text.size() && text[end - 1] > u' ' && text[end - 1] != u';') {
+        ++end;
+    }
+    return end;
 }
 
 /// Nearly every text: the code page has all of Latin-1 in its place, but for control characters.
-bool IsLatin1(const QString &text) {
+bool IsLatin1(QStringView text) {
     return std::all_of(text.begin(), text.end(), [](QChar letter) {
         return letter < QChar(0x80) || (letter >= QChar(0xa0) && letter <= QChar(0xff));
     });
+}
+
+QByteArray Convert(QStringView text, const icu::Transliterator *toPlainLetters,
+                   UConverter *converter) {
+    icu::UnicodeString unicode(text.utf16(), static_cast<int32_t>(text.size()));
+    if (toPlainLetters != nullptr) {
+        toPlainLetters->transliterate(unicode);
+    }
+    UErrorCode status = U_ZERO_ERROR;
+    QByteArray bytes(UCNV_GET_MAX_BYTES_FOR_STRING(unicode.length(), 1), Qt::Uninitialized);
+    bytes.resize(ucnv_fromUChars(converter, bytes.data(), static_cast<int32_t>(bytes.size()),
+                                 unicode.getBuffer(), unicode.length(), &status));
+    return bytes;
 }
 
 } // namespace
@@ -47,12 +74,14 @@ QByteArray Encodings::WindowsANSI(const QString &text) {
     if (IsLatin1(composed)) {
         return composed.toLatin1();
     }
-    icu::UnicodeString unicode(composed.utf16(), static_cast<int32_t>(composed.size()));
     const Converter converter = OpenConverter();
-    Transliterate(unicode, converter.get());
-    UErrorCode status = U_ZERO_ERROR;
-    QByteArray bytes(UCNV_GET_MAX_BYTES_FOR_STRING(unicode.length(), 1), Qt::Uninitialized);
-    bytes.resize(ucnv_fromUChars(converter.get(), bytes.data(), static_cast<int32_t>(bytes.size()),
-                                 unicode.getBuffer(), unicode.length(), &status));
+    const Transliterator toPlainLetters = OpenTransliterator(converter.get());
+    QByteArray bytes;
+    for (qsizetype begin = 0, end = 0; begin < composed.size(); begin = end) {
+        end = EndOfPiece(composed, begin);
+        const QStringView piece = QStringView(composed).mid(begin, end - begin);
+        bytes += IsLatin1(piece) ? piece.toLatin1()
+                                 : Convert(piece, toPlainLetters.get(), converter.get());
+    }
     return bytes;
 }
