@@ -34,9 +34,11 @@ TEST_F(OddTexts, ComeBackFromTheJournal) {
         EXPECT_EQ(QStringList({list.Cell(0, Journal::Category), list.Cell(0, Journal::SaleNumber),
                                list.Cell(0, Journal::Note)}),
                   texts);
-        book.desktop.paper.emplace();
-        window.MenuAction(u"print"_s);
-        window.MenuAction(u"export"_s);
+        if (Any(20) == 0) { // A long text takes a while.
+            book.desktop.paper.emplace();
+            window.MenuAction(u"print"_s);
+            window.MenuAction(u"export"_s);
+        }
         EXPECT_EQ(book.desktop.TakeMessages() + row.ErrorLabel.Text(), QString());
         book.Run(u"DELETE FROM cash_journal"_s);
     });

@@ -46,7 +46,8 @@ TEST_F(EntryRowTest, WritesEveryColumnOfAReceiptAndOfAnExpense) {
 
 TEST_F(EntryRowTest, KeepsAnyAmountAsTypedAndShowsTheNumberAtItsStart) {
     const QString cases = u"12.50=12.50|real=12,50 112,50;-5=-5|real=-5,00 95,00;"
-                          "1.234,56=1.234.56|text=1,23 101,23;zwölf=zwölf|text=0,00 100,00"_s;
+                          "1.234,56=1.234.56|text=1,23 101,23;zwölf=zwölf|text=0,00 100,00;"
+                          " 7 EUR= 7 EUR|text=7,00 107,00"_s;
     for (const QString &each : cases.split(u';')) {
         const QStringList texts = each.split(u'=');
         Submit(texts[0]);

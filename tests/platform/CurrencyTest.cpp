@@ -2,13 +2,10 @@
 
 #include "support/GoogleTest.h"
 
-#include <cmath>
-
 namespace {
 
 TEST(Currency, SumsExactlyAndStaysInItsRange) {
     EXPECT_EQ(Currency::FromDouble(-1.00005).ToDouble(), -1.0001);
-    EXPECT_EQ(Currency::FromDouble(std::nan("")), Currency());
     Currency sum;
     for (int i = 0; i < 10000; ++i) {
         sum += Currency::FromDouble(0.1);
