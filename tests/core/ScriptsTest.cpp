@@ -41,7 +41,6 @@ TEST(Scripts, FillTheTablesThatEveryBookStartsWith) {
     const QString rows = u"SELECT count(*) || group_concat(name || groupID || type || quote(taxID) "
                          "|| quote(note) || active) FROM cash_accounts"_s;
     const QString alike = book.Value(rows);
-    EXPECT_TRUE(alike.startsWith(u"31"_s));
     book.Run(u"DELETE FROM cash_accounts"_s);
     book.Run(ChartSKR04SQL());
     EXPECT_EQ(book.Value(rows), alike);

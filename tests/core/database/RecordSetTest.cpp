@@ -4,13 +4,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(RecordSet, WritesOnlyTheFieldsThatWereSet) {
+TEST(RecordSet, WritesOnlyTheFieldsThatWereSetAndTellsThatItsRowHasGone) {
     Book book;
     book.Add({u"2026-01-01"_s, u"E"_s, u"1"_s});
     book.Add({u"2026-01-02"_s, u"E"_s, u"2"_s});
-    const auto records = book.app.kvoDB().SQLSelect(u"SELECT * FROM cash_journal WHERE id = 2"_s);
-    records->Edit();
-    records->Field("category"_L1).SetStringValue(u"verworfen"_s);
+    const QString second = u"SELECT * FROM cash_journal WHERE id = 2"_s;
+    const auto records = book.app.kvoDB().SQLSelect(second);
+    const auto late = book.app.kvoDB().SQLSelect(second);
     records->Edit();
     records->Field("NOTE"_L1).SetStringValue(u"it's; 'new'"_s);
     records->Field("amount"_L1).SetStringValue(u"12.50"_s);
@@ -19,6 +19,11 @@ TEST(RecordSet, WritesOnlyTheFieldsThatWereSet) {
     EXPECT_EQ(book.app.kvoDB().ErrorMessage(), QString());
     EXPECT_EQ(book.Value(u"SELECT group_concat(category || note || amount) FROM cash_journal"_s),
               u"meanwhileold1.0,meanwhileit's; 'new'12.5"_s);
+    book.Run(u"DELETE FROM cash_journal"_s); // By another program.
+    late->Edit();
+    late->Field("note"_L1).SetStringValue(u"x"_s);
+    late->Update();
+    EXPECT_EQ(book.app.kvoDB().ErrorMessage(), u"Der Datensatz ist nicht mehr vorhanden."_s);
 }
 
 TEST(RecordSet, ReadsEveryKindOfValue) {
