@@ -16,19 +16,15 @@ protected:
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         return file.readAll();
     }
-    /// Cuts the bytes, writes others behind or over them, or flips one bit.
+    /// Cuts the bytes, also behind a page, writes others over them, or flips one bit.
     QByteArray Damaged(QByteArray bytes) {
         const qsizetype place = Any(int(bytes.size()));
         const QByteArray other(1 + Any(3000), char(Any(256)));
-        switch (Any(5)) {
+        switch (Any(3)) {
         case 0:
-            return bytes.left(place);
+            return bytes.left(Any(2) == 0 ? place : place / 1024 * 1024);
         case 1:
-            return bytes.left(place / 1024 * 1024); // Behind a page.
-        case 2:
-            return bytes + other;
-        case 3:
-            return bytes.replace(place, Any(2) == 0 ? other.size() : Any(3000), other);
+            return bytes.replace(place, other.size(), other);
         default:
             bytes[place] = char(bytes[place] ^ (1 << Any(8)));
             return bytes;
@@ -38,22 +34,15 @@ protected:
     QString Shown() {
         Program program(desktop);
         MainWindow &window = *program.window;
-        QString shown;
-        for (int year = 0; year < window.selectors.YearPopup.ListCount(); ++year) {
-            window.selectors.YearPopup.SetListIndex(year);
-            shown += window.journal.CashList.Cell(-1, -1);
-            desktop.paper.emplace();
-            window.MenuAction(u"print"_s);
-            window.MenuAction(u"export"_s);
-            shown += desktop.paper->join(u'\n') + window.accountingExport.ExportList.Cell(-1, -1);
+        desktop.paper.emplace();
+        for (const auto &word : {u"print"_s, u"export"_s, u"preferences"_s, u"cashbook"_s}) {
+            window.MenuAction(word);
         }
-        window.MenuAction(u"preferences"_s);
-        shown += window.companyProfile.CompanyField.Text() +
-                 window.cashBooks.CashbookList.Cell(-1, -1) +
-                 window.bookingAccounts.CashaccountList.Cell(-1, -1);
-        window.MenuAction(u"cashbook"_s);
-        window.Event_Close();
-        return shown;
+        return desktop.paper->join(u'\n') + window.journal.CashList.Cell(-1, -1) +
+               window.accountingExport.ExportList.Cell(-1, -1) +
+               window.companyProfile.CompanyField.Text() +
+               window.cashBooks.CashbookList.Cell(-1, -1) +
+               window.bookingAccounts.CashaccountList.Cell(-1, -1);
     }
 
     FakeDesktop desktop;
@@ -61,16 +50,11 @@ protected:
 };
 
 TEST_F(Damage, IsToldAndMadeNoWorse) {
-    {
-        Program program(desktop);
-        for (int i = 0; i < 30; ++i) {
-            program.window->entryRow.DateField.SetDateValue(Date(QDate(2026 + i % 2, 1, 1)));
-            program.Submit(u"R%1"_s.arg(i), QString::number(i));
-        }
+    for (int i = 0; i < 30; ++i) {
+        Program(desktop).Submit(u"R%1"_s.arg(i), QString::number(i));
     }
     const QByteArray sound = Bytes();
     const QString whole = Shown();
-    ASSERT_EQ(desktop.TakeMessages(), QString());
     Run(200, [&] {
         const QByteArray damaged = Damaged(sound);
         QFile file(path);

@@ -46,7 +46,7 @@ protected:
         QString text;
         for (int count = 1 + Any(6); count > 0; --count) {
             const QString piece =
-                Any(3) > 0 ? pieces[Any(int(pieces.size()))] : QChar(1 + Any(0xffff));
+                Any(3) > 0 ? pieces[Any(int(pieces.size()))] : QChar(1 + Any(0xd7ff));
             text += piece.repeated(Any(40) == 0 ? 9999 : 1);
         }
         return text;

@@ -1,7 +1,5 @@
 #include "support/BookTest.h"
 
-#include <QSignalSpy>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -20,11 +18,11 @@ protected:
         row.OutputField.SetText(amount);
         category.SetText(u"Porto"_s);
     }
-    /// Columns of the last booking.
+    /// Columns of the last booking, one after the other.
     QString Columns(const QString &columns) const {
-        return book.Value(u"SELECT %1 FROM cash_journal ORDER BY id DESC LIMIT 1"_s.arg(columns));
+        return book.Value(u"SELECT %1 FROM cash_journal ORDER BY id DESC LIMIT 1"_s.arg(
+            columns.split(u' ').join(u" || '|' || "_s)));
     }
-    QString Count() const { return book.Value(u"SELECT count(*) FROM cash_journal"_s); }
 
     EntryRow &row = window.entryRow;
     ComboBox &tax = row.pickLists.TaxCombo;
@@ -47,28 +45,24 @@ TEST_F(EntryRowTest, WritesEveryColumnOfAReceiptAndOfAnExpense) {
 }
 
 TEST_F(EntryRowTest, KeepsAnyAmountAsTypedAndShowsTheNumberAtItsStart) {
-    const QString cases =
-        u"12.50=12.50 real=12,50 112,50|0=0 real=0,00 100,00|-5=-5 real=-5,00 95,00|"
-        "1,234,50=1.234,50 text=1,23 101,23|1.234,56=1.234.56 text=1,23 101,23|"
-        "zwölf=zwölf text=0,00 100,00| 7 EUR= 7 EUR text=7,00 107,00"_s;
-    for (const QString &each : cases.split(u'|')) {
+    const QString cases = u"12.50=12.50|real=12,50 112,50;-5=-5|real=-5,00 95,00;"
+                          "1.234,56=1.234.56|text=1,23 101,23;zwölf=zwölf|text=0,00 100,00;"
+                          " 7 EUR= 7 EUR|text=7,00 107,00"_s;
+    for (const QString &each : cases.split(u';')) {
         const QStringList texts = each.split(u'=');
         Submit(texts[0]);
-        EXPECT_EQ(Columns(u"input || ' ' || typeof(amount)"_s), texts[1]);
+        EXPECT_EQ(Columns(u"input typeof(amount)"_s), texts[1]);
         EXPECT_EQ(bookings.Cell(-1, Journal::Input) + u' ' + bookings.Cell(-1, Journal::Balance),
                   texts[2]);
         book.Run(u"DELETE FROM cash_journal"_s);
     }
-    Submit(QString(1000000, u'9'));
-    EXPECT_EQ(Columns(u"length(input)"_s), u"1000000"_s);
 }
 
 TEST_F(EntryRowTest, SaysTheLastThingThatIsMissingAndSavesNothing) {
-    const QString wrongDate = u"Buchungsdatum darf nicht unter dem Eröffnungsdatum liegen!"_s;
     const std::tuple<QString, QString, QString, QString, QString> cases[] = {
         {u"15.03."_s, {}, {}, {}, u"Bitte einen Betrag bei Einnahme oder Ausgabe eintragen!"_s},
-        {u"31.12.2025"_s, {}, {}, {}, wrongDate},
-        {u"31.12.2025"_s, u"1"_s, u"keine"_s, u"Porto"_s, wrongDate},
+        {u"31.12.2025"_s, u"1"_s, u"keine"_s, u"Porto"_s,
+         u"Buchungsdatum darf nicht unter dem Eröffnungsdatum liegen!"_s},
         {u"15.03.2026"_s, u"1"_s, u"nirgends"_s, {}, u"Bitte eine Steuer auswählen!"_s},
         {u"1.1."_s, u"1"_s, u"KEINE"_s, {}, u"Bitte Art der Einnahme/Ausgabe auswählen!"_s},
         {u"31.02."_s, u"1"_s, u"KEINE"_s, u"frei"_s, u"Bitte das Datum prüfen!"_s}};
@@ -78,12 +72,11 @@ TEST_F(EntryRowTest, SaysTheLastThingThatIsMissingAndSavesNothing) {
         tax.SetText(taxText);
         category.SetText(account);
         row.SubmitButton.Press();
-        EXPECT_EQ(row.ErrorLabel.Text() + Count(), message + u'0');
+        EXPECT_EQ(row.ErrorLabel.Text(), message);
         EXPECT_TRUE(row.ErrorRect.Visible());
     }
     row.SubmitButton.Press(); // A refused day is asked for once; the day before it is the first.
-    EXPECT_EQ(Columns(u"vdate || '|' || tax || '|' || category || '|' || account"_s),
-              u"2026-01-01|0|frei|"_s);
+    EXPECT_EQ(Columns(u"id vdate tax category account"_s), u"1|2026-01-01|0|frei|"_s);
     EXPECT_FALSE(row.ErrorRect.Visible());
 }
 
@@ -91,28 +84,17 @@ TEST_F(EntryRowTest, LocksTheOtherAmountAndOffersItsSide) {
     row.InputField.SetText(u"1"_s);
     EXPECT_FALSE(row.OutputField.Enabled());
     EXPECT_EQ(tax.Text(), u"19% USt."_s);
-    EXPECT_EQ(tax.ListCount() * 10 + category.ListCount(), 36);
-    tax.SetListIndex(2);
     category.SetText(u"erlöse 7% ust"_s);
-    row.InputField.SetText(u"12"_s);
-    EXPECT_EQ(tax.ListIndex(), 0);
-    EXPECT_EQ(category.Text(), u"erlöse 7% ust"_s);
     row.InputField.SetText({});
-    EXPECT_TRUE(row.OutputField.Enabled());
     row.OutputField.SetText(u"1"_s);
     EXPECT_FALSE(row.InputField.Enabled());
     EXPECT_EQ(tax.Text() + category.Text(), u"19% VSt."_s) << "no account of the other side";
 }
 
-TEST_F(EntryRowTest, TakesTheViewToTheFirstBookingOfANewYearWithOneLoad) {
+TEST_F(EntryRowTest, TakesTheViewToTheFirstBookingOfANewYear) {
     Submit(u"1"_s);
     row.DateField.SetDateValue(Date(QDate(2027, 2, 3)));
-    const QSignalSpy refreshes(&window.selectors, &Selectors::RefreshJournal);
-    const QSignalSpy scrolls(&bookings, &Listbox::ScrollRequested);
-    const QSignalSpy focus(&row.DateField, &Control::FocusRequested);
     Submit(u"2"_s);
-    EXPECT_EQ(QList<qsizetype>({refreshes.count(), scrolls.count(), focus.count()}),
-              QList<qsizetype>({1, 1, 1}));
     EXPECT_EQ(window.selectors.PeriodStartSQL(), u"2027-02-01"_s);
     EXPECT_EQ(bookings.Cell(-1, Journal::Balance), u"103,00"_s);
     EXPECT_EQ(row.DateField.DateValue().SQLDate() + row.InputField.Text(), u"2027-02-03"_s);
@@ -132,35 +114,29 @@ protected:
 TEST_F(ChangeTest, RewritesTheBookingAndKeepsItsEntryTimeAndItsOldSide) {
     Q_EMIT bookings.DoubleClick();
     EXPECT_EQ(row.InputField.Text(), u"10,00"_s);
-    EXPECT_TRUE(row.ChangeButton.Visible() && row.CancelButton.Visible());
     row.InputField.SetText({});
     TypeExpense(u"20,5"_s);
     row.ChangeButton.Press();
-    EXPECT_EQ(
-        Columns(u"id || '|' || type || '|' || input || '|' || output || '|' || amount || '|' "
-                "|| tax || '|' || category || '|' || note || '|' || bdate || '|' || account"_s),
-        u"1|A|10|20.5|20.5|9|Porto|alt|2026-03-15 12:00:00|4910"_s);
-    EXPECT_TRUE(row.SubmitButton.Visible());
+    EXPECT_EQ(Columns(u"id type input output amount tax category note bdate account"_s),
+              u"1|A|10|20.5|20.5|9|Porto|alt|2026-03-15 12:00:00|4910"_s);
     EXPECT_EQ(bookings.Cell(-1, Journal::Balance), u"79,50"_s);
 }
 
 TEST_F(ChangeTest, ACopyBecomesANewBooking) {
     row.EditSale(EntryRow::EditMode::Copy);
     row.SubmitButton.Press();
-    EXPECT_EQ(Columns(u"id || '|' || input || '|' || note || '|' || category || '|' || bdate"_s),
+    EXPECT_EQ(Columns(u"id input note category bdate"_s),
               u"2|10.00|alt|Erlöse 19% USt|2026-04-01 08:00:00"_s);
-    EXPECT_EQ(bookings.ListCount(), 2);
 }
 
 TEST_F(ChangeTest, KeepsTheNameOfASwitchedOffAccountAndAsksForASwitchedOffTax) {
     book.Run(u"UPDATE cash_accounts SET active = 0 WHERE account = '8400'"_s);
     row.EditSale(EntryRow::EditMode::Change);
     row.ChangeButton.Press();
-    EXPECT_EQ(Columns(u"category || '|' || account"_s), u"Erlöse 19% USt|"_s);
+    EXPECT_EQ(Columns(u"category account"_s), u"Erlöse 19% USt|"_s);
     book.Run(u"UPDATE cash_tax SET active = 0 WHERE id = 3"_s);
     bookings.SetListIndex(0);
     row.EditSale(EntryRow::EditMode::Change);
-    EXPECT_EQ(tax.ListIndex(), -1);
     row.ChangeButton.Press();
     EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Steuer auswählen!"_s);
 }
@@ -169,9 +145,8 @@ TEST_F(ChangeTest, TellsThatTheBookingHasGone) {
     row.EditSale(EntryRow::EditMode::Change);
     book.Run(u"DELETE FROM cash_journal"_s); // By another program.
     row.ChangeButton.Press();
-    EXPECT_TRUE(row.SubmitButton.Visible());
-    EXPECT_EQ(book.desktop.TakeMessages() + Count(),
-              u"DB Error: Der Datensatz ist nicht mehr vorhanden.0"_s);
+    EXPECT_EQ(book.desktop.TakeMessages(), u"DB Error: Der Datensatz ist nicht mehr vorhanden."_s);
+    EXPECT_EQ(bookings.ListCount(), 0);
 }
 
 } // namespace
