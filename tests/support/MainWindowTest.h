@@ -4,6 +4,8 @@
 #include "support/BookTest.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QRegularExpression>
 #include <QTableView>
 #include <QTest>
