@@ -118,8 +118,6 @@ TEST_F(DateControlViewTest, ChoosesInACalendar) {
 
     Type(u"1.2.{Alt+Down}"_s);
     ASSERT_TRUE(Calendar());
-    EXPECT_EQ(Calendar()->locale().language(), QLocale::German);
-    EXPECT_GE(Calendar()->y(), field.mapToGlobal(QPoint(0, 23)).y());
     ::Type(QApplication::focusWidget(), u"{Right}{Down}{PgDown}\r"_s);
     EXPECT_TRUE(!Calendar() && Selects(u"09.03.2025"_s));
     Type(u"{F4}"_s);

@@ -35,10 +35,10 @@ protected:
 TEST_F(FirstStartTest, LeadsFromTheWelcomeWindowIntoTheSampleBook) {
     auto *welcome = static_cast<QMainWindow *>(Shown(u"WelcomeWindow"_s));
     ASSERT_TRUE(welcome && !Shown(u"MainWindow"_s));
-    const QPoint title(700, 22); // It lies over the button.
+    // On the title that lies over the button.
+    const QPoint title = welcome->centralWidget()->pos() + QPoint(700, 22);
     const auto click = [=] {
-        QTest::mouseClick(welcome->windowHandle(), Qt::LeftButton, {},
-                          welcome->centralWidget()->pos() + title);
+        QTest::mouseClick(welcome->windowHandle(), Qt::LeftButton, {}, title);
     };
     EXPECT_FALSE(Press(Qt::Key_Return, click).isEmpty());
     EXPECT_FALSE(Shown(u"WelcomeWindow"_s));
