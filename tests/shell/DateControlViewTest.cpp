@@ -68,10 +68,6 @@ TEST_F(DateControlViewTest, StepsByKeys) {
         EXPECT_TRUE(Selects(each.section(u'=', 1))) << qPrintable(each + field.text());
         EXPECT_EQ(book.app.Locale().ShortDate(date.DateValue()), field.text());
     }
-    Begin();
-    Type(u"31.2.+"_s);
-    EXPECT_TRUE(LooksRefused());
-    EXPECT_EQ(Day(), u"2025-11-15"_s);
 }
 
 TEST_F(DateControlViewTest, SelectsAllWhenTheFocusComes) {

@@ -55,13 +55,10 @@ TEST_F(PreferencesPageTest, OpensACellWithAClickAndWritesItAsToldByTheKeys) {
     EXPECT_EQ(Accounts(), u"x21E1 d10A0"_s);
 }
 
-TEST_F(PreferencesPageTest, ChecksChoosesAndSortsByClicks) {
+TEST_F(PreferencesPageTest, ChecksAndSortsByClicks) {
     Click(accounts, 0, BookingAccounts::Active);
     Type(u"{Down} "_s);
     EXPECT_EQ(Accounts(), u"b20E0 c10A1"_s);
-    book.desktop.menuChoice = 1;
-    Click(accounts, 0, BookingAccounts::Kind);
-    EXPECT_EQ(Accounts(), u"b20A0 c10A1"_s);
     const QHeaderView *heading = accounts.horizontalHeader();
     Click(heading->viewport(), {heading->sectionViewportPosition(BookingAccounts::Account) + 5, 5});
     EXPECT_EQ(window.bookingAccounts.CashaccountList.Cell(-1, BookingAccounts::Name), u"c\nb"_s);
@@ -103,8 +100,6 @@ TEST_F(PreferencesPageTest, WorksByTheKeysAloneAndIsReadByAssistiveTools) {
     EXPECT_EQ(CashBooks(), u"Kasse1000=100.0 Nebenkasse 01010=0.0"_s);
     Type(u"\x1b\t\t\t "_s); // To the minus beside it.
     EXPECT_EQ(CashBooks(), u"Kasse1000=100.0"_s);
-    EXPECT_EQ(Find<QWidget>(u"OpeningBalanceLabel"_s).accessibleName(),
-              u"Anfangsbestand: 100,00"_s);
     Find<QLineEdit>(u"CompanyField"_s).setFocus();
     Type(u"!"_s);
     FlipPage();

@@ -57,9 +57,8 @@ TEST_F(PrintJobTest, PrintsTheWantedPagesInPointsAndScalesDownWhatWouldRunOffThe
     EXPECT_EQ(Print([](QPrinter &printer) {
                   printer.setFromTo(1, 2);
                   printer.setCopyCount(2);
-                  printer.setPageOrder(QPrinter::LastPageFirst);
               }),
-              u"40 841 838|40 103 100|40 841 838|40 103 100"_s);
+              u"40 103 100|40 841 838|40 103 100|40 841 838"_s);
     EXPECT_EQ(failures, 0);
 }
 
