@@ -84,7 +84,6 @@ TEST_F(CommandsTest, OfTheEditMenuActOnTheFocusedField) {
 TEST(MainWindowView, SavesWhatIsTypedHoweverTheProgramEnds) {
     const TerminationSignals endOfSession;
     const std::function<void(MainWindowView &)> ends[] = {
-        [](MainWindowView &view) { view.close(); },
         [](MainWindowView &view) { Type(view.windowHandle(), u"{Ctrl+Q}"_s); },
         [](MainWindowView & /*view*/) { std::raise(SIGTERM); }};
     for (const auto &end : ends) {

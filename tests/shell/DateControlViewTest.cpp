@@ -38,19 +38,17 @@ protected:
 };
 
 TEST_F(DateControlViewTest, TakesADayAndRefusesWhatIsNone) {
-    const Label &answer = window.entryRow.ErrorLabel; // To a Return that reaches the window.
     for (const auto &key : {u"\t"_s, u"{Backtab}"_s, u"\r"_s, u"{Num+Enter}"_s}) {
         Begin();
         Type(u"31.02.2026"_s + key);
         EXPECT_TRUE(Selects(u"31.02.2026"_s) && LooksRefused());
-        EXPECT_EQ(Day() + answer.Text(), u"2025-11-15"_s);
+        EXPECT_EQ(Day() + window.entryRow.ErrorLabel.Text(), u"2025-11-15"_s);
         EXPECT_EQ(QToolTip::text(), u"31.02.2026 ist kein gültiges Datum."_s);
         Type(u"2"_s);
         EXPECT_FALSE(LooksRefused());
         Type(key);
         EXPECT_EQ(field.text() + Day(), u"02.11.20252025-11-02"_s);
         EXPECT_EQ(field.hasFocus(), key != u"\t"_s && key != u"{Backtab}"_s);
-        EXPECT_EQ(field.hasFocus(), !answer.Text().isEmpty());
         date.SetFocus();
         Type(u"31.2\x1b"_s);
         EXPECT_TRUE(Selects(u"02.11.2025"_s));

@@ -17,11 +17,6 @@ protected:
         QApplication::sendEvent(list.viewport(), &event);
         Type(keys);
     }
-    /// One notch towards the user.
-    static void TurnWheel(QWidget &widget) {
-        QWheelEvent event({5, 5}, {5, 5}, {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&widget, &event);
-    }
 
     EntryRow &row = window.entryRow;
     ComboBox &category = row.pickLists.CategoryCombo;
@@ -36,8 +31,7 @@ TEST_F(JournalPageTest, BooksAReceiptAndAnExpenseByKeysAlone) {
     // does not save.
     Type(u"0203\t119{Num+.}5\t7\terl{Down}{Down}\r"_s);
     EXPECT_EQ(bookings.ListCount(), 0);
-    Type(u"\tR1\tbar\r+\t\t"_s); // Return takes the focus back to the date.
-    Type(u"2.5\t\tfrei\r"_s);
+    Type(u"\tR1\tbar\r+\t\t2.5\t\tfrei\r"_s); // Return takes the focus back to the date.
     EXPECT_EQ(bookings.Cell(-1, -1),
               u"02.03.2026\t119,50\t\t7% USt.\tErlöse 7% USt\tR1\tbar\t219,50\n"
               "03.03.2026\t\t2,50\t19% VSt.\tfrei\t\t\t217,00"_s);
@@ -103,12 +97,13 @@ TEST_F(JournalPageTest, ShowsThePeriodAndTheCashBookThatTheKeysChoose) {
 
 TEST_F(JournalPageTest, LetsTheWheelTurnOnlyTheControlWithTheFocus) {
     Open();
+    QWheelEvent notch({5, 5}, {5, 5}, {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
     auto &months = Find<QComboBox>(u"MonthPopup"_s);
     list.setFocus();
-    TurnWheel(months);
+    QApplication::sendEvent(&months, &notch);
     EXPECT_EQ(months.currentText(), u"Alle Monate"_s);
     months.setFocus();
-    TurnWheel(months);
+    QApplication::sendEvent(&months, &notch);
     EXPECT_EQ(months.currentText(), u"Januar"_s);
 }
 

@@ -41,7 +41,6 @@ protected:
 TEST_F(PreferencesPageTest, OpensACellWithAClickAndWritesItAsToldByTheKeys) {
     Click(accounts, 0, 0);
     Type(u"bb\t21\tbbb\r"_s);
-    EXPECT_EQ(QApplication::focusWidget(), &accounts);
     Click(accounts, 1, 1);
     EXPECT_EQ(QApplication::focusWidget()->accessibleName(), u"Kontonummer"_s);
     Type(u"99\x1b"_s);
