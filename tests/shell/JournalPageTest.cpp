@@ -1,11 +1,8 @@
 #include "support/MainWindowTest.h"
 
-#include <QComboBox>
-#include <QCompleter>
 #include <QContextMenuEvent>
-#include <QLineEdit>
-#include <QMenu>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -13,109 +10,72 @@ namespace {
 
 class JournalPageTest : public MainWindowTest {
 protected:
-    QComboBox &Menu(const QString &name) { return Find<QComboBox>(name); }
     bool Shows(const QString &name) { return Find<QWidget>(name).isVisible(); }
-    void ChooseFromMenu(QPoint place, const QString &text) {
+    void OpenMenu(QPoint place, const QString &keys) {
         QContextMenuEvent event(QContextMenuEvent::Mouse, place,
                                 list.viewport()->mapToGlobal(place));
         QApplication::sendEvent(list.viewport(), &event);
-        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
-        ASSERT_TRUE(menu);
-        for (QAction *action : menu->actions()) {
-            if (action->text() == text) {
-                QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
-            }
-        }
+        Type(keys);
     }
 
     EntryRow &row = window.entryRow;
-    ComboBox &tax = row.pickLists.TaxCombo;
     ComboBox &category = row.pickLists.CategoryCombo;
     QTableView &list = Find<QTableView>(u"CashList"_s);
 };
 
 TEST_F(JournalPageTest, BooksAReceiptAndAnExpenseByKeysAlone) {
     Open();
-    EXPECT_FALSE(Shows(u"ErrorLabel"_s));
     Type(u"\r"_s);
     EXPECT_TRUE(Shows(u"ErrorLabel"_s));
     // The number pad has no comma, the locked amount is passed over, and the Return that completes
     // does not save.
     Type(u"0203\t119{Num+.}5\t7\terl{Down}{Down}\r"_s);
     EXPECT_EQ(bookings.ListCount(), 0);
-    Type(u"\tR1\tbar\r+\t\t"_s); // Return takes the focus back to the date.
-    EXPECT_EQ(row.CategoryLabel.Text(), u"Art der Ausgabe"_s);
-    Type(u"2.5\t\tfrei\r"_s);
+    Type(u"\tR1\tbar\r+\t\t2.5\t\tfrei\r"_s); // Return takes the focus back to the date.
     EXPECT_EQ(bookings.Cell(-1, -1),
               u"02.03.2026\t119,50\t\t7% USt.\tErlöse 7% USt\tR1\tbar\t219,50\n"
               "03.03.2026\t\t2,50\t19% VSt.\tfrei\t\t\t217,00"_s);
     EXPECT_EQ(book.Value(u"SELECT account FROM cash_journal WHERE id = 1"_s), u"8300"_s);
-    row.InputField.SetText(u"1"_s);
-    category.SetText(u"bar"_s);
-    Click(&Find<QWidget>(u"SubmitButton"_s), {5, 5});
-    EXPECT_EQ(bookings.ListCount(), 3) << "by a click of the mouse";
 }
 
 TEST_F(JournalPageTest, ChangesABookingByKeysAndEscapeLeavesTheChange) {
-    const QString note = u"eins\nzwei\tdrei "_s + QString(40000, u'x'); // No line edit holds it.
+    const QString note = u"eins\nzwei "_s + QString(40000, u'x'); // No line edit holds it.
     book.Add({.date = u"2026-03-01"_s, .type = u"E"_s, .amount = u"10"_s, .note = note});
-    const auto stored = [this] { return book.Value(u"SELECT vdate || note FROM cash_journal"_s); };
     Open();
     DoubleClick(list, 0, 4);
     EXPECT_TRUE(Shows(u"ChangeButton"_s) && !Shows(u"SubmitButton"_s));
-    EXPECT_FALSE(Find<QWidget>(u"OutputField"_s).isEnabled());
-    Type(u"2\x1b"_s); // Into the date, and Escape.
+    Type(u"3\x1b"_s); // Into the date, and Escape.
     EXPECT_TRUE(Shows(u"SubmitButton"_s));
-    EXPECT_EQ(row.InputField.Text() + row.NoteField.Text(), u""_s);
-    EXPECT_EQ(bookings.ListIndex(), -1);
-    EXPECT_EQ(stored(), u"2026-03-01"_s + note);
     DoubleClick(list, 0, 4);
     Type(u"2\r"_s);
-    EXPECT_EQ(stored(), u"2026-03-02"_s + note);
+    EXPECT_EQ(book.Value(u"SELECT vdate || note FROM cash_journal"_s), u"2026-03-02"_s + note);
 }
 
 TEST_F(JournalPageTest, OpensAMenuOnTheRowUnderThePointer) {
     book.Add({u"2026-03-01"_s, u"E"_s, u"10"_s});
     book.Add({u"2026-03-02"_s, u"E"_s, u"20"_s});
     Open();
-    ChooseFromMenu(Centre(list, 1, 4), u"Duplizieren"_s);
+    OpenMenu(Centre(list, 1, 4), u"{Down}{Down}\r"_s);
     EXPECT_EQ(row.InputField.Text(), u"20,00"_s);
-    EXPECT_TRUE(row.SubmitButton.Visible());
     Click(list, 0, 4);
-    EXPECT_EQ(bookings.ListIndex(), 0);
-    ChooseFromMenu(Centre(list, 1, 4), u"Löschen"_s);
+    OpenMenu(Centre(list, 1, 4), u"{Down}{Down}{Down}\r"_s);
     EXPECT_EQ(bookings.Cell(-1, Journal::Input), u"10,00"_s);
-    EXPECT_EQ(bookings.ListIndex(), -1);
     EXPECT_TRUE(window.MenuItemEnable()) << "a menu takes the focus for a while only";
-    ChooseFromMenu({50, 300}, u"Löschen"_s);
+    OpenMenu({50, 300}, u"{Down}{Down}{Down}\r"_s);
     EXPECT_EQ(bookings.ListCount(), 1) << "no row is selected";
-    ChooseFromMenu(Centre(list, 0, 4), u"Bearbeiten"_s);
-    EXPECT_TRUE(row.ChangeButton.Visible());
 }
 
 TEST_F(JournalPageTest, TypedTextOfNoRowLeavesNoStaleRowBehind) {
     Open();
     row.InputField.SetText(u"1"_s);
-    QComboBox &menu = Menu(u"CategoryCombo"_s);
-    menu.setFocus();
-    Type(u"{Down}"_s);
-    ASSERT_EQ(category.ListIndex(), 0);
-    Type(u"x"_s);
+    category.SetFocus();
+    Type(u"{Down}{Ctrl+A}19"_s);
     EXPECT_EQ(category.ListIndex(), -1);
-    EXPECT_EQ(menu.currentText(), category.Text());
-    menu.lineEdit()->selectAll();
-    Type(u"19"_s);
-    ASSERT_TRUE(menu.completer()->popup()->isVisible()) << "inside words";
+    EXPECT_TRUE(QApplication::activePopupWidget()) << "offers what has it inside a word";
     for (const auto &key : {u"\x1b"_s, u"\t"_s}) {
         Type(key);
         EXPECT_EQ(category.Text(), u"19"_s);
     }
-    tax.SetFocus();
-    Menu(u"TaxCombo"_s).lineEdit()->selectAll();
-    Type(u"KEINE\x1b"_s);
-    EXPECT_EQ(tax.ListIndex(), -1);
-    row.NoteField.SetFocus();
-    EXPECT_EQ(tax.ListIndex(), 2);
 }
 
 TEST_F(JournalPageTest, ShowsThePeriodAndTheCashBookThatTheKeysChoose) {
@@ -123,33 +83,28 @@ TEST_F(JournalPageTest, ShowsThePeriodAndTheCashBookThatTheKeysChoose) {
     book.Add({u"2026-02-10"_s, u"A"_s, u"2.5"_s});
     book.Add({.date = u"2025-02-11"_s, .type = u"E"_s, .amount = u"7"_s, .cashbook = u"2"_s});
     Open();
-    const std::tuple<QString, QString, QString, QString> steps[] = {
-        {u"MonthPopup"_s, u""_s, u"Alle Monate"_s, u"97,50"_s},
-        {u"MonthPopup"_s, u"{Down}{Down}"_s, u"Februar"_s, u"97,50"_s},
-        {u"YearPopup"_s, u"{Down}"_s, u"2025"_s, u""_s},
-        {u"CashbookPopup"_s, u"{End}"_s, u"1010:Laden"_s, u"7,00"_s}};
-    for (const auto &[name, keys, text, balances] : steps) {
-        Menu(name).setFocus();
+    const std::tuple<QString, QString, QString> steps[] = {
+        {u"MonthPopup"_s, u"{Down}{Down}"_s, u"Februar 97,50"_s},
+        {u"YearPopup"_s, u"{Down}"_s, u"2025 "_s},
+        {u"CashbookPopup"_s, u"{End}"_s, u"1010:Laden 7,00"_s}};
+    for (const auto &[name, keys, shown] : steps) {
+        auto &menu = Find<QComboBox>(name);
+        menu.setFocus();
         Type(keys);
-        EXPECT_EQ(Menu(name).currentText(), text);
-        EXPECT_EQ(bookings.Cell(-1, Journal::Balance), balances);
+        EXPECT_EQ(menu.currentText() + u' ' + bookings.Cell(-1, Journal::Balance), shown);
     }
 }
 
 TEST_F(JournalPageTest, LetsTheWheelTurnOnlyTheControlWithTheFocus) {
     Open();
-    row.InputField.SetText(u"1"_s);
-    for (const QString &name : {u"MonthPopup"_s, u"TaxCombo"_s, u"CategoryCombo"_s}) {
-        const QString before = Menu(name).currentText();
-        list.setFocus();
-        TurnWheel(Menu(name), -120);
-        EXPECT_EQ(Menu(name).currentText(), before);
-        Menu(name).setFocus();
-        TurnWheel(Menu(name), -120);
-        EXPECT_NE(Menu(name).currentText(), before);
-    }
-    TurnWheel(Find<QWidget>(u"DateField"_s), 120);
-    EXPECT_EQ(row.DateField.DateValue().Day(), book.desktop.now.Day());
+    QWheelEvent notch({5, 5}, {5, 5}, {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+    auto &months = Find<QComboBox>(u"MonthPopup"_s);
+    list.setFocus();
+    QApplication::sendEvent(&months, &notch);
+    EXPECT_EQ(months.currentText(), u"Alle Monate"_s);
+    months.setFocus();
+    QApplication::sendEvent(&months, &notch);
+    EXPECT_EQ(months.currentText(), u"Januar"_s);
 }
 
 TEST_F(JournalPageTest, ShowsTheNewBookingInALongListAndKeepsThePlaceThroughAReload) {
@@ -157,26 +112,19 @@ TEST_F(JournalPageTest, ShowsTheNewBookingInALongListAndKeepsThePlaceThroughARel
     book.Run(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 20000) "
              "INSERT INTO cash_journal (vdate, type, amount, tax, cashbookID) "
              "SELECT date('2026-01-01', '+' || (i % 365) || ' days'), 'E', 1, '3', 1 FROM n"_s);
-    ASSERT_EQ(list.model(), &bookings) << "the list of the logic has a second copy";
-    const auto isShown = [this](int index) {
-        return list.viewport()->rect().contains(Centre(list, index, 4));
-    };
     row.InputField.SetText(u"5"_s);
     category.SetText(u"frei"_s);
     row.SubmitButton.Press();
-    EXPECT_TRUE(isShown(bookings.FindRow(u"20001"_s)));
+    const QPoint shown = Centre(list, bookings.FindRow(u"20001"_s), 4);
+    EXPECT_TRUE(list.viewport()->rect().contains(shown));
 
     window.selectors.MonthPopup.SetListIndex(0);
     QApplication::processEvents(); // The view lays out its rows.
     list.setFocus();
-    Type(u"{End}"_s);
-    EXPECT_TRUE(bookings.ListIndex() == 20000 && isShown(20000));
-    Type(u"{Up}"_s);
+    Type(u"{End}{Up}"_s);
     EXPECT_EQ(bookings.ListIndex(), 19999);
-
     list.verticalScrollBar()->setValue(12345);
     const int top = list.rowAt(0);
-    EXPECT_GT(top, 0);
     window.balances.Refresh();
     QApplication::processEvents();
     EXPECT_EQ(list.rowAt(0), top);

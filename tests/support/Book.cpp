@@ -6,8 +6,6 @@
 
 using namespace Qt::StringLiterals;
 
-Book::Book() : Book(Place::Memory) {}
-
 Book::Book(Place place) : app(desktop, UserLocale(QLocale(QLocale::German, QLocale::Germany))) {
     SQLiteDatabase &database = app.NewDatabase();
     if (place == Place::File) {

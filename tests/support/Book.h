@@ -24,11 +24,9 @@ struct Booking {
 /// one cash book, 1000:Kasse, that opens with 100.00 on 2026-01-01.
 class Book {
 public:
-    /// In memory.
-    Book();
-    /// In the default file of the desktop.
+    /// In memory, or in the default file of the desktop.
     enum class Place { Memory, File };
-    explicit Book(Place place);
+    explicit Book(Place place = Place::Memory);
 
     FakeDesktop desktop;
     App app;

@@ -4,10 +4,11 @@
 #include "support/BookTest.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QRegularExpression>
 #include <QTableView>
 #include <QTest>
-#include <QWheelEvent>
 
 /// Presses the keys of a text: its letters, \t, \r and \x1b for Tab, Return and Escape, and any key
 /// by its name, as in "{Ctrl+N}" and "{Down}". They go to a widget; or, if a window is given, to
@@ -23,13 +24,6 @@ void Type(Target *target, const QString &text) {
             QTest::keyClick(target, key.captured()[0].toLatin1());
         }
     }
-}
-
-/// Turns the wheel over a widget, by 120 for one notch upwards.
-inline void TurnWheel(QWidget &widget, int delta) {
-    QWheelEvent event({5, 5}, widget.mapToGlobal(QPointF(5, 5)), {}, {0, delta}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&widget, &event);
 }
 
 /// The real main window on a book, driven by keys and clicks as by its user. A test fills the book
