@@ -2,6 +2,9 @@
 
 #include <QDir>
 
+#include <chrono>
+#include <thread>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -49,6 +52,22 @@ TEST(SQLiteDatabase, LeavesAFileThatItCannotReadAsItIs) {
         EXPECT_EQ(Bytes(file.fileName()), content);
         EXPECT_EQ(folder.entryList(QDir::Files).size(), 1);
     }
+}
+
+TEST(SQLiteDatabase, WaitsOnceForALockedFile) {
+    Book book(Book::Place::File);
+    SQLiteDatabase other;
+    book.app.UseDefaultFile(other);
+    ASSERT_TRUE(other.Connect());
+    other.SQLExecute(u"BEGIN EXCLUSIVE"_s);
+    book.app.kvoDB().SQLExecute(u"DELETE FROM cash_book"_s);
+    // Another wait would outlast the lock.
+    const std::jthread release([&other] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        other.Commit();
+    });
+    book.app.kvoDB().SQLExecute(u"DELETE FROM cash_book"_s);
+    EXPECT_EQ(book.app.kvoDB().ErrorMessage(), u"database is locked"_s);
 }
 
 } // namespace
