@@ -37,7 +37,9 @@ Balances::Balances(App &app, Selectors &selectors, Journal &journal)
 
 void Balances::Refresh() {
     journal_.LoadJournal();
-    ReCalcAmount();
+    if (!app_.ReportError()) {
+        ReCalcAmount();
+    }
 }
 
 void Balances::ReCalcAmount() {

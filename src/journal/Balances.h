@@ -27,7 +27,8 @@ public:
     Label OpeningBalanceLabel;
     Label LastAmountLabel;
 
-    /// LoadJournal and ReCalcAmount.
+    /// LoadJournal and ReCalcAmount. A failed load is told, and no balance is computed: the rows
+    /// may be those of another period.
     void Refresh();
     /// Computes the start balance of the period, runs it down the balance column and shows both
     /// ends. A database error is told to the user and leaves the display as it was.

@@ -81,6 +81,8 @@ void EntryRow::AmountTyped(const TextField &field, Control &other, const QString
 }
 
 bool EntryRow::CheckFields() {
+    selectors_.GetMissing();
+    pickLists.LoadMissing(Side());
     pickLists.SelectTypedRows();
     // All checks run, and the message of the last one that fails is the one to read.
     QString message;
@@ -93,7 +95,9 @@ bool EntryRow::CheckFields() {
     if (InputField.Text().isEmpty() && OutputField.Text().isEmpty()) {
         message = u"Bitte einen Betrag bei Einnahme oder Ausgabe eintragen!"_s;
     }
-    if (DateIsBeforeOpening()) {
+    if (selectors_.CashbookPopup.ListIndex() < 0) {
+        message = u"Bitte eine Kasse auswählen!"_s;
+    } else if (DateIsBeforeOpening()) {
         message = u"Buchungsdatum darf nicht unter dem Eröffnungsdatum liegen!"_s;
     }
     // A click on the button leaves a field whose text is no day; the day from before is not meant.
@@ -103,6 +107,12 @@ bool EntryRow::CheckFields() {
     ErrorLabel.SetText(message);
     ErrorRect.SetVisible(!message.isEmpty());
     return message.isEmpty();
+}
+
+QString EntryRow::Side() const {
+    return !InputField.Text().isEmpty()    ? u"E"_s
+           : !OutputField.Text().isEmpty() ? u"A"_s
+                                           : QString();
 }
 
 bool EntryRow::DateIsBeforeOpening() {
@@ -120,12 +130,12 @@ DatabaseRecord EntryRow::Entry() const {
     record.SetColumn(u"salesnumber"_s, SaleNumberField.Text());
     record.SetColumn(u"note"_s, NoteField.Text());
     record.SetColumn(u"account"_s, category.RowTag(category.ListIndex()));
-    const bool receipt = !InputField.Text().isEmpty();
+    const bool receipt = Side() == u'E';
     const QString amount =
         TLXModule::AmountText2SQL(receipt ? InputField.Text() : OutputField.Text());
     record.SetColumn(u"amount"_s, amount);
     record.SetColumn(receipt ? u"input"_s : u"output"_s, amount);
-    record.SetColumn(u"type"_s, receipt ? u"E"_s : u"A"_s);
+    record.SetColumn(u"type"_s, Side());
     return record;
 }
 
@@ -168,8 +178,7 @@ void EntryRow::EditSale(EditMode mode) {
     InputField.SetText(list.Cell(row, Journal::Input));
     OutputField.SetText(list.Cell(row, Journal::Output));
     const auto *tax = std::get_if<QString>(&list.CellTag(row, Journal::Tax));
-    ComboBox &taxes = pickLists.TaxCombo;
-    taxes.SetListIndex(TLXModule::GetRowTag(taxes, tax != nullptr ? *tax : QString()));
+    pickLists.SelectTax(tax != nullptr ? *tax : QString(), list.Cell(row, Journal::Tax));
     pickLists.CategoryCombo.SetText(list.Cell(row, Journal::Category));
     SaleNumberField.SetText(list.Cell(row, Journal::SaleNumber));
     NoteField.SetText(list.Cell(row, Journal::Note));

@@ -59,6 +59,8 @@ private:
 
     bool CheckFields();
     bool DateIsBeforeOpening();
+    /// "E" with a receipt in the row, "A" with an expense, empty without an amount.
+    QString Side() const;
     void ShowButtons(bool changing);
     void AmountTyped(const TextField &field, Control &other, const QString &type);
     /// What the row holds, as the columns that a new and a changed booking share.

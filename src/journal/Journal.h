@@ -23,8 +23,8 @@ public:
     Listbox CashList;
 
     /// Fills CashList from the database, in order of date and of entry on the same date. The
-    /// balance column is left empty. If the query fails the rows stay as they were, without a
-    /// message.
+    /// balance column is left empty. If the query fails the rows stay as they were; the database's
+    /// Error then tells it, and no message.
     void LoadJournal();
 
 private:

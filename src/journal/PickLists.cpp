@@ -5,49 +5,69 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
+PickLists::PickLists(App &app)
+    : TaxCombo(u"TaxCombo"_s), CategoryCombo(u"CategoryCombo"_s), app_(app) {
+    connect(&TaxCombo, &Control::LostFocus, this, &PickLists::TaxCombo_LostFocus);
+}
 
-/// Puts the rows of a side into the list; false when the query failed.
-bool LoadRows(SQLiteDatabase &database, const QString &sql, const QString &type,
-              QLatin1StringView tagColumn, ComboBox &list) {
+void PickLists::LoadRows(const QString &sql, QLatin1StringView tagColumn, const QString &type,
+                         ComboBox &list, QString &side) const {
+    SQLiteDatabase &database = app_.kvoDB();
     SQLitePreparedStatement statement = database.Prepare(sql);
     statement.Bind(0, type);
     const auto records = statement.SQLSelect();
-    if (!records) {
-        return false;
+    if (records || side != type) {
+        list.DeleteAllRows();
+        side.clear();
     }
-    list.DeleteAllRows();
+    if (!records) {
+        return;
+    }
     const auto name = records->Field("name"_L1);
     const auto tag = records->Field(tagColumn);
     for (int row = 0; !records->AtEnd(); records->MoveNext()) {
         list.AddRow(name.StringValue());
         list.SetRowTag(row++, tag.StringValue());
     }
-    return true;
-}
-
-} // namespace
-
-PickLists::PickLists(App &app)
-    : TaxCombo(u"TaxCombo"_s), CategoryCombo(u"CategoryCombo"_s), app_(app) {
-    connect(&TaxCombo, &Control::LostFocus, this, &PickLists::TaxCombo_LostFocus);
+    // A damaged page shows only on the way.
+    side = database.Error() ? QString() : type;
 }
 
 void PickLists::LoadAccounts(const QString &type) {
     const QString text = CategoryCombo.Text();
     const bool wasOffered = TLXModule::FindText(CategoryCombo, text) >= 0;
-    const bool loaded = LoadRows(
-        app_.kvoDB(), u"SELECT * FROM cash_accounts WHERE type = ? AND active = 1 ORDER BY name"_s,
-        type, "account"_L1, CategoryCombo);
-    if (loaded && (!wasOffered || TLXModule::FindText(CategoryCombo, text) >= 0)) {
+    LoadRows(u"SELECT * FROM cash_accounts WHERE type = ? AND active = 1 ORDER BY name"_s,
+             "account"_L1, type, CategoryCombo, sideOfAccounts_);
+    if (!wasOffered || TLXModule::FindText(CategoryCombo, text) >= 0) {
         CategoryCombo.SetText(text);
     }
 }
 
 void PickLists::LoadTax(const QString &type) {
-    LoadRows(app_.kvoDB(), u"SELECT * FROM cash_tax WHERE type = ? AND active = 1 ORDER BY name"_s,
-             type, "value"_L1, TaxCombo);
+    LoadRows(u"SELECT * FROM cash_tax WHERE type = ? AND active = 1 ORDER BY name"_s, "value"_L1,
+             type, TaxCombo, sideOfTaxes_);
     TaxCombo.SetListIndex(0);
+}
+
+void PickLists::LoadMissing(const QString &type) {
+    if (!type.isEmpty() && sideOfTaxes_ != type) {
+        const QString typed = TaxCombo.Text();
+        LoadTax(type);
+        if (!typed.isEmpty()) {
+            TaxCombo.SetText(typed);
+        }
+    }
+    if (!type.isEmpty() && sideOfAccounts_ != type) {
+        LoadAccounts(type);
+    }
+}
+
+void PickLists::SelectTax(const QString &key, const QString &name) {
+    if (sideOfTaxes_.isEmpty()) {
+        TaxCombo.SetText(name);
+    } else {
+        TaxCombo.SetListIndex(TLXModule::GetRowTag(TaxCombo, key));
+    }
 }
 
 void PickLists::SelectTypedRows() {

@@ -83,6 +83,16 @@ void Selectors::LoadMonths() {
     MonthPopup.SetListIndex(0);
 }
 
+void Selectors::GetMissing() {
+    const Hold oneRefresh(*this);
+    if (CashbookPopup.ListIndex() < 0) {
+        GetCashbooks();
+    }
+    if (YearPopup.ListIndex() < 0) {
+        GetJournalYears();
+    }
+}
+
 void Selectors::ShowPeriod(const Date &date) {
     const QString day = date.SQLDate();
     TLXModule::IndexOf(YearPopup, TLXModule::SQLDateYear(day));

@@ -37,6 +37,9 @@ public:
     void GetCashbooks();
     void GetJournalYears();
     void LoadMonths();
+    /// Rebuilds what a failed query has left empty. To be called before a selection is booked,
+    /// printed or exported, for without one the main cash book would be taken.
+    void GetMissing();
 
     /// Selects year and month of the date. A year that is not in the list leaves the year.
     void ShowPeriod(const Date &date);

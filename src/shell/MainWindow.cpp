@@ -85,6 +85,8 @@ void MainWindow::Event_EnableMenuItems() {
 }
 
 void MainWindow::MenuAction(const QString &word) {
+    // A command works on what has been typed.
+    EndEdits();
     if (SameText(word, u"new")) {
         entryRow.NewSale();
     } else if (SameText(word, u"edit")) {
@@ -94,6 +96,7 @@ void MainWindow::MenuAction(const QString &word) {
     } else if (SameText(word, u"delete")) {
         entryRow.DeleteSale();
     } else if (SameText(word, u"print")) {
+        selectors.GetMissing();
         cashReport.Print();
     } else if (SameText(word, u"export")) {
         Export();
@@ -115,7 +118,6 @@ void MainWindow::EnterPreferences() {
 }
 
 void MainWindow::LeavePreferences() {
-    EndEdits();
     PagePanel1.SetValue(0);
     selectors.GetCashbooks();
     MainWindowToolbar.Item(MainToolbar::PreferencesButton).SetCaption(u"Einstellungen"_s);
@@ -125,6 +127,7 @@ void MainWindow::LeavePreferences() {
 }
 
 void MainWindow::Export() {
+    selectors.GetMissing();
     accountingExport.ExportJournal();
     TLXModule::ExportCSV(app_.GetDesktop(), accountingExport.ExportList);
 }

@@ -45,9 +45,10 @@ public:
     void Event_Close();
 
     /// Runs the command of a word, on whichever page: "new", "edit", "copy", "delete", "print",
-    /// "export", "preferences", "cashbook" and "about". Another word does nothing. "preferences"
-    /// enters the preferences page and reads it anew from the book, also when it shows already;
-    /// "cashbook" leaves it and saves the company if it was edited.
+    /// "export", "preferences", "cashbook" and "about". Another word does nothing. What has been
+    /// typed into an open cell is written first. "preferences" enters the preferences page and
+    /// reads it anew from the book, also when it shows already; "cashbook" leaves it and saves the
+    /// company if it was edited.
     void MenuAction(const QString &word);
     /// Runs whenever the state of the menus may have changed.
     void Event_EnableMenuItems();

@@ -91,6 +91,50 @@ TEST_F(EntryRowTest, LocksTheOtherAmountAndOffersItsSide) {
     EXPECT_EQ(tax.Text() + category.Text(), u"19% VSt."_s) << "no account of the other side";
 }
 
+TEST_F(EntryRowTest, BooksIntoTheCashBookThatWasMeantOrNowhere) {
+    book.Run(u"INSERT INTO cash_book (name, account) VALUES ('Laden', '1010')"_s);
+    row.NewSale();
+    window.selectors.CashbookPopup.SetListIndex(1);
+    book.Hide(u"cash_book"_s);
+    window.MenuAction(u"cashbook"_s); // As who leaves the preferences does.
+    Submit(u"5"_s);
+    EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Kasse auswählen!"_s);
+    EXPECT_EQ(row.InputField.Text() + book.Value(u"SELECT count(*) FROM cash_journal"_s), u"50"_s);
+    book.Unhide(u"cash_book"_s);
+    row.SubmitButton.Press();
+    EXPECT_EQ(Columns(u"cashbookID amount"_s), u"2|5.0"_s);
+    EXPECT_EQ(window.selectors.CashbookPopup.Text(), u"1010:Laden"_s);
+
+    book.Hide(u"cash_book"_s);
+    window.MenuAction(u"cashbook"_s);
+    bookings.SetListIndex(0);
+    row.EditSale(EntryRow::EditMode::Change);
+    row.InputField.SetText(u"7"_s);
+    row.ChangeButton.Press();
+    EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Kasse auswählen!"_s);
+    book.Unhide(u"cash_book"_s);
+    row.ChangeButton.Press();
+    EXPECT_EQ(Columns(u"cashbookID amount"_s), u"2|7.0"_s);
+}
+
+TEST_F(EntryRowTest, OffersNothingOfTheOtherSideWhenTheListsCannotBeRead) {
+    row.InputField.SetText(u"1"_s);
+    category.SetText(u"Erlöse 7% USt"_s);
+    row.InputField.SetText({});
+    book.Hide(u"cash_tax"_s);
+    book.Hide(u"cash_accounts"_s);
+    row.OutputField.SetText(u"3"_s);
+    EXPECT_EQ(tax.ListCount() + category.ListCount(), 0);
+    EXPECT_EQ(tax.Text() + category.Text(), QString());
+    row.SubmitButton.Press();
+    EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Steuer auswählen!"_s);
+    book.Unhide(u"cash_tax"_s);
+    book.Unhide(u"cash_accounts"_s);
+    category.SetText(u"Porto"_s);
+    row.SubmitButton.Press();
+    EXPECT_EQ(Columns(u"type tax category account"_s), u"A|9|Porto|4910"_s);
+}
+
 TEST_F(EntryRowTest, TakesTheViewToTheFirstBookingOfANewYear) {
     Submit(u"1"_s);
     row.DateField.SetDateValue(Date(QDate(2027, 2, 3)));
@@ -139,6 +183,18 @@ TEST_F(ChangeTest, KeepsTheNameOfASwitchedOffAccountAndAsksForASwitchedOffTax) {
     row.EditSale(EntryRow::EditMode::Change);
     row.ChangeButton.Press();
     EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Steuer auswählen!"_s);
+}
+
+TEST_F(ChangeTest, KeepsTheTaxThoughTheTaxesCouldNotBeRead) {
+    book.Run(u"UPDATE cash_journal SET tax = '2'"_s);
+    row.NewSale();
+    TypeExpense(u"1"_s); // The lists hold the other side.
+    bookings.SetListIndex(0);
+    book.Hide(u"cash_tax"_s);
+    row.EditSale(EntryRow::EditMode::Change);
+    book.Unhide(u"cash_tax"_s);
+    row.ChangeButton.Press();
+    EXPECT_EQ(Columns(u"tax category account"_s), u"2|Erlöse 19% USt|8400"_s);
 }
 
 TEST_F(ChangeTest, TellsThatTheBookingHasGone) {

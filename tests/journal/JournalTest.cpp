@@ -28,6 +28,17 @@ TEST_F(JournalTest, ListsWhateverTheBookHoldsInOrderOfDateAndEntry) {
     EXPECT_EQ(bookings.RowTag(2), u"2"_s);
 }
 
+TEST_F(JournalTest, TellsAFailedLoadOnceAndBalancesNoRowsOfAnotherYear) {
+    book.Add({u"2026-01-01"_s, u"E"_s, u"1"_s});
+    book.Add({u"2025-01-01"_s, u"E"_s, u"20"_s});
+    window.Event_Open();
+    book.Hide(u"cash_tax"_s);
+    window.selectors.YearPopup.SetListIndex(1);
+    EXPECT_EQ(book.desktop.TakeMessages(), u"DB Error: no such table: cash_tax"_s);
+    EXPECT_EQ(bookings.Cell(0, Journal::Balance), u"121,00"_s);
+    EXPECT_EQ(window.balances.OpeningBalanceLabel.Text(), u"120,00"_s);
+}
+
 TEST_F(JournalTest, TakesTheFirstCashBookForTheMainOneWhateverItsTag) {
     book.Run(u"UPDATE cash_book SET id = 7"_s);
     book.Run(u"INSERT INTO cash_book VALUES (9, 'Laden', '1010', '12,50', 'bald', NULL)"_s);
