@@ -2,6 +2,9 @@
 
 #include "core/App.h"
 #include "core/TLXModule.h"
+#include "platform/Text.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -25,12 +28,20 @@ void PickLists::LoadRows(const QString &sql, QLatin1StringView tagColumn, const 
     }
     const auto name = records->Field("name"_L1);
     const auto tag = records->Field(tagColumn);
-    for (int row = 0; !records->AtEnd(); records->MoveNext()) {
-        list.AddRow(name.StringValue());
-        list.SetRowTag(row++, tag.StringValue());
+    std::vector<std::pair<QString, QString>> rows;
+    for (; !records->AtEnd(); records->MoveNext()) {
+        rows.emplace_back(name.StringValue(), tag.StringValue());
     }
     // A damaged page shows only on the way.
     side = database.Error() ? QString() : type;
+    // The database sorts an umlaut behind all letters.
+    std::stable_sort(rows.begin(), rows.end(), [](const auto &a, const auto &b) {
+        return CompareTexts(a.first, b.first) < 0;
+    });
+    for (const auto &[text, rowTag] : rows) {
+        list.AddRow(text);
+        list.SetRowTag(list.ListCount() - 1, rowTag);
+    }
 }
 
 void PickLists::LoadAccounts(const QString &type) {

@@ -61,7 +61,7 @@ bool Listbox::Less(int first, int second) {
     if (handled) {
         return result < 0;
     }
-    return Cell(first, sortedColumn_).compare(Cell(second, sortedColumn_), Qt::CaseInsensitive) < 0;
+    return CompareTexts(Cell(first, sortedColumn_), Cell(second, sortedColumn_)) < 0;
 }
 
 void Listbox::Sort() {

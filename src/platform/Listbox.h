@@ -46,7 +46,8 @@ public:
     bool SortsDescending() const { return descending_; }
     /// Ascending; takes effect with the next Sort.
     void SetSortedColumn(int column) { SetOrder(column, false); }
-    /// Sorts by the sorted column, asking CompareRows, else by the texts without regard to case.
+    /// Sorts by the sorted column, asking CompareRows, else by the texts in the order of a German
+    /// dictionary, without regard to case.
     /// Rows that compare as equal keep their order; the selection stays with its row.
     void Sort();
     /// Whether a click on a heading sorts, as it does from the start.
@@ -70,7 +71,10 @@ public:
     void EndEdit();
     /// Closes the cell, which keeps its text.
     void DropEdit();
-    /// A click on a check box: ends the edit, then flips the box and fires CellAction.
+    /// Whether there is such a cell, and it shows a check box.
+    bool IsCheckBox(int row, int column) const;
+    /// A click on a check box: ends the edit, then flips the box and fires CellAction. Does nothing
+    /// where there is none.
     void ToggleCheck(int row, int column);
 
 Q_SIGNALS:
@@ -114,7 +118,6 @@ private:
         QString text;
     };
 
-    bool IsCheckBox(int row, int column) const;
     bool CanEdit(int row, int column) const;
     void SetOrder(int column, bool descending);
     bool Less(int first, int second);

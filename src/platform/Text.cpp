@@ -1,5 +1,7 @@
 #include "platform/Text.h"
 
+#include <QCollator>
+#include <QRegularExpression>
 #include <QStringTokenizer>
 
 #include <charconv>
@@ -42,6 +44,21 @@ QString ReplaceLineEndings(QString text, const QString &ending) {
         text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
     }
     return text.replace(u"\n"_s, ending);
+}
+
+QString OneLine(QString text) {
+    // Unicode has two line breaks that are no control characters.
+    static const QRegularExpression run(u"[\\p{Cc}\\x{2028}\\x{2029}]+"_s);
+    return text.replace(run, u" "_s);
+}
+
+int CompareTexts(const QString &a, const QString &b) {
+    static const QCollator german = [] {
+        QCollator order(QLocale(QLocale::German, QLocale::Germany));
+        order.setCaseSensitivity(Qt::CaseInsensitive);
+        return order;
+    }();
+    return german.compare(a, b);
 }
 
 bool SameText(QStringView a, QStringView b) {

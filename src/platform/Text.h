@@ -13,4 +13,11 @@ QString NthField(QStringView text, QChar separator, int number);
 /// Turns all line ends of a text, of whatever kind, into the given one.
 QString ReplaceLineEndings(QString text, const QString &ending);
 
+/// Makes a text one line: each run of line breaks, tabs and other control characters becomes a
+/// blank.
+QString OneLine(QString text);
+
+/// Below, at or above 0, as the texts stand in a German dictionary, without regard to case.
+int CompareTexts(const QString &a, const QString &b);
+
 bool SameText(QStringView a, QStringView b);

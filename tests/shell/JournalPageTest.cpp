@@ -1,6 +1,9 @@
 #include "support/MainWindowTest.h"
 
+#include <QAction>
+#include <QClipboard>
 #include <QContextMenuEvent>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -76,6 +79,80 @@ TEST_F(JournalPageTest, TypedTextOfNoRowLeavesNoStaleRowBehind) {
         Type(key);
         EXPECT_EQ(category.Text(), u"19"_s);
     }
+}
+
+TEST_F(JournalPageTest, TakesASuggestionAndNeverAFragment) {
+    struct Case {
+        QString keys;
+        QString category;
+    };
+    const Case cases[] = {{u"19\r"_s, u"Erlöse 19% USt"_s}, // The first that holds it.
+                          {u"19\t"_s, u"Erlöse 19% USt"_s},
+                          {u"g\r"_s, u"Geldtransit Eingang"_s}, // Others hold it, this begins so.
+                          {u"ei{Down}{Down}\r"_s, u"Geldtransit Eingang"_s},
+                          {u"ei\x1b"_s, u"ei"_s}};
+    Open();
+    for (const Case &each : cases) {
+        row.NewSale();
+        row.InputField.SetText(u"1"_s);
+        category.SetFocus();
+        Type(each.keys);
+        EXPECT_EQ(category.Text(), each.category) << qPrintable(each.keys);
+        EXPECT_EQ(bookings.ListCount(), 0) << qPrintable(each.keys);
+    }
+    Type(u"\r"_s);
+    EXPECT_EQ(bookings.Cell(-1, Journal::Category), u"ei"_s) << "the next Return books";
+}
+
+TEST_F(JournalPageTest, CountsAClickBesideTheOpenSuggestions) {
+    Open();
+    row.InputField.SetText(u"1"_s);
+    category.SetFocus();
+    Type(u"erl"_s);
+    ASSERT_TRUE(QApplication::activePopupWidget());
+    Click(&Find<QWidget>(u"SaleNumberField"_s), {5, 5});
+    EXPECT_TRUE(Find<QWidget>(u"SaleNumberField"_s).hasFocus());
+    category.SetText({});
+    category.SetFocus();
+    Type(u"erl"_s);
+    Click(&Find<QWidget>(u"SubmitButton"_s), {5, 5});
+    EXPECT_EQ(bookings.ListCount(), 1);
+    EXPECT_FALSE(QApplication::activePopupWidget());
+}
+
+TEST_F(JournalPageTest, MakesOneLineOfWhatIsPastedOrDropped) {
+    const QString text = u"a\r\nb\t\tc\u2028d\u0007 e"_s;
+    QApplication::clipboard()->setText(text);
+    const std::function<void(QLineEdit &)> ways[] = {
+        [](QLineEdit &field) { ::Type(&field, u"{Ctrl+V}"_s); },
+        [this](QLineEdit &) { Find<QAction>(u"EditPaste"_s).trigger(); },
+        [](QLineEdit &field) {
+            QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
+            QApplication::sendEvent(&field, &event);
+            QWidget *menu = QApplication::activePopupWidget();
+            menu->actions()[5]->trigger(); // Paste.
+            menu->close();
+        },
+        [&text](QLineEdit &field) {
+            QMimeData data;
+            data.setText(text);
+            QDropEvent drop({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, {});
+            // The toolkit itself would hand it on only behind a mouse that drags.
+            for (QObject *child : field.children()) {
+                child->eventFilter(&field, &drop);
+            }
+        }};
+    Open();
+    for (QLineEdit *field :
+         {&Find<QLineEdit>(u"NoteField"_s), Find<QComboBox>(u"CategoryCombo"_s).lineEdit()}) {
+        for (const auto &paste : ways) {
+            field->setFocus();
+            field->clear();
+            paste(*field);
+            EXPECT_EQ(field->text(), u"a b c d  e"_s);
+        }
+    }
+    EXPECT_EQ(row.NoteField.Text() + category.Text(), u"a b c d  ea b c d  e"_s);
 }
 
 TEST_F(JournalPageTest, ShowsThePeriodAndTheCashBookThatTheKeysChoose) {

@@ -2,6 +2,7 @@
 
 #include "platform/Listbox.h"
 #include "shell/qt/ControlBinding.h"
+#include "shell/qt/OneLinePaste.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -18,6 +19,7 @@ CellEditor::CellEditor(Listbox &list, QWidget *parent) : QLineEdit(parent), list
     setMaxLength(std::numeric_limits<int>::max());
     setText(list.EditText());
     selectAll();
+    TakeAsOneLine(*this);
     // Only what the user types, for a line edit shows some characters otherwise than they are.
     connect(this, &QLineEdit::textEdited, &list, &Listbox::SetEditText);
     QCoreApplication::instance()->installEventFilter(this);

@@ -3,12 +3,14 @@
 #include "core/TLXModule.h"
 #include "platform/ComboBox.h"
 #include "shell/qt/ControlBinding.h"
+#include "shell/qt/OneLinePaste.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QWindow>
 
 ComboBoxView::ComboBoxView(ComboBox &combo, QWidget *parent) : QComboBox(parent), combo_(combo) {
     setEditable(true);
@@ -44,6 +46,7 @@ void ComboBoxView::OfferCompletions() {
     completer->setCaseSensitivity(Qt::CaseInsensitive);
     setCompleter(completer);
     completer->popup()->installEventFilter(this);
+    TakeAsOneLine(*lineEdit());
 }
 
 void ComboBoxView::changeEvent(QEvent *event) {
@@ -65,14 +68,31 @@ QString ComboBoxView::Completion() const {
             return text;
         }
     }
-    return {};
+    return rows.index(0, 0).data().toString();
 }
 
 bool ComboBoxView::eventFilter(QObject *watched, QEvent *event) {
-    if (event->type() == QEvent::KeyPress && watched == completer()->popup()) {
+    const bool isList = watched == completer()->popup();
+    if (event->type() == QEvent::KeyPress && isList) {
         return CompletionKey(static_cast<QKeyEvent *>(event));
     }
+    if (isList && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) {
+        FollowClicksWhile(event->type() == QEvent::Show);
+    }
+    if (event->type() == QEvent::MouseButtonPress && watched->isWindowType()) {
+        // Before the window takes the click to the list, which would close and do no more with it.
+        completer()->popup()->hide();
+    }
     return QComboBox::eventFilter(watched, event);
+}
+
+void ComboBoxView::FollowClicksWhile(bool listIsOpen) {
+    QWindow *page = window()->windowHandle();
+    if (listIsOpen) {
+        page->installEventFilter(this);
+    } else {
+        page->removeEventFilter(this);
+    }
 }
 
 bool ComboBoxView::CompletionKey(QKeyEvent *event) {

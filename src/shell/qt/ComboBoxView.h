@@ -7,7 +7,8 @@ class ComboBox;
 /// Shows a ComboBox, with a list of the rows that hold the typed text anywhere in theirs.
 ///
 /// Return and Tab take the row that is marked in the list, else the first one that begins with the
-/// typed text; Escape closes the list and leaves the text.
+/// typed text, else the first one that holds it; Escape closes the list and leaves the text. A
+/// click elsewhere closes the list too, and does what it does without one.
 class ComboBoxView : public QComboBox {
     Q_OBJECT
 
@@ -23,6 +24,7 @@ protected:
 private:
     void ShowCombo();
     void OfferCompletions();
+    void FollowClicksWhile(bool listIsOpen);
     bool CompletionKey(QKeyEvent *event);
     QString Completion() const;
 

@@ -1,5 +1,7 @@
 #include "shell/qt/EditActions.h"
 
+#include "shell/qt/OneLinePaste.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -42,7 +44,7 @@ const StandardEdit standardEdits[] = {
     {u"EditUndo", CanUndo, [](QLineEdit &field) { field.undo(); }},
     {u"EditCut", CanLoseSelection, [](QLineEdit &field) { field.cut(); }},
     {u"EditCopy", HasSelection, [](QLineEdit &field) { field.copy(); }},
-    {u"EditPaste", CanPaste, [](QLineEdit &field) { field.paste(); }},
+    {u"EditPaste", CanPaste, PasteAsOneLine},
     {u"EditClear", CanLoseSelection, [](QLineEdit &field) { field.del(); }},
     {u"EditSelectAll", HasText, [](QLineEdit &field) { field.selectAll(); }},
 };

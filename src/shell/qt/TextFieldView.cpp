@@ -2,11 +2,13 @@
 
 #include "platform/TextField.h"
 #include "shell/qt/ControlBinding.h"
+#include "shell/qt/OneLinePaste.h"
 
 #include <QSignalBlocker>
 
 TextFieldView::TextFieldView(TextField &field, QWidget *parent) : QLineEdit(parent) {
     setText(field.Text());
+    TakeAsOneLine(*this);
     BindControl(field, *this);
     connect(&field, &TextField::Updated, this, [this, &field] {
         if (text() != field.Text()) {
