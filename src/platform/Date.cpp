@@ -3,8 +3,10 @@
 using namespace Qt::StringLiterals;
 
 std::optional<Date> Date::FromSQL(const QString &text) {
-    const QDate day = QDate::fromString(text.left(10), Qt::ISODate);
-    return day.isValid() ? std::optional(Date(day)) : std::nullopt;
+    constexpr qsizetype length = 10;
+    const bool ends = text.size() <= length || text[length] == u' ' || text[length] == u'T';
+    const QDate day = QDate::fromString(text.left(length), Qt::ISODate);
+    return ends && day.isValid() ? std::optional(Date(day)) : std::nullopt;
 }
 
 QString Date::SQLDate() const {

@@ -10,7 +10,8 @@ class Date {
 public:
     explicit Date(QDate day) : day_(day), time_(0, 0) {}
     explicit Date(const QDateTime &moment) : day_(moment.date()), time_(moment.time()) {}
-    /// The day of a text that begins with a SQL date (YYYY-MM-DD), nothing if there is no such day.
+    /// The day of a SQL date (YYYY-MM-DD), which a time may follow after a blank or a T; nothing if
+    /// the text is anything else, or there is no such day.
     static std::optional<Date> FromSQL(const QString &text);
 
     int Year() const { return day_.year(); }

@@ -56,6 +56,15 @@ TEST_F(DateControlViewTest, TakesADayAndRefusesWhatIsNone) {
     }
 }
 
+TEST_F(DateControlViewTest, RefusesATextThatOnlyBeginsLikeADay) {
+    for (const auto &text : {u"10000-01-01"_s, u"100000-01-01"_s, u"1-2-26"_s, u"3. okt"_s}) {
+        Begin();
+        Type(text + u'\r');
+        EXPECT_TRUE(LooksRefused()) << qPrintable(text);
+        window.entryRow.NewSale();
+    }
+}
+
 TEST_F(DateControlViewTest, StepsByKeys) {
     const QString cases = u"+=16.11.2025|{Num+-}=14.11.2025|30{Up}=01.12.2025|{Down}=14.11.2025|"
                           "{PgUp}=15.10.2025|31.1.{PgDown}=28.02.2025|h=15.03.2026|"

@@ -179,7 +179,7 @@ bool DateControlView::TakeKey(const QKeyEvent &event) {
         OpenCalendar();
         return true;
     }
-    return plain && (key != Qt::Key_Minus || !TypesISO()) && StepBy(key);
+    return plain && !BelongsToText(key) && StepBy(key);
 }
 
 bool DateControlView::StepBy(int key) {
@@ -214,10 +214,19 @@ void DateControlView::Step(void (DateControl::*step)(int), int count) {
     }
 }
 
-bool DateControlView::TypesISO() const {
-    static const QRegularExpression beginning(u"^\\s*\\d{4}(-\\d\\d?)?$"_s);
-    const int end = hasSelectedText() ? selectionStart() : cursorPosition();
-    return beginning.match(text().left(end)).hasMatch();
+bool DateControlView::BelongsToText(int key) const {
+    // A day in full; of anything shorter a minus may be a part, as in 2026-02-01 or 1-2-26.
+    static const QRegularExpression day(
+        u"^\\s*(\\d{6}|\\d{8}|\\d\\d?\\.\\d\\d?\\.(\\d\\d|\\d{4})|\\d{4}-\\d\\d?-\\d\\d?)$"_s);
+    static const QRegularExpression letter(u"\\p{L}"_s);
+    const QString typed = text().left(hasSelectedText() ? selectionStart() : cursorPosition());
+    if (!isModified() || typed.isEmpty()) {
+        return false;
+    }
+    if (key == Qt::Key_H || key == Qt::Key_T) {
+        return letter.match(typed).hasMatch();
+    }
+    return key == Qt::Key_Minus && !day.match(typed).hasMatch();
 }
 
 void DateControlView::OpenCalendar() {

@@ -39,7 +39,8 @@ private:
     bool TakeKey(const QKeyEvent &event);
     bool StepBy(int key);
     void Step(void (DateControl::*step)(int), int count);
-    bool TypesISO() const;
+    /// Whether the key is a letter of what is being typed, and no step.
+    bool BelongsToText(int key) const;
     void OpenCalendar();
 
     DateControl &control_;
