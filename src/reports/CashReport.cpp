@@ -97,7 +97,7 @@ public:
 
 private:
     /// The baseline that lies the height of the page's rows below y.
-    double Below(double y) const { return y + line_ * graphics_.TextHeight(); }
+    double Below(double y) const { return y + line_ * lineHeight_; }
 
     void DrawHead() {
         graphics_.DrawString(company_, 40, 15);
@@ -111,6 +111,8 @@ private:
         graphics_.DrawString(title, 40, 45);
         graphics_.SetBold(false);
         graphics_.SetTextSize(textSize);
+        // Asked for once: the bold face may be higher.
+        lineHeight_ = graphics_.TextHeight();
         graphics_.SetUnderline(true);
         for (const Heading &heading : headings) {
             graphics_.DrawString(heading.text.toString(), heading.x, 75);
@@ -123,6 +125,7 @@ private:
     QString date_;
     /// A page takes one row more: it ends when the count has passed this.
     int maxLines_ = 0;
+    double lineHeight_ = 0;
     int line_ = 0;
 };
 
@@ -133,7 +136,7 @@ CashReport::CashReport(App &app, Selectors &selectors, Journal &journal, Balance
     : app_(app), selectors_(selectors), journal_(journal), balances_(balances), company_(company) {}
 
 void CashReport::Print() {
-    const auto graphics = app_.GetDesktop().OpenPrinterDialog(title);
+    const auto graphics = app_.GetDesktop().OpenPrinterDialog(title, app_.kvoDB().DatabaseFile());
     if (!graphics) {
         return;
     }

@@ -7,7 +7,7 @@
 /// A surface that writes down what is drawn on it: "line 0 0 10 0", "fill 0 1 10 9", or a text
 /// behind its place, "40 270 Endbestand". What differs in its look from the step before has the
 /// look in front: "333333 line 0 0 10 0", "333333 Courier 10 bold 40 270 Endbestand". A line of
-/// text is two points higher than its font.
+/// text is two points higher than its font, and in the bold face four.
 class DrawingRecorder : public PrinterGraphics {
 public:
     /// Writes into a list that lives longer than the surface.
@@ -32,7 +32,7 @@ public:
     void SetTextSize(double size) override { size_ = size; }
     void SetBold(bool bold) override { bold_ = bold; }
     void SetUnderline(bool underline) override { underline_ = underline; }
-    double TextHeight() const override { return size_ + 2; }
+    double TextHeight() const override { return size_ + (bold_ ? 4 : 2); }
     void DrawString(const QString &text, double x, double y) override {
         const QString style =
             QLatin1String(bold_ ? " bold" : "") + QLatin1String(underline_ ? " underlined" : "");
