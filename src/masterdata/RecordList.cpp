@@ -58,11 +58,6 @@ void RecordList::RemoveSelected() {
     if (row < 0) {
         return;
     }
-    const QString neighbour = list_.RowTag(row < list_.LastIndex() ? row + 1 : row - 1);
     app_.kvoDB().SQLExecute(u"DELETE FROM %1 WHERE id = %2"_s.arg(table_, list_.RowTag(row)));
     Load();
-    if (list_.ListIndex() < 0) {
-        list_.SetListIndex(list_.FindRow(neighbour));
-    }
-    list_.ScrollTo(list_.ListIndex());
 }

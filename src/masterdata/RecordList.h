@@ -29,8 +29,8 @@ public:
     /// Runs an INSERT, loads the list and opens the first cell of the new record. A failed INSERT
     /// is told, and nothing else happens.
     void Add(const QString &insert);
-    /// Deletes the selected record at once, without a question, and selects its neighbour. Without
-    /// a selection it does nothing.
+    /// Deletes the selected record at once, without a question. No other is selected after it, so
+    /// that a second press removes nothing. Without a selection it does nothing.
     void RemoveSelected();
 
 private:

@@ -18,7 +18,8 @@ public:
     bool Enabled() const { return enabled_; }
     void SetEnabled(bool enabled);
 
-    /// Asks for the keyboard focus. The control that loses it gets LostFocus.
+    /// Asks for the keyboard focus, which only a control that shows can take. The control that
+    /// loses it gets LostFocus.
     void SetFocus() { Q_EMIT FocusRequested(); }
 
 Q_SIGNALS:

@@ -82,12 +82,12 @@ TEST_F(BookingAccountsTest, PlusOpensTheNewNameAtItsPlaceAndMinusRemoves) {
     list.SetEditText(u"Zins"_s);
     Q_EMIT button.PlusPressed();
     EXPECT_EQ(list.Cell(list.EditedRow(), list.EditedColumn()), u"Neues Konto"_s);
-    EXPECT_EQ(list.Cell(-1, BookingAccounts::Name), u"b\nNeues Konto\nZins\nölig"_s);
+    EXPECT_EQ(list.Cell(-1, BookingAccounts::Name), u"b\nNeues Konto\nölig\nZins"_s);
     EXPECT_EQ(Stored(u"name || type || active"_s), u"öligA1 bE0 NULL Neues KontoE1"_s);
     list.SetListIndex(3);
     Q_EMIT button.MinusPressed();
-    Q_EMIT button.MinusPressed(); // The row above is selected now.
-    EXPECT_EQ(Stored(u"name"_s), u"b Neues Konto"_s);
+    Q_EMIT button.MinusPressed(); // Nothing is selected now.
+    EXPECT_EQ(Stored(u"name"_s), u"ölig b Neues Konto"_s);
 }
 
 } // namespace

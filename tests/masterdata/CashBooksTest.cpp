@@ -67,8 +67,12 @@ TEST_F(CashBooksTest, MinusRemovesTheSelectedBookButNeverTheMainOne) {
     list.SetListIndex(1);
     Q_EMIT button.MinusPressed();
     EXPECT_EQ(Stored(), u"Kasse 1000 100.0 2026-01-01\nLaden 1020 0.0 2015-01-01"_s);
+    Q_EMIT button.MinusPressed(); // Of two presses the second removes nothing.
+    EXPECT_EQ(Stored(), u"Kasse 1000 100.0 2026-01-01\nLaden 1020 0.0 2015-01-01"_s);
+    list.SetListIndex(1);
     Q_EMIT button.MinusPressed();
-    Q_EMIT button.MinusPressed(); // The main cash book is selected now.
+    list.SetListIndex(0);
+    Q_EMIT button.MinusPressed();
     EXPECT_EQ(Stored(), u"Kasse 1000 100.0 2026-01-01"_s);
     EXPECT_EQ(book.desktop.TakeMessages(), u"Hauptkasse kann nicht gelöscht werden!"_s);
     EXPECT_EQ(book.Value(u"SELECT count(*) FROM cash_journal"_s), u"1"_s);

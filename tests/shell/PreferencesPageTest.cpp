@@ -63,6 +63,50 @@ TEST_F(PreferencesPageTest, ChecksAndSortsByClicks) {
     EXPECT_EQ(window.bookingAccounts.CashaccountList.Cell(-1, BookingAccounts::Name), u"c\nb"_s);
 }
 
+TEST_F(PreferencesPageTest, RemovesOneRecordHoweverOftenOneStrikes) {
+    Click(accounts, 0, BookingAccounts::Kind); // Selects, for the desktop chooses nothing.
+    QWidget &button = Find<QWidget>(u"AccountsAdd"_s);
+    Click(&button, {40, 14});
+    QTest::mouseDClick(&button, Qt::LeftButton, {}, {40, 14});
+    QTest::mouseRelease(&button, Qt::LeftButton, {}, {40, 14});
+    EXPECT_EQ(Accounts(), u"c10A0"_s);
+    Click(accounts, 0, BookingAccounts::Kind);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Delete, {}, {}, true);
+    QApplication::sendEvent(&accounts, &held);
+    EXPECT_EQ(Accounts(), u"c10A0"_s);
+}
+
+TEST_F(PreferencesPageTest, CountsBothOfTwoQuickClicksOnACheckBox) {
+    DoubleClick(accounts, 0, BookingAccounts::Active);
+    EXPECT_EQ(Accounts(), u"b20E1 c10A0"_s);
+}
+
+TEST_F(PreferencesPageTest, WritesAnOpenCellBeforeACommandAndTakesItsEditorAway) {
+    book.desktop.paper.emplace();
+    QString name = u"Kasse"_s;
+    for (const auto &command : {u"{Ctrl+N}"_s, u"{Ctrl+P}"_s, u"{Alt+D}x"_s}) {
+        DoubleClick(books, 0, 0);
+        Type(u"{End}x"_s);
+        const QPointer<QWidget> editor = view.findChild<QWidget *>(u"CellEditor"_s);
+        window.MenuAction(u"new"_s);
+        EXPECT_FALSE(editor && editor->isVisible());
+        DoubleClick(books, 0, 0);
+        Type(u"{End}y"_s + command);
+        name += u"xy"_s;
+        EXPECT_EQ(CashBooks(), name + u"1000=100.0"_s);
+    }
+}
+
+TEST_F(PreferencesPageTest, KeepsTheKeysFromTheHiddenEntryRow) {
+    const QString day = window.entryRow.DateField.DateValue().SQLDate();
+    Find<QLineEdit>(u"CompanyField"_s).setFocus();
+    Type(u"{Ctrl+N}5\t"_s);
+    EXPECT_TRUE(QApplication::focusWidget()->isVisible());
+    FlipPage();
+    EXPECT_EQ(window.entryRow.DateField.DateValue().SQLDate(), day);
+    EXPECT_EQ(window.companyProfile.CompanyField.Text(), u"5Muster"_s);
+}
+
 TEST_F(PreferencesPageTest, AddsAndRemovesWhileACellIsOpen) {
     PressPlus();
     Type(u"Laden\t1000\t12,50\t"_s); // 1000 is taken: the book keeps its number.

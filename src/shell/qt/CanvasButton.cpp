@@ -16,7 +16,10 @@ CanvasButton::CanvasButton(Canvas &canvas, const QString &name, const QRect &pla
 
 void CanvasButton::keyPressEvent(QKeyEvent *event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        click();
+        // One press, one click: a key that is held down does no more.
+        if (!event->isAutoRepeat()) {
+            click();
+        }
     } else {
         QAbstractButton::keyPressEvent(event);
     }

@@ -52,8 +52,12 @@ void BindControl(Control &control, QWidget &widget) {
     }
     widget.setEnabled(control.Enabled());
     QObject::connect(&control, &Control::Updated, &widget, show);
-    QObject::connect(&control, &Control::FocusRequested, &widget,
-                     [&widget] { widget.setFocus(Qt::OtherFocusReason); });
+    QObject::connect(&control, &Control::FocusRequested, &widget, [&widget] {
+        // What stands on a page that does not show takes no keys. A window may still come up.
+        if (widget.isVisibleTo(widget.window())) {
+            widget.setFocus(Qt::OtherFocusReason);
+        }
+    });
     // Owned by the widget.
     new FocusWatcher(control, widget);
 }

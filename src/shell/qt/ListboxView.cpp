@@ -87,9 +87,15 @@ void ListboxView::OpenEditor() {
 }
 
 void ListboxView::CloseEditor() {
-    if (indexWidget(edited_) == QApplication::focusWidget()) {
+    QWidget *editor = indexWidget(edited_);
+    if (editor == nullptr) {
+        return;
+    }
+    if (window()->focusWidget() == editor) {
         setFocus(Qt::OtherFocusReason);
     }
+    // It is gone when the event loop comes round, which may be after a menu or a message.
+    editor->hide();
     setIndexWidget(edited_, nullptr);
 }
 
@@ -150,7 +156,7 @@ bool ListboxView::TakePress(QPoint place) {
     }
     bool handled = false;
     Q_EMIT list_.CellClick(cell.row(), cell.column(), handled);
-    if (!handled && list_.TypeOfColumn(cell.column()) == Listbox::ColumnType::CheckBox) {
+    if (!handled) {
         list_.ToggleCheck(cell.row(), cell.column());
     }
     return handled;
@@ -173,10 +179,18 @@ void ListboxView::mouseReleaseEvent(QMouseEvent *event) {
 }
 
 void ListboxView::mouseDoubleClickEvent(QMouseEvent *event) {
-    QTableView::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton) {
-        Q_EMIT list_.DoubleClick();
+    if (event->button() != Qt::LeftButton) {
+        QTableView::mouseDoubleClickEvent(event);
+        return;
     }
+    const QModelIndex cell = indexAt(event->position().toPoint());
+    if (list_.IsCheckBox(cell.row(), cell.column())) {
+        // The second of two quick clicks is one more.
+        mousePressEvent(event);
+    } else {
+        QTableView::mouseDoubleClickEvent(event);
+    }
+    Q_EMIT list_.DoubleClick();
 }
 
 void ListboxView::keyPressEvent(QKeyEvent *event) {
@@ -193,10 +207,11 @@ bool ListboxView::TakeKey(const QKeyEvent &event) {
     const int row = list_.ListIndex();
     switch (event.key()) {
     case Qt::Key_Insert:
-        Q_EMIT AddWanted();
-        return true;
     case Qt::Key_Delete:
-        Q_EMIT RemoveWanted();
+        // One press, one record: a key that is held down does no more.
+        if (!event.isAutoRepeat()) {
+            Q_EMIT event.key() == Qt::Key_Insert ? AddWanted() : RemoveWanted();
+        }
         return true;
     case Qt::Key_F2:
         OpenRow(row);
