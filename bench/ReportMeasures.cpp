@@ -76,7 +76,9 @@ public:
     qint64 calls = 0;
 
     FolderItem ApplicationData() const override { return book_.ApplicationData(); }
-    std::unique_ptr<PrinterGraphics> OpenPrinterDialog(const QString & /*document*/) override {
+    std::unique_ptr<PrinterGraphics>
+    OpenPrinterDialog(const QString & /*document*/,
+                      const std::optional<FolderItem> & /*openBook*/) override {
         return std::make_unique<CountingGraphics>(calls);
     }
 
@@ -124,7 +126,7 @@ Measure ReportYear() {
                 },
             .bare =
                 [=](auto &state) {
-                    const auto graphics = printing->desktop.OpenPrinterDialog({});
+                    const auto graphics = printing->desktop.OpenPrinterDialog({}, {});
                     for (auto _ : state) {
                         DrawCells(printing->window.journal.CashList, *graphics, calls);
                     }

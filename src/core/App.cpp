@@ -23,8 +23,8 @@ FolderItem App::DefaultDatabaseFile() const {
     return desktop_.ApplicationData().Child(u"Brevant"_s).Child(u"Zolmark.sdb"_s);
 }
 
-void App::UseDefaultFile(SQLiteDatabase &database) const {
-    database.SetDatabaseFile(DefaultDatabaseFile());
+void App::UseFile(SQLiteDatabase &database, const FolderItem &file) {
+    database.SetDatabaseFile(file);
     database.SetEncryptionKey(FixedKey());
 }
 
@@ -34,10 +34,11 @@ FolderItem App::Resource(const QString &name) const {
 
 bool App::DBLoad() {
     SQLiteDatabase &database = NewDatabase();
-    if (!DefaultDatabaseFile().Exists()) {
+    const FolderItem file = DefaultDatabaseFile();
+    if (!file.Exists()) {
         return false;
     }
-    UseDefaultFile(database);
+    UseFile(database, file);
     return true;
 }
 

@@ -21,8 +21,8 @@ public:
 
     /// Zolmark.sdb in the folder Brevant of the user's application data.
     FolderItem DefaultDatabaseFile() const;
-    /// Gives a database the default file and its key. The folder may not be there yet.
-    void UseDefaultFile(SQLiteDatabase &database) const;
+    /// Gives a database a file and the key of every book.
+    static void UseFile(SQLiteDatabase &database, const FolderItem &file);
     /// A picture or the manual, in the folder Resources beside the program's own folder.
     FolderItem Resource(const QString &name) const;
 

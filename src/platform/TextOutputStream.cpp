@@ -2,7 +2,13 @@
 
 using namespace Qt::StringLiterals;
 
-TextOutputStream::TextOutputStream(const FolderItem &file) : file_(file.Path()) {
+TextOutputStream::TextOutputStream(const FolderItem &file,
+                                   const std::optional<FolderItem> &openBook)
+    : file_(file.Path()) {
+    if (openBook && file.IsSameFileAs(*openBook)) {
+        failure_ = u"Sie ist das geöffnete Kassenbuch."_s;
+        return;
+    }
     // Without a buffer: a buffer that a full disk takes in part counts as written.
     if (!file_.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         Fail();

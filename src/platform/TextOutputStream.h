@@ -10,8 +10,8 @@
 /// stays as it was. A failure on the way makes Close fail. Letting go without Close drops all.
 class TextOutputStream {
 public:
-    /// Begins the file.
-    explicit TextOutputStream(const FolderItem &file);
+    /// Begins the file. The open book is refused.
+    TextOutputStream(const FolderItem &file, const std::optional<FolderItem> &openBook);
 
     /// Adds the bytes as they are.
     void Write(const QByteArray &bytes);

@@ -9,9 +9,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// German as the dictionary has it, without what the desktop has set otherwise for dates or
+/// numbers.
 QLocale German(const QLocale &desktop) {
-    return desktop.language() == QLocale::German ? desktop
-                                                 : QLocale(QLocale::German, QLocale::Germany);
+    // The desktop's own name may be that of such a setting; its languages are the user's.
+    QStringList names = desktop.uiLanguages();
+    names.prepend(desktop.name());
+    for (const QString &name : names) {
+        if (const QLocale locale(name); locale.language() == QLocale::German) {
+            return {QLocale::German, locale.territory()};
+        }
+    }
+    return {QLocale::German, QLocale::Germany};
 }
 
 QString WithFourDigitYear(QString form) {

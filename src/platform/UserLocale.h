@@ -10,8 +10,8 @@
 /// The user's way to write numbers and dates; it reads what it writes. The one place for a locale.
 class UserLocale {
 public:
-    /// Keeps a German locale as it is, Swiss and Austrian forms among them; any other becomes
-    /// German (Germany).
+    /// Plain German in the territory of a German desktop, such as Austria or Switzerland, else in
+    /// Germany. What the desktop has set otherwise for dates or numbers does not count.
     explicit UserLocale(const QLocale &desktop);
 
     const QLocale &Locale() const { return locale_; }

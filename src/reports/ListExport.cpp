@@ -27,7 +27,8 @@ QByteArray WithSemicolons(QString cells) {
 
 } // namespace
 
-void TLXModule::ExportCSV(Desktop &desktop, const CellModel &list) {
+void TLXModule::ExportCSV(Desktop &desktop, const CellModel &list,
+                          const std::optional<FolderItem> &openBook) {
     const std::optional<FolderItem> file =
         desktop.ShowModal({.initialDirectory = desktop.DesktopFolder(),
                            .promptText = u"Speichern als"_s,
@@ -37,7 +38,7 @@ void TLXModule::ExportCSV(Desktop &desktop, const CellModel &list) {
     if (!file) {
         return;
     }
-    TextOutputStream stream(*file);
+    TextOutputStream stream(*file, openBook);
     stream.Write(WithSemicolons(list.Heading(-1) + endOfLine));
     stream.Write(WithSemicolons(ReplaceLineEndings(list.Cell(-1, -1), endOfLine)));
     if (!stream.Close()) {

@@ -6,6 +6,8 @@
 #include "platform/Text.h"
 #include "setup/SampleBook.h"
 
+#include <QUuid>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -15,6 +17,10 @@ enum Page { Company = 1, CashBook = 2 };
 /// Where a button's picture stands on it, in points.
 constexpr int pictureLeft = 14;
 constexpr int pictureTop = 26;
+
+/// How the names of books in the making begin. They stand beside the place of the book.
+const auto unfinished = u"Zolmark.neu-"_s;
+const auto cannotCreate = u"Die Datenbank konnte nicht erstellt werden: "_s;
 
 } // namespace
 
@@ -70,25 +76,10 @@ void WelcomeWindow::Event_Open() {
         return;
     }
     app_.Connect();
+    // Who was ended between the last two steps of making the book has left it a second name.
+    app_.DefaultDatabaseFile().Parent().DeleteFiles(unfinished);
     Q_EMIT Closed();
     Q_EMIT MainWindowWanted();
-}
-
-void WelcomeWindow::Event_Close() {
-    if (creationFailed_ && HasNoTables()) {
-        // If it can't be removed, nothing is worse than it was.
-        static_cast<void>(app_.DefaultDatabaseFile().Delete());
-    }
-}
-
-bool WelcomeWindow::HasNoTables() const {
-    SQLiteDatabase leftover;
-    app_.UseDefaultFile(leftover);
-    if (!leftover.Connect()) {
-        return false;
-    }
-    const auto tables = leftover.SQLSelect(u"SELECT count(*) FROM sqlite_master"_s);
-    return tables && tables->IdxField(1).DoubleValue() == 0;
 }
 
 void WelcomeWindow::NewCanvas_MouseDown() {
@@ -137,27 +128,42 @@ void WelcomeWindow::SaveButton_Action() {
 }
 
 void WelcomeWindow::CreateDatabase() {
-    SQLiteDatabase &database = app_.NewDatabase();
-    const FolderItem folder = app_.DefaultDatabaseFile().Parent();
+    const FolderItem place = app_.DefaultDatabaseFile();
+    const FolderItem folder = place.Parent();
     if (!folder.Exists()) {
         // A failure shows when the file can't be made.
         static_cast<void>(folder.CreateAsFolder());
     }
-    app_.UseDefaultFile(database);
-    if (!database.CreateDatabaseFile()) {
-        app_.GetDesktop().MsgBox(u"Die Datenbank konnte nicht erstellt werden: "_s +
-                                 database.ErrorMessage());
-        creationFailed_ = true;
+    // What an attempt has left that was ended half-way.
+    folder.DeleteFiles(unfinished);
+    const QString name = unfinished + QUuid::createUuid().toString(QUuid::Id128);
+    if (!MakeBook(folder.Child(name))) {
+        folder.DeleteFiles(name);
         return;
     }
-    creationFailed_ = !BuildBook(AccountsPopup.Text(), ClosingSQL());
-    if (creationFailed_) {
-        // Lets go of the file, so that it can be removed when the window closes.
-        app_.NewDatabase();
+    if (!folder.Child(name).MoveTo(place)) {
+        app_.GetDesktop().MsgBox(
+            cannotCreate + u"%1 ist schon da oder darf nicht angelegt werden."_s.arg(place.Path()));
+        folder.DeleteFiles(name);
         return;
+    }
+    if (app_.DBLoad()) {
+        app_.Connect();
     }
     Q_EMIT MainWindowWanted();
     Q_EMIT Closed();
+}
+
+bool WelcomeWindow::MakeBook(const FolderItem &file) {
+    SQLiteDatabase &database = app_.NewDatabase();
+    app_.UseFile(database, file);
+    const bool created = database.CreateDatabaseFile();
+    if (!created) {
+        app_.GetDesktop().MsgBox(cannotCreate + database.ErrorMessage());
+    }
+    const bool made = created && BuildBook(AccountsPopup.Text(), ClosingSQL());
+    app_.NewDatabase();
+    return made;
 }
 
 void WelcomeWindow::CreateDemoDatabase() {

@@ -48,15 +48,13 @@ public:
     PushButton SaveButton;
 
     void Event_Open();
-    /// Runs when the window closes. The file of a failed creation goes if no table is in it, for
-    /// the next start would take it for a book.
-    void Event_Close();
 
     /// Makes the sample book in memory and opens the main window on it. A failure is told, and the
     /// window stays.
     void CreateDemoDatabase();
-    /// Makes the default file from what is typed and opens the main window on it. A failure is
-    /// told, and the window stays with all that is typed; a later attempt uses the same file.
+    /// Makes the default file from what is typed and opens the main window on it. The file is there
+    /// as a whole or not at all, whenever the program is ended. A failure is told, and the window
+    /// stays with all that is typed. A file that stands there already stays as it is.
     void CreateDatabase();
 
 Q_SIGNALS:
@@ -77,10 +75,9 @@ private:
     void ConnectEvents();
     void DrawPicture(Canvas &canvas, const QString &name);
     QString ClosingSQL() const;
-    bool HasNoTables() const;
+    /// Makes the whole book in a file, and closes it; false after a failure, which has been told.
+    bool MakeBook(const FolderItem &file);
     bool BuildBook(const QString &chart, const QString &closingSQL);
 
     App &app_;
-    /// A creation has failed and may have left its file.
-    bool creationFailed_ = false;
 };

@@ -129,7 +129,8 @@ void MainWindow::LeavePreferences() {
 void MainWindow::Export() {
     selectors.GetMissing();
     accountingExport.ExportJournal();
-    TLXModule::ExportCSV(app_.GetDesktop(), accountingExport.ExportList);
+    TLXModule::ExportCSV(app_.GetDesktop(), accountingExport.ExportList,
+                         app_.kvoDB().DatabaseFile());
 }
 
 void MainWindow::EndEdits() {

@@ -91,7 +91,6 @@ TEST_F(Refusal, LeavesNoHalfBook) {
         const bool made = program->window.has_value();
         EXPECT_EQ(message.isEmpty(), made);
         ++counts[made ? "made" : "refused"];
-        program->welcome.Event_Close();
         EXPECT_EQ(book.Exists(), made);
         program.emplace(desktop);
         EXPECT_TRUE(program->window && program->IsSound());

@@ -51,4 +51,22 @@ TEST_F(ExportTest, LeavesTheOldFileWhenTheNewOneCannotBeWritten) {
         u"Die Datei %1 konnte nicht geschrieben werden: "_s.arg(book.desktop.fileToSave->Path())));
 }
 
+TEST(Export, RefusesTheOpenBookAsItsFile) {
+    Book book(Book::Place::File);
+    MainWindow window(book.app);
+    window.Event_Open();
+    const QString place = book.app.DefaultDatabaseFile().Path();
+    const QString link = book.desktop.Path(u"link.txt"_s);
+    ASSERT_TRUE(QFile::link(place, link));
+    for (const QString &path : {place, link}) {
+        book.desktop.fileToSave = FolderItem(path);
+        window.MenuAction(u"export"_s);
+        EXPECT_EQ(
+            book.desktop.TakeMessages(),
+            u"Die Datei %1 konnte nicht geschrieben werden: Sie ist das geöffnete Kassenbuch."_s
+                .arg(path));
+    }
+    EXPECT_EQ(ReadWithShell(book.app, u"SELECT company FROM core_company"_s), u"Muster"_s);
+}
+
 } // namespace

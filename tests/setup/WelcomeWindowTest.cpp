@@ -3,6 +3,10 @@
 #include "shell/MainWindow.h"
 #include "support/Book.h"
 
+#include <QDir>
+
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -24,6 +28,12 @@ protected:
         welcome.ForwardButton.Press();
     }
     QString Read(const QString &sql) const { return ReadWithShell(app, sql); }
+    /// What lies where the book is to be.
+    QString Files() const {
+        return QDir(app.DefaultDatabaseFile().Parent().Path())
+            .entryList(QDir::Files | QDir::Hidden)
+            .join(u' ');
+    }
     /// What the window has signalled and then told since the last time.
     QString Told() { return std::exchange(signalled, {}) + desktop.TakeMessages(); }
 
@@ -92,10 +102,47 @@ TEST_F(WelcomeWindowTest, LeavesABookAloneThatAnotherProgramHasMade) {
     FillCompany(u"Muster"_s);
     welcome.SaveButton.Press();
     EXPECT_EQ(Told(), u"MainWindowWanted Closed "_s);
+    welcome.CompanyField.SetText(u"Andere"_s);
     welcome.CreateDatabase();
-    EXPECT_EQ(Told(), u"Error: UNIQUE constraint failed: core_company.id"_s);
-    welcome.Event_Close();
-    EXPECT_EQ(Read(u"SELECT count(*) FROM core_company"_s), u"1"_s);
+    EXPECT_TRUE(Told().startsWith(u"Die Datenbank konnte nicht erstellt werden: "_s));
+    EXPECT_EQ(Read(u"SELECT company FROM core_company"_s), u"Muster"_s);
+    EXPECT_EQ(Files(), u"Zolmark.sdb"_s);
+}
+
+TEST_F(WelcomeWindowTest, MakesNoBookThroughALinkToNowhere) {
+    const FolderItem elsewhere(desktop.Path(u"elsewhere"_s));
+    ASSERT_TRUE(app.DefaultDatabaseFile().Parent().CreateAsFolder() &&
+                QFile::link(elsewhere.Path(), app.DefaultDatabaseFile().Path()));
+    welcome.CreateDatabase();
+    EXPECT_TRUE(Told().startsWith(u"Die Datenbank konnte nicht erstellt werden: "_s));
+    EXPECT_FALSE(elsewhere.Exists());
+}
+
+TEST_F(WelcomeWindowTest, LeavesNoFileOfAFailedOrKilledAttempt) {
+    const FolderItem leftover =
+        app.DefaultDatabaseFile().Parent().Child(u"Zolmark.neu-1-journal"_s);
+    ASSERT_TRUE(leftover.Parent().CreateAsFolder() &&
+                QFile(leftover.Path()).open(QIODevice::WriteOnly));
+    welcome.CompanyField.SetText(u"O'Neill"_s);
+    welcome.SaveButton.Press();
+    EXPECT_EQ(Told(), u"Error: near \"Neill\": syntax error"_s);
+    EXPECT_EQ(Files(), QString());
+    welcome.CompanyField.SetText(u"Muster"_s);
+    welcome.SaveButton.Press();
+    EXPECT_EQ(Told(), u"MainWindowWanted Closed "_s);
+    EXPECT_EQ(Files(), u"Zolmark.sdb"_s);
+}
+
+TEST_F(WelcomeWindowTest, KeepsFoldersAndFileFromOthersWhateverTheHabit) {
+    const auto before = umask(0277);
+    welcome.CreateDatabase();
+    umask(before);
+    EXPECT_EQ(Told(), u"MainWindowWanted Closed "_s);
+    const QFileInfo file(app.DefaultDatabaseFile().Path());
+    EXPECT_EQ(file.permissions(), QFile::Permissions(0x6600));
+    for (const QString &folder : {file.path(), QFileInfo(file.path()).path()}) {
+        EXPECT_EQ(QFileInfo(folder).permissions(), QFile::Permissions(0x7700));
+    }
 }
 
 } // namespace

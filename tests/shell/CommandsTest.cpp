@@ -1,8 +1,10 @@
 #include "shell/qt/TerminationSignals.h"
+#include "shell/qt/ZolmarkApplication.h"
 #include "support/MainWindowTest.h"
 
 #include <QAction>
 #include <QMenu>
+#include <QTimer>
 
 #include <csignal>
 
@@ -83,6 +85,8 @@ TEST_F(CommandsTest, OfTheEditMenuActOnTheFocusedField) {
 
 TEST(MainWindowView, SavesWhatIsTypedHoweverTheProgramEnds) {
     const TerminationSignals endOfSession;
+    QObject::connect(&endOfSession, &TerminationSignals::Raised, qApp,
+                     &QApplication::closeAllWindows);
     const std::function<void(MainWindowView &)> ends[] = {
         [](MainWindowView &view) { Type(view.windowHandle(), u"{Ctrl+Q}"_s); },
         [](MainWindowView & /*view*/) { std::raise(SIGTERM); }};
@@ -102,6 +106,32 @@ TEST(MainWindowView, SavesWhatIsTypedHoweverTheProgramEnds) {
         EXPECT_EQ(book.Value(u"SELECT company || name FROM core_company, cash_book"_s),
                   u"NeuLaden"_s);
     }
+}
+
+TEST(ZolmarkApplication, EndsBehindAMessageAndOpensNoOther) {
+    auto &application = *static_cast<ZolmarkApplication *>(qApp);
+    QWidget before;
+    QWidget after;
+    before.show();
+    int messages = 0;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &look, [&] {
+        if (QApplication::activeModalWidget()) {
+            ++messages;
+            application.End();
+        }
+    });
+    look.start(10);
+    QTimer::singleShot(0, &look, [&] {
+        for (int i = 0; i < 3; ++i) {
+            application.Tell(std::runtime_error("Meldung"));
+        }
+        after.show(); // As the main window does behind the message of the sample book.
+    });
+    QTimer::singleShot(10'000, &look, [] { QApplication::exit(EXIT_FAILURE); });
+    EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);
+    EXPECT_EQ(messages, 1);
+    EXPECT_FALSE(before.isVisible() || after.isVisible());
 }
 
 } // namespace

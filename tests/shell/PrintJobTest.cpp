@@ -20,8 +20,8 @@ protected:
         printer->setOutputFileName(path);
         printer->setPageSize(QPageSize(QPageSize::A4));
         setUp(*printer);
-        auto job =
-            std::make_unique<PrintJob>(std::move(printer), [this](const QString &) { ++failures; });
+        auto job = std::make_unique<PrintJob>(std::move(printer), openBook,
+                                              [this](const QString &) { ++failures; });
         job->SetTextFont(u"Courier"_s);
         job->SetTextSize(10);
         job->DrawString(u"100"_s, 40, 100);
@@ -49,6 +49,7 @@ protected:
 
     QTemporaryDir folder;
     QString path = folder.filePath(u"report.pdf"_s);
+    std::optional<FolderItem> openBook;
     int failures = 0;
 };
 
@@ -69,7 +70,9 @@ TEST_F(PrintJobTest, TellsWhatCouldNotBePrintedAndLeavesTheFileBefore) {
         const FullDisk disk(2000);
         Print();
     }
-    EXPECT_EQ(failures, 2);
+    openBook = FolderItem(folder.path() + u"/./report.pdf"_s);
+    Print();
+    EXPECT_EQ(failures, 3);
     EXPECT_EQ(Read(), before);
 }
 

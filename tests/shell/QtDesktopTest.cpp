@@ -6,6 +6,8 @@
 #include "support/ModalWindows.h"
 
 #include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -48,10 +50,41 @@ TEST_F(QtDesktopTest, AsksForANewFileInGerman) {
 
 TEST_F(QtDesktopTest, PrintsIntoAFileWithoutAPrinter) {
     const FolderItem file(QDir::home().filePath(u"Bericht.pdf"_s));
-    Press(Qt::Key_Escape, [this] { EXPECT_FALSE(desktop.OpenPrinterDialog(u"Bericht"_s)); });
+    Press(Qt::Key_Escape, [this] { EXPECT_FALSE(desktop.OpenPrinterDialog(u"Bericht"_s, {})); });
     EXPECT_FALSE(file.Exists());
-    Press(Qt::Key_Return, [this] { EXPECT_TRUE(desktop.OpenPrinterDialog(u"Bericht"_s)); });
+    Press(Qt::Key_Return, [this] { EXPECT_TRUE(desktop.OpenPrinterDialog(u"Bericht"_s, {})); });
     EXPECT_TRUE(file.Delete());
+}
+
+TEST_F(QtDesktopTest, SaysWhatTheDesktopCannotOpen) {
+    struct Case {
+        QByteArray opener;
+        bool tells;
+    };
+    const QByteArray before = qgetenv("PATH");
+    const QTemporaryDir tools;
+    qputenv("PATH", tools.path().toUtf8());
+    for (const Case &each : {Case{"", true}, Case{"exit 3", true}, Case{"exit 0", false}}) {
+        QFile opener(tools.filePath(u"xdg-open"_s));
+        EXPECT_TRUE(opener.open(QIODevice::WriteOnly) && opener.write("#!/bin/sh\n" + each.opener));
+        // What can't be run is not there.
+        opener.setPermissions(each.opener.isEmpty() ? QFile::ReadOwner
+                                                    : QFile::Permissions(0x7700));
+        opener.close();
+        const auto open = [this](const QString &path) {
+            desktop.ShowURL(u"https://zolmark.example/"_s);
+            desktop.Launch(FolderItem(path)); // A missing file is not told.
+            EXPECT_TRUE(QTest::qWaitFor([] { return !qApp->findChild<QProcess *>(); }));
+        };
+        const QStringList texts = Press(Qt::Key_Return, [&] { open(u"/no/manual.pdf"_s); });
+        EXPECT_EQ(texts.filter(u"https://zolmark.example/ kann nicht geöffnet"_s).size(),
+                  int(each.tells));
+        EXPECT_FALSE(texts.join(u' ').contains(u"manual"_s));
+        EXPECT_EQ(Press(Qt::Key_Return, [&] { open(tools.path()); }).filter(tools.path()).isEmpty(),
+                  !each.tells);
+        EXPECT_TRUE(opener.remove());
+    }
+    qputenv("PATH", before);
 }
 
 } // namespace

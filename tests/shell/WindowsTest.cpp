@@ -66,7 +66,7 @@ TEST(Windows, OpenTheMainWindowAtOnceOnABookInItsPlace) {
     EXPECT_TRUE(Shown(u"MainWindow"_s) && !Shown(u"WelcomeWindow"_s));
 }
 
-TEST(WelcomeWindowView, ClosesOnAFailedCreationWithoutItsFile) {
+TEST(WelcomeWindowView, ShowsThePointedButtonAndStaysOpenAfterAFailedCreation) {
     Book book; // Its desktop tells without a box, and has no pictures.
     WelcomeWindow welcome(book.app);
     WelcomeWindowView view(welcome, book.app.Locale());
@@ -80,7 +80,7 @@ TEST(WelcomeWindowView, ClosesOnAFailedCreationWithoutItsFile) {
     welcome.AccountNameField.SetText(u"'"_s);
     welcome.SaveButton.Press();
     EXPECT_EQ(book.desktop.TakeMessages(), u"Error: near \"1000\": syntax error"_s);
-    EXPECT_TRUE(book.app.DefaultDatabaseFile().Exists());
+    EXPECT_TRUE(view.isVisible());
     Type(view.windowHandle(), u"{Ctrl+Q}"_s);
     EXPECT_FALSE(view.isVisible());
     EXPECT_FALSE(book.app.DefaultDatabaseFile().Exists());

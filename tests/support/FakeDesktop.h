@@ -43,7 +43,9 @@ public:
         saveDialog = dialog;
         return fileToSave;
     }
-    std::unique_ptr<PrinterGraphics> OpenPrinterDialog(const QString & /*document*/) override {
+    std::unique_ptr<PrinterGraphics>
+    OpenPrinterDialog(const QString & /*document*/,
+                      const std::optional<FolderItem> & /*openBook*/) override {
         return paper ? std::make_unique<DrawingRecorder>(*paper) : nullptr;
     }
     std::optional<int> PopUp(const MenuItem & /*base*/) override { return menuChoice; }

@@ -11,10 +11,11 @@ namespace {
 
 /// The library would make the file readable for everybody.
 void CreateForOwnerAlone(const QString &path) {
+    const auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
     QFile file(path);
     // A failure shows at once when the library opens the file, and it has the better message.
-    static_cast<void>(
-        file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner));
+    static_cast<void>(file.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerOnly) &&
+                      file.setPermissions(ownerOnly));
 }
 
 } // namespace

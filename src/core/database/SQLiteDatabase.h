@@ -25,6 +25,8 @@ public:
     SQLiteDatabase &operator=(const SQLiteDatabase &) = delete;
 
     void SetDatabaseFile(const FolderItem &file) { file_ = file; }
+    /// Nothing for a database in memory.
+    std::optional<FolderItem> DatabaseFile() const { return file_; }
     /// The key, set before the file is created or opened. Without one the file is plain.
     void SetEncryptionKey(const QByteArray &key) { key_ = key; }
 

@@ -45,8 +45,9 @@ double LowerEdgeOf(const QPrinter &printer) {
 
 } // namespace
 
-PrintJob::PrintJob(std::unique_ptr<QPrinter> printer, Tell tell)
-    : printer_(std::move(printer)), tell_(std::move(tell)), pages_(1) {
+PrintJob::PrintJob(std::unique_ptr<QPrinter> printer, std::optional<FolderItem> openBook, Tell tell)
+    : printer_(std::move(printer)), openBook_(std::move(openBook)), tell_(std::move(tell)),
+      pages_(1) {
     printer_->setFullPage(true);
 }
 
@@ -173,7 +174,7 @@ QString PrintJob::PrintIntoFile() const {
     if (!isOpen || !PrintOn(writer)) {
         return cannotPrint;
     }
-    TextOutputStream file{FolderItem(printer_->outputFileName())};
+    TextOutputStream file(FolderItem(printer_->outputFileName()), openBook_);
     file.Write(pdf.data());
     return file.Close() ? QString() : file.ErrorMessage();
 }

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QPagedPaintDevice;
@@ -21,8 +22,8 @@ class PrintJob : public PrinterGraphics {
 public:
     /// Hears a failure, in German.
     using Tell = std::function<void(const QString &)>;
-    /// The printer as the user has chosen and set it.
-    PrintJob(std::unique_ptr<QPrinter> printer, Tell tell);
+    /// The printer as the user has chosen and set it. The open book is no file to print into.
+    PrintJob(std::unique_ptr<QPrinter> printer, std::optional<FolderItem> openBook, Tell tell);
     ~PrintJob() override;
 
     double Width() const override;
@@ -57,6 +58,7 @@ private:
     void PrintPage(QPainter &painter, const Page &page) const;
 
     std::unique_ptr<QPrinter> printer_;
+    std::optional<FolderItem> openBook_;
     Tell tell_;
     std::vector<Page> pages_;
     Color color_;

@@ -15,6 +15,7 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
 
@@ -49,7 +50,10 @@ Date QtDesktop::Now() const {
 }
 
 FolderItem QtDesktop::ApplicationData() const {
-    return FolderItem(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    const QString path = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    // A relative path in the environment counts for nothing: the book would move with the folder
+    // that the program is started in.
+    return FolderItem(QDir::isAbsolutePath(path) ? path : QDir::home().filePath(u".local/share"_s));
 }
 
 FolderItem QtDesktop::DesktopFolder() const {
@@ -66,12 +70,13 @@ void QtDesktop::MsgBox(const QString &message) {
     box.setWindowModality(Qt::WindowModal);
     // Texts of the database may hold what looks like markup.
     box.setTextFormat(Qt::PlainText);
-    box.exec();
+    Ask(box);
 }
 
 std::optional<FolderItem> QtDesktop::GetOpenFolderItem() {
-    const QString path = QFileDialog::getOpenFileName(Owner());
-    return path.isEmpty() ? std::nullopt : std::optional(FolderItem(path));
+    QFileDialog box(Owner());
+    box.setFileMode(QFileDialog::ExistingFile);
+    return Ask(box) ? std::optional(FolderItem(box.selectedFiles().constFirst())) : std::nullopt;
 }
 
 std::optional<FolderItem> QtDesktop::ShowModal(const SaveAsDialog &dialog) {
@@ -81,12 +86,11 @@ std::optional<FolderItem> QtDesktop::ShowModal(const SaveAsDialog &dialog) {
     box.setLabelText(QFileDialog::FileName, dialog.promptText);
     box.setDefaultSuffix(dialog.filter.extensions);
     box.selectFile(dialog.suggestedFileName);
-    return box.exec() == QDialog::Accepted
-               ? std::optional(FolderItem(box.selectedFiles().constFirst()))
-               : std::nullopt;
+    return Ask(box) ? std::optional(FolderItem(box.selectedFiles().constFirst())) : std::nullopt;
 }
 
-std::unique_ptr<PrinterGraphics> QtDesktop::OpenPrinterDialog(const QString &document) {
+std::unique_ptr<PrinterGraphics>
+QtDesktop::OpenPrinterDialog(const QString &document, const std::optional<FolderItem> &openBook) {
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer->setDocName(document);
     if (printer->outputFormat() == QPrinter::PdfFormat) {
@@ -95,10 +99,10 @@ std::unique_ptr<PrinterGraphics> QtDesktop::OpenPrinterDialog(const QString &doc
             FolderOf(QStandardPaths::DocumentsLocation).Child(document + u".pdf"_s).Path());
     }
     QPrintDialog dialog(printer.get(), Owner());
-    if (dialog.exec() != QDialog::Accepted) {
+    if (!Ask(dialog)) {
         return nullptr;
     }
-    return std::make_unique<PrintJob>(std::move(printer),
+    return std::make_unique<PrintJob>(std::move(printer), openBook,
                                       [this](const QString &failure) { MsgBox(failure); });
 }
 
@@ -117,15 +121,43 @@ void QtDesktop::ShowAboutPanel() {
                                                    QApplication::applicationVersion()),
                     QMessageBox::Ok, Owner());
     box.setIconPixmap(QApplication::windowIcon().pixmap(96));
-    box.exec();
+    Ask(box);
+}
+
+bool QtDesktop::Ask(QDialog &dialog) const {
+    return isAsking_ && dialog.exec() == QDialog::Accepted;
 }
 
 void QtDesktop::Launch(const FolderItem &file) {
-    // What the desktop can't open it tells by itself.
-    static_cast<void>(QDesktopServices::openUrl(QUrl::fromLocalFile(file.Path())));
+    Open(QUrl::fromLocalFile(file.Path()), file.Exists() ? file.Path() : QString());
 }
 
 void QtDesktop::ShowURL(const QString &address) {
-    // As above.
-    static_cast<void>(QDesktopServices::openUrl(QUrl(address)));
+    Open(QUrl(address), address);
+}
+
+void QtDesktop::Open(const QUrl &address, const QString &name) {
+    const auto tell = [this, name] {
+        if (!name.isEmpty()) {
+            MsgBox(u"%1 kann nicht geöffnet werden: Es ist kein Programm dafür eingerichtet."_s.arg(
+                name));
+        }
+    };
+    const QString opener = QStandardPaths::findExecutable(u"xdg-open"_s);
+    if (opener.isEmpty()) {
+        if (!QDesktopServices::openUrl(address)) {
+            tell();
+        }
+        return;
+    }
+    // The toolkit starts the same program, but does not wait for what it answers.
+    auto *process = new QProcess(qApp);
+    process->setProcessChannelMode(QProcess::ForwardedChannels);
+    QObject::connect(process, &QProcess::finished, process, [process, tell](int result) {
+        process->deleteLater();
+        if (result != 0) {
+            tell();
+        }
+    });
+    process->start(opener, {address.toString(QUrl::FullyEncoded)});
 }

@@ -1,6 +1,5 @@
 #include "shell/qt/TerminationSignals.h"
 
-#include <QApplication>
 #include <QSocketNotifier>
 
 #include <algorithm>
@@ -37,7 +36,7 @@ TerminationSignals::TerminationSignals() {
     }
     wakeUp = ends_[1];
     const auto *notifier = new QSocketNotifier(ends_[0], QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, &TerminationSignals::CloseWindows);
+    connect(notifier, &QSocketNotifier::activated, this, &TerminationSignals::TakeSignal);
     for (const int signal : endings) {
         std::signal(signal, HandleSignal);
     }
@@ -52,9 +51,9 @@ TerminationSignals::~TerminationSignals() {
     }
 }
 
-void TerminationSignals::CloseWindows() {
+void TerminationSignals::TakeSignal() {
     char byte = 0;
     // What it says is known: there is only one message.
     static_cast<void>(!read(ends_[0], &byte, 1));
-    QApplication::closeAllWindows();
+    Q_EMIT Raised();
 }

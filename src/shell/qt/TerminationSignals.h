@@ -4,8 +4,8 @@
 
 #include <array>
 
-/// Closes the windows when the system ends the program, as at the end of a session, so that what
-/// closing saves is saved. There is at most one of it.
+/// Hears when the system wants the program to end, as at the end of a session. There is at most one
+/// of it.
 class TerminationSignals : public QObject {
     Q_OBJECT
 
@@ -14,8 +14,12 @@ public:
     /// The signals end the program at once again.
     ~TerminationSignals() override;
 
+Q_SIGNALS:
+    /// Comes in the event loop, not in the signal's handler.
+    void Raised();
+
 private:
-    void CloseWindows();
+    void TakeSignal();
 
     /// The ends of a pipe, for reading and for writing.
     std::array<int, 2> ends_ = {-1, -1};

@@ -69,11 +69,6 @@ WelcomeWindowView::WelcomeWindowView(WelcomeWindow &window, const UserLocale &lo
     connect(&window, &WelcomeWindow::Closed, this, &QWidget::close);
 }
 
-void WelcomeWindowView::closeEvent(QCloseEvent *event) {
-    QMainWindow::closeEvent(event);
-    window_.Event_Close();
-}
-
 Sheet *WelcomeWindowView::AddPage(const QString &name) {
     auto *page = new Sheet(placeOfPages.size(), pages_);
     page->setObjectName(name);

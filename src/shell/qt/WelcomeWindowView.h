@@ -16,9 +16,6 @@ class WelcomeWindowView : public QMainWindow {
 public:
     WelcomeWindowView(WelcomeWindow &window, const UserLocale &locale);
 
-protected:
-    void closeEvent(QCloseEvent *event) override;
-
 private:
     struct Text {
         QString name;

@@ -1,14 +1,31 @@
 #include "shell/qt/ZolmarkApplication.h"
 
-#include "platform/Desktop.h"
+#include "shell/qt/QtDesktop.h"
 
 #include <QLibraryInfo>
 #include <QLoggingCategory>
+#include <QThread>
+#include <QTimer>
 #include <QTranslator>
+#include <QWidget>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
-ZolmarkApplication::ZolmarkApplication(int &argc, char **argv, Desktop &desktop)
+namespace {
+
+constexpr int endAgainMs = 20;
+
+bool HasWindow() {
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return std::any_of(windows.begin(), windows.end(),
+                       [](const QWidget *window) { return window->isVisible(); });
+}
+
+} // namespace
+
+ZolmarkApplication::ZolmarkApplication(int &argc, char **argv, QtDesktop &desktop)
     : QApplication(argc, argv), desktop_(desktop) {
     setApplicationName(u"Zolmark"_s);
     setApplicationVersion(QStringLiteral(ZOLMARK_VERSION));
@@ -25,7 +42,25 @@ bool ZolmarkApplication::notify(QObject *receiver, QEvent *event) {
     try {
         return QApplication::notify(receiver, event);
     } catch (const std::exception &exception) {
-        desktop_.MsgBox(QString::fromLocal8Bit(exception.what()));
+        Tell(exception);
+        if (!HasWindow()) {
+            exit(EXIT_FAILURE);
+        }
         return true;
+    }
+}
+
+void ZolmarkApplication::Tell(const std::exception &exception) {
+    desktop_.MsgBox(QString::fromLocal8Bit(exception.what()));
+}
+
+void ZolmarkApplication::End() {
+    desktop_.StopAsking();
+    closeAllWindows();
+    if (QThread::currentThread()->loopLevel() > 1) {
+        // What a message has held up goes on first, and may open a window.
+        QTimer::singleShot(endAgainMs, this, &ZolmarkApplication::End);
+    } else {
+        exit(EXIT_SUCCESS);
     }
 }

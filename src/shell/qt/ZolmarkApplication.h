@@ -2,18 +2,26 @@
 
 #include <QApplication>
 
-class Desktop;
+#include <exception>
 
-/// The toolkit's application: German texts, and a last resort for what nobody caught.
+class QtDesktop;
+
+/// The toolkit's application: German texts, a last resort for what nobody caught, and an end that
+/// saves what closing the windows saves.
 class ZolmarkApplication : public QApplication {
     Q_OBJECT
 
 public:
-    ZolmarkApplication(int &argc, char **argv, Desktop &desktop);
+    ZolmarkApplication(int &argc, char **argv, QtDesktop &desktop);
 
-    /// An exception that nobody caught is told in a message, and the program goes on.
+    /// An exception that nobody caught is told in a message, and the program goes on if it has a
+    /// window to go on with.
     bool notify(QObject *receiver, QEvent *event) override;
+    void Tell(const std::exception &exception);
+
+    /// Closes all windows and ends the program, whatever message stands, and opens no other.
+    void End();
 
 private:
-    Desktop &desktop_;
+    QtDesktop &desktop_;
 };

@@ -57,7 +57,7 @@ TEST(SQLiteDatabase, LeavesAFileThatItCannotReadAsItIs) {
 TEST(SQLiteDatabase, WaitsOnceForALockedFile) {
     Book book(Book::Place::File);
     SQLiteDatabase other;
-    book.app.UseDefaultFile(other);
+    App::UseFile(other, book.app.DefaultDatabaseFile());
     ASSERT_TRUE(other.Connect());
     other.SQLExecute(u"BEGIN EXCLUSIVE"_s);
     book.app.kvoDB().SQLExecute(u"DELETE FROM cash_book"_s);
