@@ -142,9 +142,9 @@ void WelcomeWindow::CreateDatabase() {
         return;
     }
     if (!folder.Child(name).MoveTo(place)) {
+        folder.DeleteFiles(name);
         app_.GetDesktop().MsgBox(
             cannotCreate + u"%1 ist schon da oder darf nicht angelegt werden."_s.arg(place.Path()));
-        folder.DeleteFiles(name);
         return;
     }
     if (app_.DBLoad()) {

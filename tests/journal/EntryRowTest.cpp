@@ -81,7 +81,9 @@ TEST_F(EntryRowTest, SaysTheLastThingThatIsMissingAndSavesNothing) {
 }
 
 TEST_F(EntryRowTest, LocksTheOtherAmountAndOffersItsSide) {
+    book.Run(u"UPDATE cash_accounts SET name = 'Äpfel' WHERE name = 'Privateinlagen'"_s);
     row.InputField.SetText(u"1"_s);
+    EXPECT_EQ(category.List(0), u"Äpfel"_s);
     EXPECT_FALSE(row.OutputField.Enabled());
     EXPECT_EQ(tax.Text(), u"19% USt."_s);
     category.SetText(u"erlöse 7% ust"_s);

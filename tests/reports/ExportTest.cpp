@@ -67,6 +67,9 @@ TEST(Export, RefusesTheOpenBookAsItsFile) {
                 .arg(path));
     }
     EXPECT_EQ(ReadWithShell(book.app, u"SELECT company FROM core_company"_s), u"Muster"_s);
+    window.MenuAction(u"print"_s);
+    ASSERT_TRUE(book.desktop.notToPrintInto);
+    EXPECT_EQ(book.desktop.notToPrintInto->Path(), place);
 }
 
 } // namespace

@@ -130,6 +130,9 @@ TEST_F(WelcomeWindowTest, LeavesNoFileOfAFailedOrKilledAttempt) {
     welcome.CompanyField.SetText(u"Muster"_s);
     welcome.SaveButton.Press();
     EXPECT_EQ(Told(), u"MainWindowWanted Closed "_s);
+    ASSERT_TRUE(QFile(leftover.Path()).open(QIODevice::WriteOnly));
+    welcome.Event_Open();
+    EXPECT_EQ(Told(), u"Closed MainWindowWanted "_s);
     EXPECT_EQ(Files(), u"Zolmark.sdb"_s);
 }
 

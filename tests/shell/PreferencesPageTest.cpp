@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QClipboard>
 #include <QHeaderView>
 
 using namespace Qt::StringLiterals;
@@ -48,10 +49,13 @@ TEST_F(PreferencesPageTest, OpensACellWithAClickAndWritesItAsToldByTheKeys) {
     Type(u"{F2}d"_s);
     Click(&view, {5, view.height() - 5}); // On nothing.
     EXPECT_EQ(Accounts(), u"bbb21E1 d10A0"_s);
+    QApplication::clipboard()->setText(u"d\n"_s);
+    Type(u"{F2}{Ctrl+V}e\r"_s);
+    EXPECT_EQ(Accounts(), u"bbb21E1 d e10A0"_s);
     Click(accounts, 0, 0);
     Type(u"x"_s);
     FlipPage();
-    EXPECT_EQ(Accounts(), u"x21E1 d10A0"_s);
+    EXPECT_EQ(Accounts(), u"x21E1 d e10A0"_s);
 }
 
 TEST_F(PreferencesPageTest, ChecksAndSortsByClicks) {

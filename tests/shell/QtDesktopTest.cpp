@@ -56,6 +56,14 @@ TEST_F(QtDesktopTest, PrintsIntoAFileWithoutAPrinter) {
     EXPECT_TRUE(file.Delete());
 }
 
+TEST_F(QtDesktopTest, IgnoresARelativeDataFolder) {
+    const QByteArray before = qgetenv("XDG_DATA_HOME");
+    EXPECT_EQ(desktop.ApplicationData().Path(), QString::fromUtf8(before));
+    qputenv("XDG_DATA_HOME", "data");
+    EXPECT_EQ(desktop.ApplicationData().Path(), QDir::home().filePath(u".local/share"_s));
+    qputenv("XDG_DATA_HOME", before);
+}
+
 TEST_F(QtDesktopTest, SaysWhatTheDesktopCannotOpen) {
     struct Case {
         QByteArray opener;

@@ -28,6 +28,7 @@ public:
     std::optional<SaveAsDialog> saveDialog;
     /// What was printed; nothing while the user cancels the dialog.
     std::optional<QStringList> paper;
+    std::optional<FolderItem> notToPrintInto;
     /// What was shown or opened: "about", the names of files, and addresses.
     QStringList opened;
 
@@ -45,7 +46,8 @@ public:
     }
     std::unique_ptr<PrinterGraphics>
     OpenPrinterDialog(const QString & /*document*/,
-                      const std::optional<FolderItem> & /*openBook*/) override {
+                      const std::optional<FolderItem> &openBook) override {
+        notToPrintInto = openBook;
         return paper ? std::make_unique<DrawingRecorder>(*paper) : nullptr;
     }
     std::optional<int> PopUp(const MenuItem & /*base*/) override { return menuChoice; }

@@ -6,11 +6,35 @@
 #include "shell/qt/OneLinePaste.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCompleter>
-#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QWindow>
+
+namespace {
+
+/// Gives a press of the mouse to what lies there.
+void HandOn(const QMouseEvent &press) {
+    QWidget *below = QApplication::widgetAt(press.globalPosition().toPoint());
+    if (below == nullptr) {
+        return;
+    }
+    for (QWidget *each = below; each != nullptr; each = each->parentWidget()) {
+        if (each->isEnabled() && (each->focusPolicy() & Qt::ClickFocus)) {
+            each->setFocus(Qt::MouseFocusReason);
+            break;
+        }
+    }
+    QWindow *window = below->window()->windowHandle();
+    const QPointF place = window->mapFromGlobal(press.globalPosition());
+    QMouseEvent again(press.type(), place, place, press.globalPosition(), press.button(),
+                      press.buttons(), press.modifiers(), press.pointingDevice());
+    QCoreApplication::sendEvent(window, &again);
+}
+
+} // namespace
 
 ComboBoxView::ComboBoxView(ComboBox &combo, QWidget *parent) : QComboBox(parent), combo_(combo) {
     setEditable(true);
@@ -46,6 +70,8 @@ void ComboBoxView::OfferCompletions() {
     completer->setCaseSensitivity(Qt::CaseInsensitive);
     setCompleter(completer);
     completer->popup()->installEventFilter(this);
+    // Some desktops take a click beside the list to it, and not all of them give it back.
+    completer->popup()->setAttribute(Qt::WA_NoMouseReplay);
     TakeAsOneLine(*lineEdit());
 }
 
@@ -79,11 +105,25 @@ bool ComboBoxView::eventFilter(QObject *watched, QEvent *event) {
     if (isList && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) {
         FollowClicksWhile(event->type() == QEvent::Show);
     }
-    if (event->type() == QEvent::MouseButtonPress && watched->isWindowType()) {
-        // Before the window takes the click to the list, which would close and do no more with it.
-        completer()->popup()->hide();
+    if (event->type() == QEvent::MouseButtonPress) {
+        return ClickBeside(watched, *static_cast<QMouseEvent *>(event));
     }
     return QComboBox::eventFilter(watched, event);
+}
+
+bool ComboBoxView::ClickBeside(const QObject *watched, const QMouseEvent &press) {
+    QAbstractItemView &list = *completer()->popup();
+    if (watched != &list) {
+        // On its way to the window, which would take it to the open list.
+        list.hide();
+        return false;
+    }
+    const bool beside = !list.rect().contains(press.position().toPoint());
+    if (beside) {
+        list.hide();
+        HandOn(press);
+    }
+    return beside;
 }
 
 void ComboBoxView::FollowClicksWhile(bool listIsOpen) {

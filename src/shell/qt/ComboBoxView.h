@@ -25,6 +25,7 @@ private:
     void ShowCombo();
     void OfferCompletions();
     void FollowClicksWhile(bool listIsOpen);
+    bool ClickBeside(const QObject *watched, const QMouseEvent &press);
     bool CompletionKey(QKeyEvent *event);
     QString Completion() const;
 
