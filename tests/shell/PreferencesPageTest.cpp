@@ -69,7 +69,7 @@ TEST_F(PreferencesPageTest, ChecksAndSortsByClicks) {
 
 TEST_F(PreferencesPageTest, RemovesOneRecordHoweverOftenOneStrikes) {
     Click(accounts, 0, BookingAccounts::Kind); // Selects, for the desktop chooses nothing.
-    QWidget &button = Find<QWidget>(u"AccountsAdd"_s);
+    auto &button = Find<QWidget>(u"AccountsAdd"_s);
     Click(&button, {40, 14});
     QTest::mouseDClick(&button, Qt::LeftButton, {}, {40, 14});
     QTest::mouseRelease(&button, Qt::LeftButton, {}, {40, 14});
