@@ -8,14 +8,14 @@
 ///     pngquant --force --output docs/pictures/zolmark.png /tmp/pictures/journal.png
 
 #include "core/App.h"
+#include "desktop/QtDesktop.h"
+#include "desktop/ZolmarkApplication.h"
+#include "desktop/controls/CalendarPopup.h"
+#include "desktop/printing/PrintJob.h"
+#include "desktop/windows/MainWindowView.h"
+#include "desktop/windows/WelcomeWindowView.h"
 #include "setup/WelcomeWindow.h"
 #include "shell/MainWindow.h"
-#include "shell/qt/CalendarPopup.h"
-#include "shell/qt/MainWindowView.h"
-#include "shell/qt/PrintJob.h"
-#include "shell/qt/QtDesktop.h"
-#include "shell/qt/WelcomeWindowView.h"
-#include "shell/qt/ZolmarkApplication.h"
 
 #include <QDir>
 #include <QKeyEvent>
@@ -188,7 +188,8 @@ void TakePreferences(const Album &album, MainWindow &window, MainWindowView &vie
 
 void TakeAll(App &app, const Album &album, WelcomeWindow &welcome) {
     {
-        WelcomeWindowView view(welcome, app.Locale());
+        MainMenuBar menuBar;
+        WelcomeWindowView view(welcome, menuBar, app.Locale());
         view.show();
         TakeWelcome(album, welcome, view);
     }

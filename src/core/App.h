@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/database/SQLiteDatabase.h"
-#include "platform/Desktop.h"
-#include "platform/UserLocale.h"
+#include "platform/outside/Desktop.h"
+#include "platform/values/UserLocale.h"
 
 #include <memory>
 

@@ -1,7 +1,6 @@
 #include "core/TLXModule.h"
 
-#include "platform/SelectionControl.h"
-#include "platform/Text.h"
+#include "platform/values/Text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,11 +23,7 @@ const std::array<MonthTag, 13> MonthTagTable = {{
 }};
 
 QString AmountText2SQL(const QString &text) {
-    QString sql = text;
-    if (const qsizetype comma = sql.indexOf(u','); comma >= 0) {
-        sql[comma] = u'.';
-    }
-    return sql;
+    return Replace(text, u',', u'.');
 }
 
 double AmountText2Value(const QString &text) {
@@ -54,32 +49,6 @@ QString DateSQL2German(const QString &text) {
     const QString date = text.left(10);
     return NthField(date, u'-', 3) + u'.' + NthField(date, u'-', 2) + u'.' +
            NthField(date, u'-', 1) + text.mid(10);
-}
-
-int GetRowTag(const SelectionControl &list, const QString &tag) {
-    for (int row = 0; row < list.ListCount(); ++row) {
-        if (SameText(list.RowTag(row), tag)) {
-            return row;
-        }
-    }
-    return -1;
-}
-
-int FindText(const SelectionControl &list, const QString &text) {
-    for (int row = 0; row < list.ListCount(); ++row) {
-        if (SameText(list.List(row), text)) {
-            return row;
-        }
-    }
-    return -1;
-}
-
-int IndexOf(SelectionControl &list, const QString &text) {
-    const int row = FindText(list, text);
-    if (row >= 0) {
-        list.SetListIndex(row);
-    }
-    return row;
 }
 
 } // namespace TLXModule

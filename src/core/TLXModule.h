@@ -4,10 +4,7 @@
 
 #include <array>
 
-class SelectionControl;
-
-/// Functions that all rooms share: conversions of amounts and dates, and look-ups in lists. None of
-/// them reports anything; texts are compared without regard to case.
+/// Functions that all rooms share: conversions of amounts and dates. None of them reports anything.
 namespace TLXModule {
 
 /// Makes the first comma a dot and changes nothing else.
@@ -29,12 +26,5 @@ struct MonthTag {
 };
 /// The rows of the month selector: index 0 is the whole year, the others equal the month.
 extern const std::array<MonthTag, 13> MonthTagTable;
-
-/// The index of the first row with the tag, -1 if there is none. Selects nothing.
-int GetRowTag(const SelectionControl &list, const QString &tag);
-/// The index of the first row with the text, -1 if there is none. Selects nothing.
-int FindText(const SelectionControl &list, const QString &text);
-/// The index of the first row with the text, which it selects; -1 and no change if there is none.
-int IndexOf(SelectionControl &list, const QString &text);
 
 } // namespace TLXModule

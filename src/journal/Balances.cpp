@@ -4,7 +4,7 @@
 #include "core/TLXModule.h"
 #include "journal/Journal.h"
 #include "journal/Selectors.h"
-#include "platform/DebugLog.h"
+#include "platform/outside/DebugLog.h"
 
 using namespace Qt::StringLiterals;
 

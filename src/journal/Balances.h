@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/Currency.h"
-#include "platform/Date.h"
-#include "platform/Label.h"
+#include "platform/controls/Label.h"
+#include "platform/values/Currency.h"
+#include "platform/values/Date.h"
 
 #include <QObject>
 

@@ -5,9 +5,9 @@
 #include "journal/Balances.h"
 #include "journal/Journal.h"
 #include "journal/Selectors.h"
-#include "platform/DebugLog.h"
-#include "platform/MenuItem.h"
-#include "platform/Text.h"
+#include "platform/controls/MenuItem.h"
+#include "platform/outside/DebugLog.h"
+#include "platform/values/Text.h"
 
 using namespace Qt::StringLiterals;
 

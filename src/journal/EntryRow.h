@@ -1,10 +1,10 @@
 #pragma once
 
 #include "journal/PickLists.h"
-#include "platform/DateControl.h"
-#include "platform/Label.h"
-#include "platform/PushButton.h"
-#include "platform/TextField.h"
+#include "platform/controls/DateControl.h"
+#include "platform/controls/Label.h"
+#include "platform/controls/PushButton.h"
+#include "platform/controls/TextField.h"
 
 #include <QObject>
 

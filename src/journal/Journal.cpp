@@ -3,7 +3,7 @@
 #include "core/App.h"
 #include "core/database/SharedTexts.h"
 #include "journal/Selectors.h"
-#include "platform/DebugLog.h"
+#include "platform/outside/DebugLog.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Listbox.h"
+#include "platform/controls/Listbox.h"
 
 #include <QObject>
 

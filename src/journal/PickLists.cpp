@@ -1,8 +1,8 @@
 #include "journal/PickLists.h"
 
 #include "core/App.h"
-#include "core/TLXModule.h"
-#include "platform/Text.h"
+#include "core/TLXLists.h"
+#include "platform/values/Text.h"
 
 #include <algorithm>
 

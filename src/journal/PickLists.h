@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ComboBox.h"
+#include "platform/controls/ComboBox.h"
 
 #include <QObject>
 

@@ -1,6 +1,7 @@
 #include "journal/Selectors.h"
 
 #include "core/App.h"
+#include "core/TLXLists.h"
 #include "core/TLXModule.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Date.h"
-#include "platform/PopupMenu.h"
+#include "platform/controls/PopupMenu.h"
+#include "platform/values/Date.h"
 
 #include <QObject>
 

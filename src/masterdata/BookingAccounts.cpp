@@ -1,8 +1,8 @@
 #include "masterdata/BookingAccounts.h"
 
 #include "core/App.h"
-#include "platform/MenuItem.h"
-#include "platform/Text.h"
+#include "platform/controls/MenuItem.h"
+#include "platform/values/Text.h"
 
 #include <array>
 

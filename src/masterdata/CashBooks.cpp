@@ -1,7 +1,7 @@
 #include "masterdata/CashBooks.h"
 
 #include "core/App.h"
-#include "platform/Text.h"
+#include "platform/values/Text.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #include "masterdata/CompanyProfile.h"
 
 #include "core/App.h"
-#include "core/TLXModule.h"
+#include "core/TLXLists.h"
 
 using namespace Qt::StringLiterals;
 

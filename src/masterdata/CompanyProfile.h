@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/ComboBox.h"
-#include "platform/TextField.h"
+#include "platform/controls/ComboBox.h"
+#include "platform/controls/TextField.h"
 
 #include <QObject>
 

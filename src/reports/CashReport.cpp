@@ -6,8 +6,8 @@
 #include "journal/Journal.h"
 #include "journal/Selectors.h"
 #include "masterdata/CompanyProfile.h"
-#include "platform/PrinterGraphics.h"
-#include "platform/Text.h"
+#include "platform/drawing/PrinterGraphics.h"
+#include "platform/values/Text.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,11 +1,11 @@
 #include "reports/ListExport.h"
 
-#include "platform/CellModel.h"
-#include "platform/Desktop.h"
-#include "platform/Encodings.h"
-#include "platform/SaveAsDialog.h"
-#include "platform/Text.h"
-#include "platform/TextOutputStream.h"
+#include "platform/controls/CellModel.h"
+#include "platform/outside/Desktop.h"
+#include "platform/outside/SaveAsDialog.h"
+#include "platform/outside/TextOutputStream.h"
+#include "platform/values/Encodings.h"
+#include "platform/values/Text.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,7 +3,7 @@
 #include "core/App.h"
 #include "core/Scripts.h"
 #include "core/TLXModule.h"
-#include "platform/Text.h"
+#include "platform/values/Text.h"
 #include "setup/SampleBook.h"
 
 #include <QUuid>
@@ -56,8 +56,6 @@ void WelcomeWindow::ConnectEvents() {
     DrawPicture(ManualCanvas, u"48_address-book.png"_s);
     connect(&DemoCanvas, &Canvas::MouseDown, this, &WelcomeWindow::CreateDemoDatabase);
     connect(&NewCanvas, &Canvas::MouseDown, this, &WelcomeWindow::NewCanvas_MouseDown);
-    connect(&menuBar.FileMenu().Child(u"AboutItem"), &MenuItem::Action, this,
-            [this] { app_.GetDesktop().ShowAboutPanel(); });
     connect(&ManualCanvas, &Canvas::MouseDown, this, &WelcomeWindow::ManualCanvas_MouseDown);
     connect(&ForwardButton, &PushButton::Action, this, &WelcomeWindow::ForwardButton_Action);
     connect(&BackButton, &PushButton::Action, this, &WelcomeWindow::BackButton_Action);
@@ -80,6 +78,10 @@ void WelcomeWindow::Event_Open() {
     app_.DefaultDatabaseFile().Parent().DeleteFiles(unfinished);
     Q_EMIT Closed();
     Q_EMIT MainWindowWanted();
+}
+
+void WelcomeWindow::AboutItem_Action() {
+    app_.GetDesktop().ShowAboutPanel();
 }
 
 void WelcomeWindow::NewCanvas_MouseDown() {

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "platform/DateControl.h"
-#include "platform/PagePanel.h"
-#include "platform/PopupMenu.h"
-#include "platform/PushButton.h"
-#include "platform/TextField.h"
-#include "shell/MainMenuBar.h"
-#include "shell/TLXCanvasButton.h"
+#include "platform/controls/DateControl.h"
+#include "platform/controls/PagePanel.h"
+#include "platform/controls/PopupMenu.h"
+#include "platform/controls/PushButton.h"
+#include "platform/controls/TLXCanvasButton.h"
+#include "platform/controls/TextField.h"
 
 #include <QObject>
 
@@ -22,8 +21,6 @@ class WelcomeWindow : public QObject {
 public:
     explicit WelcomeWindow(App &app);
 
-    /// Only its first entry, AboutItem, has a handler here.
-    MainMenuBar menuBar;
     PagePanel PagePanel1;
     TLXCanvasButton DemoCanvas;
     TLXCanvasButton NewCanvas;
@@ -48,6 +45,8 @@ public:
     PushButton SaveButton;
 
     void Event_Open();
+    /// The one entry of a menu bar that this window answers.
+    void AboutItem_Action();
 
     /// Makes the sample book in memory and opens the main window on it. A failure is told, and the
     /// window stays.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ToolItem.h"
+#include "platform/controls/ToolItem.h"
 
 #include <memory>
 #include <vector>

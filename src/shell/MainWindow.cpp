@@ -1,7 +1,7 @@
 #include "shell/MainWindow.h"
 
 #include "core/App.h"
-#include "platform/Text.h"
+#include "platform/values/Text.h"
 #include "reports/ListExport.h"
 
 using namespace Qt::StringLiterals;

@@ -7,7 +7,7 @@
 #include "masterdata/BookingAccounts.h"
 #include "masterdata/CashBooks.h"
 #include "masterdata/CompanyProfile.h"
-#include "platform/PagePanel.h"
+#include "platform/controls/PagePanel.h"
 #include "reports/AccountingExport.h"
 #include "reports/CashReport.h"
 #include "shell/MainMenuBar.h"

@@ -1,6 +1,6 @@
 #include "core/TLXModule.h"
 #include "endurance/Endurance.h"
-#include "platform/DateControl.h"
+#include "platform/controls/DateControl.h"
 #include "support/BookTest.h"
 
 #include <cmath>

@@ -1,5 +1,5 @@
-#include "shell/qt/QtDesktop.h"
-#include "shell/qt/ZolmarkApplication.h"
+#include "desktop/QtDesktop.h"
+#include "desktop/ZolmarkApplication.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/PrinterGraphics.h"
+#include "platform/drawing/PrinterGraphics.h"
 
 #include <QStringList>
 

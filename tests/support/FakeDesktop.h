@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Desktop.h"
-#include "platform/SaveAsDialog.h"
+#include "platform/outside/Desktop.h"
+#include "platform/outside/SaveAsDialog.h"
 #include "support/DrawingRecorder.h"
 #include "support/GoogleTest.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/qt/MainWindowView.h"
+#include "desktop/windows/MainWindowView.h"
 #include "support/BookTest.h"
 
 #include <QApplication>

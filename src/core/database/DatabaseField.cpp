@@ -1,7 +1,7 @@
 #include "core/database/DatabaseField.h"
 
-#include "core/TLXModule.h"
 #include "core/database/RecordSet.h"
+#include "platform/values/Text.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,7 +35,7 @@ double DatabaseField::DoubleValue() const {
     }
     const Statement &statement = *records_->statement_;
     return statement.ColumnKind(column_) == Statement::Kind::Text
-               ? TLXModule::AmountText2Value(statement.Text(column_))
+               ? Val(Replace(statement.Text(column_), u',', u'.'))
                : statement.Number(column_);
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Currency.h"
-#include "platform/Date.h"
+#include "platform/values/Currency.h"
+#include "platform/values/Date.h"
 
 #include <QString>
 

@@ -3,7 +3,7 @@
 #include "core/database/DatabaseRecord.h"
 #include "core/database/RecordSet.h"
 #include "core/database/SQLitePreparedStatement.h"
-#include "platform/FolderItem.h"
+#include "platform/outside/FolderItem.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,0 +1,163 @@
+#include "desktop/QtDesktop.h"
+
+#include "desktop/printing/PrintJob.h"
+#include "platform/controls/MenuItem.h"
+#include "platform/outside/SaveAsDialog.h"
+#include "platform/values/Text.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QIcon>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The window that a dialog belongs to, also while the user is in another program.
+QWidget *Owner() {
+    if (QWidget *active = QApplication::activeWindow()) {
+        return active;
+    }
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto shown = std::find_if(windows.begin(), windows.end(), [](const QWidget *window) {
+        return window->isVisible() && window->windowType() == Qt::Window;
+    });
+    return shown == windows.end() ? nullptr : *shown;
+}
+
+/// A folder of the user's, else the home folder.
+FolderItem FolderOf(QStandardPaths::StandardLocation location) {
+    const FolderItem folder(QStandardPaths::writableLocation(location));
+    return folder.Exists() ? folder : FolderItem(QDir::homePath());
+}
+
+} // namespace
+
+Date QtDesktop::Now() const {
+    return Date(QDateTime::currentDateTime());
+}
+
+FolderItem QtDesktop::ApplicationData() const {
+    const QString path = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    // A relative path in the environment counts for nothing: the book would move with the folder
+    // that the program is started in.
+    return FolderItem(QDir::isAbsolutePath(path) ? path : QDir::home().filePath(u".local/share"_s));
+}
+
+FolderItem QtDesktop::DesktopFolder() const {
+    return FolderOf(QStandardPaths::DesktopLocation);
+}
+
+FolderItem QtDesktop::ExecutableFile() const {
+    return FolderItem(QApplication::applicationFilePath());
+}
+
+void QtDesktop::MsgBox(const QString &message) {
+    QMessageBox box(QMessageBox::NoIcon, QApplication::applicationName(),
+                    ReplaceLineEndings(message, u"\n"_s), QMessageBox::Ok, Owner());
+    box.setWindowModality(Qt::WindowModal);
+    // Texts of the database may hold what looks like markup.
+    box.setTextFormat(Qt::PlainText);
+    Ask(box);
+}
+
+std::optional<FolderItem> QtDesktop::GetOpenFolderItem() {
+    QFileDialog box(Owner());
+    box.setFileMode(QFileDialog::ExistingFile);
+    return Ask(box) ? std::optional(FolderItem(box.selectedFiles().constFirst())) : std::nullopt;
+}
+
+std::optional<FolderItem> QtDesktop::ShowModal(const SaveAsDialog &dialog) {
+    QFileDialog box(Owner(), dialog.title, dialog.initialDirectory.Path(),
+                    u"%1 (*%2)"_s.arg(dialog.filter.name, dialog.filter.extensions));
+    box.setAcceptMode(QFileDialog::AcceptSave);
+    box.setLabelText(QFileDialog::FileName, dialog.promptText);
+    box.setDefaultSuffix(dialog.filter.extensions);
+    box.selectFile(dialog.suggestedFileName);
+    return Ask(box) ? std::optional(FolderItem(box.selectedFiles().constFirst())) : std::nullopt;
+}
+
+std::unique_ptr<PrinterGraphics>
+QtDesktop::OpenPrinterDialog(const QString &document, const std::optional<FolderItem> &openBook) {
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setDocName(document);
+    if (printer->outputFormat() == QPrinter::PdfFormat) {
+        // There is no printer. The dialog itself finds a file name on some platforms only.
+        printer->setOutputFileName(
+            FolderOf(QStandardPaths::DocumentsLocation).Child(document + u".pdf"_s).Path());
+    }
+    QPrintDialog dialog(printer.get(), Owner());
+    if (!Ask(dialog)) {
+        return nullptr;
+    }
+    return std::make_unique<PrintJob>(std::move(printer), openBook,
+                                      [this](const QString &failure) { MsgBox(failure); });
+}
+
+std::optional<int> QtDesktop::PopUp(const MenuItem &base) {
+    QMenu menu;
+    for (int item = 0; item < base.Count(); ++item) {
+        menu.addAction(base.Item(item).Text());
+    }
+    const qsizetype chosen = menu.actions().indexOf(menu.exec(QCursor::pos()));
+    return chosen < 0 ? std::nullopt : std::optional(static_cast<int>(chosen));
+}
+
+void QtDesktop::ShowAboutPanel() {
+    QMessageBox box(QMessageBox::NoIcon, u"Über %1"_s.arg(QApplication::applicationName()),
+                    u"<h2>%1</h2>Version %2"_s.arg(QApplication::applicationName(),
+                                                   QApplication::applicationVersion()),
+                    QMessageBox::Ok, Owner());
+    box.setIconPixmap(QApplication::windowIcon().pixmap(96));
+    Ask(box);
+}
+
+bool QtDesktop::Ask(QDialog &dialog) const {
+    return isAsking_ && dialog.exec() == QDialog::Accepted;
+}
+
+void QtDesktop::Launch(const FolderItem &file) {
+    Open(QUrl::fromLocalFile(file.Path()), file.Exists() ? file.Path() : QString());
+}
+
+void QtDesktop::ShowURL(const QString &address) {
+    Open(QUrl(address), address);
+}
+
+void QtDesktop::Open(const QUrl &address, const QString &name) {
+    const auto tell = [this, name] {
+        if (!name.isEmpty()) {
+            MsgBox(u"%1 kann nicht geöffnet werden: Es ist kein Programm dafür eingerichtet."_s.arg(
+                name));
+        }
+    };
+    const QString opener = QStandardPaths::findExecutable(u"xdg-open"_s);
+    if (opener.isEmpty()) {
+        if (!QDesktopServices::openUrl(address)) {
+            tell();
+        }
+        return;
+    }
+    // The toolkit starts the same program, but does not wait for what it answers.
+    auto *process = new QProcess(qApp);
+    process->setProcessChannelMode(QProcess::ForwardedChannels);
+    QObject::connect(process, &QProcess::finished, process, [process, tell](int result) {
+        process->deleteLater();
+        if (result != 0) {
+            tell();
+        }
+    });
+    process->start(opener, {address.toString(QUrl::FullyEncoded)});
+}

@@ -1,0 +1,59 @@
+#include "desktop/TerminationSignals.h"
+
+#include <QSocketNotifier>
+
+#include <algorithm>
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+/// The writing end of the pipe that wakes the event loop: a signal handler reaches nothing else.
+int wakeUp = -1;
+
+constexpr int endings[] = {SIGTERM, SIGINT, SIGHUP};
+
+void HandleSignal(int /*signal*/) {
+    const char byte = 1;
+    // There is nobody to tell; a full pipe has woken the loop already.
+    static_cast<void>(!write(wakeUp, &byte, 1));
+}
+
+/// Linux could do it in one call, macOS can't.
+bool OpenPipe(std::array<int, 2> &ends) {
+    return pipe(ends.data()) == 0 && std::all_of(ends.begin(), ends.end(), [](int end) {
+               return fcntl(end, F_SETFD, FD_CLOEXEC) == 0 && fcntl(end, F_SETFL, O_NONBLOCK) == 0;
+           });
+}
+
+} // namespace
+
+TerminationSignals::TerminationSignals() {
+    if (!OpenPipe(ends_)) {
+        qWarning("The end of the session will not be noticed.");
+        return;
+    }
+    wakeUp = ends_[1];
+    const auto *notifier = new QSocketNotifier(ends_[0], QSocketNotifier::Read, this);
+    connect(notifier, &QSocketNotifier::activated, this, &TerminationSignals::TakeSignal);
+    for (const int signal : endings) {
+        std::signal(signal, HandleSignal);
+    }
+}
+
+TerminationSignals::~TerminationSignals() {
+    for (const int signal : endings) {
+        std::signal(signal, SIG_DFL);
+    }
+    for (const int end : ends_) {
+        close(end);
+    }
+}
+
+void TerminationSignals::TakeSignal() {
+    char byte = 0;
+    // What it says is known: there is only one message.
+    static_cast<void>(!read(ends_[0], &byte, 1));
+    Q_EMIT Raised();
+}

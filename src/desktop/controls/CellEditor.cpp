@@ -1,0 +1,64 @@
+#include "desktop/controls/CellEditor.h"
+
+#include "desktop/controls/ControlBinding.h"
+#include "desktop/controls/OneLinePaste.h"
+#include "platform/controls/Listbox.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+CellEditor::CellEditor(Listbox &list, QWidget *parent) : QLineEdit(parent), list_(list) {
+    setObjectName(u"CellEditor"_s);
+    setAccessibleName(list.Heading(list.EditedColumn()));
+    setFrame(false);
+    setTextMargins(1, 0, 1, 0);
+    setMaxLength(std::numeric_limits<int>::max());
+    setText(list.EditText());
+    selectAll();
+    TakeAsOneLine(*this);
+    // Only what the user types, for a line edit shows some characters otherwise than they are.
+    connect(this, &QLineEdit::textEdited, &list, &Listbox::SetEditText);
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool CellEditor::event(QEvent *event) {
+    const bool isKey = event->type() == QEvent::KeyPress;
+    if (isKey && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Tab) {
+        Q_EMIT list_.CellKeyDown(list_.EditedRow(), list_.EditedColumn(), u'\t');
+        return true;
+    }
+    return QLineEdit::event(event);
+}
+
+bool CellEditor::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::MouseButtonPress && watched->isWidgetType() && watched != this &&
+        static_cast<QWidget *>(watched)->window() == window()) {
+        list_.EndEdit();
+    }
+    return QLineEdit::eventFilter(watched, event);
+}
+
+void CellEditor::keyPressEvent(QKeyEvent *event) {
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        list_.EndEdit();
+        break;
+    case Qt::Key_Escape:
+        list_.DropEdit();
+        break;
+    default:
+        QLineEdit::keyPressEvent(event);
+    }
+}
+
+void CellEditor::focusOutEvent(QFocusEvent *event) {
+    QLineEdit::focusOutEvent(event);
+    if (LeavesForGood(*event)) {
+        list_.EndEdit();
+    }
+}

@@ -1,0 +1,154 @@
+#include "desktop/controls/ComboBoxView.h"
+
+#include "core/TLXLists.h"
+#include "desktop/controls/ControlBinding.h"
+#include "desktop/controls/OneLinePaste.h"
+#include "platform/controls/ComboBox.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCompleter>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QWindow>
+
+namespace {
+
+/// Gives a press of the mouse to what lies there.
+void HandOn(const QMouseEvent &press) {
+    QWidget *below = QApplication::widgetAt(press.globalPosition().toPoint());
+    if (below == nullptr) {
+        return;
+    }
+    for (QWidget *each = below; each != nullptr; each = each->parentWidget()) {
+        if (each->isEnabled() && (each->focusPolicy() & Qt::ClickFocus)) {
+            each->setFocus(Qt::MouseFocusReason);
+            break;
+        }
+    }
+    QWindow *window = below->window()->windowHandle();
+    const QPointF place = window->mapFromGlobal(press.globalPosition());
+    QMouseEvent again(press.type(), place, place, press.globalPosition(), press.button(),
+                      press.buttons(), press.modifiers(), press.pointingDevice());
+    QCoreApplication::sendEvent(window, &again);
+}
+
+} // namespace
+
+ComboBoxView::ComboBoxView(ComboBox &combo, QWidget *parent) : QComboBox(parent), combo_(combo) {
+    setEditable(true);
+    setInsertPolicy(NoInsert);
+    setModel(combo.Rows());
+    BindControl(combo, *this);
+    OfferCompletions();
+    ShowCombo();
+    connect(&combo, &ComboBox::Updated, this, &ComboBoxView::ShowCombo);
+    // The first row added would be taken for the selected one.
+    connect(combo.Rows(), &QAbstractItemModel::rowsInserted, this, &ComboBoxView::ShowCombo);
+    connect(this, &QComboBox::activated, &combo, &ComboBox::SetListIndex);
+    connect(lineEdit(), &QLineEdit::textEdited, &combo, &ComboBox::SetText);
+}
+
+void ComboBoxView::ShowCombo() {
+    if (currentIndex() != combo_.ListIndex()) {
+        setCurrentIndex(combo_.ListIndex());
+    }
+    if (currentText() != combo_.Text()) {
+        setEditText(combo_.Text());
+    }
+    ShowBeginning(*lineEdit());
+    // In a disabled field nobody can move to the end of a long text.
+    setToolTip(combo_.Enabled() ? QString() : combo_.Text());
+}
+
+void ComboBoxView::OfferCompletions() {
+    // Owned by the combo box. The list of its own would replace what was typed.
+    auto *completer = new QCompleter(combo_.Rows(), this);
+    completer->setCompletionMode(QCompleter::PopupCompletion);
+    completer->setFilterMode(Qt::MatchContains);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    setCompleter(completer);
+    completer->popup()->installEventFilter(this);
+    // Some desktops take a click beside the list to it, and not all of them give it back.
+    completer->popup()->setAttribute(Qt::WA_NoMouseReplay);
+    TakeAsOneLine(*lineEdit());
+}
+
+void ComboBoxView::changeEvent(QEvent *event) {
+    QComboBox::changeEvent(event);
+    if (event->type() == QEvent::FontChange && completer() != nullptr) {
+        completer()->popup()->setFont(font());
+    }
+}
+
+QString ComboBoxView::Completion() const {
+    const QAbstractItemView &popup = *completer()->popup();
+    if (popup.currentIndex().isValid()) {
+        return popup.currentIndex().data().toString();
+    }
+    const QAbstractItemModel &rows = *completer()->completionModel();
+    for (int row = 0; row < rows.rowCount(); ++row) {
+        QString text = rows.index(row, 0).data().toString();
+        if (text.startsWith(combo_.Text(), Qt::CaseInsensitive)) {
+            return text;
+        }
+    }
+    return rows.index(0, 0).data().toString();
+}
+
+bool ComboBoxView::eventFilter(QObject *watched, QEvent *event) {
+    const bool isList = watched == completer()->popup();
+    if (event->type() == QEvent::KeyPress && isList) {
+        return CompletionKey(static_cast<QKeyEvent *>(event));
+    }
+    if (isList && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) {
+        FollowClicksWhile(event->type() == QEvent::Show);
+    }
+    if (event->type() == QEvent::MouseButtonPress) {
+        return ClickBeside(watched, *static_cast<QMouseEvent *>(event));
+    }
+    return QComboBox::eventFilter(watched, event);
+}
+
+bool ComboBoxView::ClickBeside(const QObject *watched, const QMouseEvent &press) {
+    QAbstractItemView &list = *completer()->popup();
+    if (watched != &list) {
+        // On its way to the window, which would take it to the open list.
+        list.hide();
+        return false;
+    }
+    const bool beside = !list.rect().contains(press.position().toPoint());
+    if (beside) {
+        list.hide();
+        HandOn(press);
+    }
+    return beside;
+}
+
+void ComboBoxView::FollowClicksWhile(bool listIsOpen) {
+    QWindow *page = window()->windowHandle();
+    if (listIsOpen) {
+        page->installEventFilter(this);
+    } else {
+        page->removeEventFilter(this);
+    }
+}
+
+bool ComboBoxView::CompletionKey(QKeyEvent *event) {
+    const bool isTab = event->key() == Qt::Key_Tab;
+    if (!isTab && event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        return false;
+    }
+    const QString completion = Completion();
+    const bool completes = !completion.isEmpty() && completion != combo_.Text();
+    completer()->popup()->hide();
+    if (completes) {
+        TLXModule::IndexOf(combo_, completion);
+    }
+    // The Return that completes does not save as well.
+    if (isTab || !completes) {
+        QCoreApplication::sendEvent(this, event);
+    }
+    return true;
+}

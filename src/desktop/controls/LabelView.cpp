@@ -1,0 +1,25 @@
+#include "desktop/controls/LabelView.h"
+
+#include "desktop/controls/ControlBinding.h"
+#include "platform/controls/Label.h"
+
+LabelView::LabelView(Label &label, QWidget *parent, Qt::Alignment alignment)
+    : QLabel(parent), label_(label) {
+    setTextFormat(Qt::PlainText);
+    setAlignment(alignment | Qt::AlignVCenter);
+    BindControl(label, *this);
+    ShowText();
+    connect(&label, &Label::Updated, this, &LabelView::ShowText);
+}
+
+void LabelView::SetCaption(const QString &caption) {
+    caption_ = caption;
+    ShowText();
+}
+
+void LabelView::ShowText() {
+    setText(label_.Text());
+    if (!caption_.isEmpty()) {
+        setAccessibleName(caption_ + u' ' + label_.Text());
+    }
+}

@@ -1,0 +1,89 @@
+#include "desktop/windows/EditActions.h"
+
+#include "desktop/controls/OneLinePaste.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QMenuBar>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct StandardEdit {
+    QStringView name;
+    bool (*isPossible)(const QLineEdit &field);
+    void (*run)(QLineEdit &field);
+};
+
+bool HasSelection(const QLineEdit &field) {
+    return field.hasSelectedText();
+}
+
+bool CanLoseSelection(const QLineEdit &field) {
+    return field.hasSelectedText() && !field.isReadOnly();
+}
+
+bool CanUndo(const QLineEdit &field) {
+    return field.isUndoAvailable();
+}
+
+bool CanPaste(const QLineEdit &field) {
+    return !field.isReadOnly() && !QApplication::clipboard()->text().isEmpty();
+}
+
+bool HasText(const QLineEdit &field) {
+    return !field.text().isEmpty();
+}
+
+const StandardEdit standardEdits[] = {
+    {u"EditUndo", CanUndo, [](QLineEdit &field) { field.undo(); }},
+    {u"EditCut", CanLoseSelection, [](QLineEdit &field) { field.cut(); }},
+    {u"EditCopy", HasSelection, [](QLineEdit &field) { field.copy(); }},
+    {u"EditPaste", CanPaste, PasteAsOneLine},
+    {u"EditClear", CanLoseSelection, [](QLineEdit &field) { field.del(); }},
+    {u"EditSelectAll", HasText, [](QLineEdit &field) { field.selectAll(); }},
+};
+
+} // namespace
+
+EditActions::EditActions(QObject *parent) : QObject(parent) {
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](const QWidget * /*before*/, QWidget *now) { FollowFocus(now); });
+}
+
+bool EditActions::Take(QAction &action) {
+    const auto edit = std::find_if(
+        std::begin(standardEdits), std::end(standardEdits),
+        [&action](const StandardEdit &each) { return action.objectName() == each.name; });
+    if (edit == std::end(standardEdits)) {
+        return false;
+    }
+    actions_.emplace_back(&action, edit->isPossible);
+    connect(&action, &QAction::triggered, this, [this, run = edit->run] {
+        if (field_) {
+            run(*field_);
+        }
+    });
+    return true;
+}
+
+void EditActions::Update() {
+    for (const auto &[action, isPossible] : actions_) {
+        action->setEnabled(field_ && isPossible(*field_));
+    }
+}
+
+void EditActions::FollowFocus(QWidget *now) {
+    // A menu that is walked through by keys has the focus for a while only.
+    if (now == nullptr || qobject_cast<QMenuBar *>(now) != nullptr) {
+        return;
+    }
+    const auto *combo = qobject_cast<QComboBox *>(now);
+    field_ = combo != nullptr ? combo->lineEdit() : qobject_cast<QLineEdit *>(now);
+    Update();
+}

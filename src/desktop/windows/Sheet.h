@@ -1,0 +1,52 @@
+#pragma once
+
+#include "desktop/windows/LockLayout.h"
+
+#include <QColor>
+#include <QString>
+#include <QWidget>
+
+#include <optional>
+#include <vector>
+
+class PushButton;
+class QLabel;
+
+/// A surface that widgets are laid out on at given places, in points from its top left corner. It
+/// takes the keys that no control took: Return presses the default button that shows, Escape the
+/// cancel button.
+class Sheet : public QWidget {
+    Q_OBJECT
+
+public:
+    Sheet(QSize design, QWidget *parent);
+
+    struct Frame {
+        QRgb fill;
+        QRgb border;
+    };
+    /// Fills the sheet and draws a line of one point around it.
+    void SetFrame(Frame frame);
+
+    /// Adds a widget; the sheet owns it. A caption added right before names it.
+    void Add(QWidget *widget, const QRect &place, Locks locks = LT);
+    /// The same with a name of its own, which nobody sees but assistive tools tell.
+    void AddNamed(const QString &name, QWidget *widget, const QRect &place, Locks locks = LT);
+    void AddButton(PushButton &button, const QRect &place, Locks locks = LT);
+    /// Adds a text that never changes; it stands in the middle of its height unless told.
+    QLabel *AddText(const QString &name, const QString &text, const QRect &place, Locks locks = LT,
+                    Qt::Alignment alignment = Qt::AlignLeft);
+    /// The same for a text that names the widget to be added next.
+    QLabel *AddCaption(const QString &name, const QString &text, const QRect &place,
+                       Locks locks = LT, Qt::Alignment alignment = Qt::AlignLeft);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    LockLayout *layout_;
+    std::optional<Frame> frame_;
+    std::vector<PushButton *> buttons_;
+    QLabel *caption_ = nullptr;
+};

@@ -1,0 +1,75 @@
+#include "desktop/windows/ToolBarView.h"
+
+#include "shell/MainToolbar.h"
+
+#include <QAction>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int widthOfSpace = 16;
+
+} // namespace
+
+ToolBarView::ToolBarView(const MainToolbar &bar, const IconPath &icon, QWidget *parent)
+    : QToolBar(parent) {
+    setObjectName(u"MainWindowToolbar"_s);
+    setMovable(false);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    setIconSize({32, 32});
+    for (int place = 0; place < bar.Count(); ++place) {
+        ToolItem &item = bar.Item(place);
+        switch (item.ItemStyle()) {
+        case ToolItem::Style::PushButton:
+            AddButton(item, icon);
+            break;
+        case ToolItem::Style::Separator:
+            addSeparator();
+            break;
+        case ToolItem::Style::FlexibleSpace:
+            AddSpace(QSizePolicy::Expanding);
+            break;
+        case ToolItem::Style::FixedSpace:
+            AddSpace(QSizePolicy::Fixed);
+            break;
+        }
+    }
+}
+
+void ToolBarView::AddButton(ToolItem &item, const IconPath &icon) {
+    QAction *action = addAction(QIcon(icon(item.Icon())), item.Caption());
+    action->setObjectName(item.objectName());
+    const auto show = [action, &item] {
+        action->setText(item.Caption());
+        action->setEnabled(item.Enabled());
+    };
+    show();
+    connect(&item, &ToolItem::Updated, action, show);
+    connect(action, &QAction::triggered, &item, &ToolItem::Action);
+    auto *button = static_cast<QToolButton *>(widgetForAction(action));
+    button->setFocusPolicy(Qt::TabFocus);
+    button->installEventFilter(this);
+}
+
+void ToolBarView::AddSpace(QSizePolicy::Policy width) {
+    auto *space = new QWidget(this);
+    space->setMinimumWidth(width == QSizePolicy::Fixed ? widthOfSpace : 0);
+    space->setSizePolicy(width, QSizePolicy::Preferred);
+    addWidget(space);
+}
+
+bool ToolBarView::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            static_cast<QToolButton *>(watched)->click();
+            return true;
+        }
+    }
+    return event->type() == QEvent::ToolTip || QToolBar::eventFilter(watched, event);
+}

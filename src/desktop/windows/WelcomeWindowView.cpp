@@ -1,0 +1,200 @@
+#include "desktop/windows/WelcomeWindowView.h"
+
+#include "desktop/controls/AmountFieldView.h"
+#include "desktop/controls/CanvasButton.h"
+#include "desktop/controls/CanvasView.h"
+#include "desktop/controls/DateControlView.h"
+#include "desktop/controls/FontFit.h"
+#include "desktop/controls/PagePanelView.h"
+#include "desktop/controls/PopupMenuView.h"
+#include "desktop/controls/TextFieldView.h"
+#include "desktop/windows/GivenColours.h"
+#include "desktop/windows/MenuBarView.h"
+#include "setup/WelcomeWindow.h"
+
+#include <QLabel>
+#include <QScreen>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize designSize{810, 300};
+constexpr QRect placeOfPages{-1, -1, 566, 303};
+constexpr Sheet::Frame frameOfPages{0xffffffff, 0xffb3b3b3};
+constexpr Sheet::Frame frameOfTitle{0xfff1f1f1, 0xffcccccc};
+constexpr QRgb strongText = 0xff333333;
+constexpr QRgb softText = 0xff666666;
+
+/// A place of the window on a page.
+QRect OnPage(int left, int top, int width, int height) {
+    return QRect(left, top, width, height).translated(-placeOfPages.topLeft());
+}
+
+/// Sets the text size in points of the design, of which the screen shows one as a pixel.
+QLabel *SetSize(QLabel *label, int textSize, bool bold = false) {
+    QFont font;
+    font.setPixelSize(textSize);
+    font.setBold(bold);
+    label->setFont(font);
+    return label;
+}
+
+void AddExplanation(Sheet &page, const QString &name, const QString &text, const QRect &place) {
+    page.AddText(name, text, place, LT, Qt::AlignTop)->setWordWrap(true);
+}
+
+} // namespace
+
+WelcomeWindowView::WelcomeWindowView(WelcomeWindow &window, MenuItem &menuBar,
+                                     const UserLocale &locale)
+    : window_(window), sheet_(new Sheet(designSize, this)),
+      pages_(new PagePanelView(window.PagePanel1, sheet_)) {
+    setObjectName(u"WelcomeWindow"_s);
+    setWindowTitle(u"Willkommen"_s);
+    setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                   Qt::WindowCloseButtonHint);
+    UseGivenColours(*this, 0xffffffff);
+    sheet_->setFixedSize(designSize);
+    sheet_->Add(pages_, placeOfPages);
+    AddGreeting();
+    AddCompanyPage();
+    AddCashBookPage(locale);
+    AddChoices();
+    setMenuBar(new MenuBarView(menuBar, this));
+    setCentralWidget(sheet_);
+    new FontFit(*sheet_);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+    const QSize size = sizeHint();
+    move(screen()->availableGeometry().center() - QPoint(size.width() / 2, size.height() / 2));
+    connect(&window, &WelcomeWindow::Closed, this, &QWidget::close);
+}
+
+Sheet *WelcomeWindowView::AddPage(const QString &name) {
+    auto *page = new Sheet(placeOfPages.size(), pages_);
+    page->setObjectName(name);
+    page->SetFrame(frameOfPages);
+    pages_->addWidget(page);
+    return page;
+}
+
+void WelcomeWindowView::AddGreeting() {
+    Sheet &page = *AddPage(u"Rectangle1"_s);
+    SetTextColour(*SetSize(page.AddText(u"Label1"_s, u"Willkomen bei Zolmark"_s,
+                                        OnPage(27, 9, 510, 36), LT, Qt::AlignHCenter),
+                           32, true),
+                  strongText);
+    SetTextColour(*SetSize(page.AddText(u"Label2"_s,
+                                        u"Einnahmen und Ausgabenverwaltung für \n"
+                                        "Selbstständige und Freiberufler"_s,
+                                        OnPage(27, 54, 510, 45), LT, Qt::AlignHCenter),
+                           16),
+                  softText);
+    page.AddNamed(u"Bild zur Begrüßung"_s, new CanvasView(window_.Canvas1, &page),
+                  OnPage(31, 102, 513, 200));
+}
+
+void WelcomeWindowView::AddCompanyPage() {
+    Sheet &page = *AddPage(u"Rectangle2"_s);
+    auto *title = new Sheet({526, 41}, &page);
+    title->setObjectName(u"Placard1"_s);
+    title->SetFrame(frameOfTitle);
+    SetSize(title->AddText(u"Label13"_s, u"Firmendaten erfassen"_s, {53, 8, 406, 24}, LT,
+                           Qt::AlignHCenter),
+            18);
+    page.Add(title, OnPage(19, 15, 526, 41));
+    // In the order of the Tab key.
+    page.AddCaption(u"Label17"_s, u"Name:"_s, OnPage(39, 77, 82, 20), LT, Qt::AlignRight);
+    page.Add(new TextFieldView(window_.CompanyField, &page), OnPage(136, 76, 300, 22));
+    page.AddNamed(u"Name, zweite Zeile"_s, new TextFieldView(window_.DepartmendField, &page),
+                  OnPage(136, 106, 300, 22));
+    page.AddCaption(u"Label3"_s, u"Strasse:"_s, OnPage(41, 138, 80, 20), LT, Qt::AlignRight);
+    page.Add(new TextFieldView(window_.StreetField, &page), OnPage(136, 137, 300, 22));
+    page.AddCaption(u"Label16"_s, u"Plz, Ort:"_s, OnPage(41, 170, 80, 20), LT, Qt::AlignRight);
+    page.AddNamed(u"Plz"_s, new TextFieldView(window_.ZipField, &page), OnPage(136, 169, 51, 22));
+    page.AddNamed(u"Ort"_s, new TextFieldView(window_.CityField, &page), OnPage(192, 169, 244, 22));
+    page.AddCaption(u"Label15"_s, u"Telefon:"_s, OnPage(39, 200, 82, 20), LT, Qt::AlignRight);
+    page.Add(new TextFieldView(window_.PhoneField, &page), OnPage(136, 200, 300, 22));
+    AddExplanation(page, u"Label14"_s,
+                   u"Die Firmenangaben können unter dem Menüpunkt Einstellungen jederzeit "
+                   "verändert werden."_s,
+                   OnPage(136, 232, 293, 53));
+    page.AddButton(window_.ForwardButton, OnPage(456, 266, 80, 20));
+}
+
+void WelcomeWindowView::AddCashBookPage(const UserLocale &locale) {
+    Sheet &page = *AddPage(u"Rectangle3"_s);
+    // In the order of the Tab key.
+    page.AddNamed(u"Kontorahmen"_s, new PopupMenuView(window_.AccountsPopup, &page),
+                  OnPage(171, 19, 372, 20));
+    AddExplanation(page, u"Label11"_s,
+                   u"Wählen Sie den Kontorahmen den Sie in Ihrer Buchhaltung benutzen, oder "
+                   "alternativ einen leeren Kontorahmen. Sie können später selbst weitere Konten "
+                   "hinzufügen."_s,
+                   OnPage(171, 48, 365, 53));
+    page.AddCaption(u"Label20"_s, u"Kontobezeichnung:"_s, OnPage(40, 126, 120, 20), LT,
+                    Qt::AlignRight);
+    page.Add(new TextFieldView(window_.AccountNameField, &page), OnPage(170, 125, 249, 22));
+    page.AddCaption(u"Label6"_s, u"Konto:"_s, OnPage(433, 126, 45, 20), LT, Qt::AlignRight);
+    auto *account = new TextFieldView(window_.AccountField, &page);
+    account->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    page.Add(account, OnPage(487, 125, 58, 22));
+    AddOpeningBalance(page, locale);
+    page.AddButton(window_.BackButton, OnPage(341, 266, 80, 20));
+    page.AddButton(window_.SaveButton, OnPage(433, 266, 110, 20));
+}
+
+void WelcomeWindowView::AddOpeningBalance(Sheet &page, const UserLocale &locale) {
+    page.AddCaption(u"Label19"_s, u"Eröffnungsbestand:"_s, OnPage(40, 156, 120, 20), LT,
+                    Qt::AlignRight);
+    page.Add(new AmountFieldView(window_.OpeningBalanceField, &page), OnPage(170, 155, 100, 22));
+    page.AddNamed(u"Währung"_s, new PopupMenuView(window_.CurrencyPopup, &page),
+                  OnPage(282, 155, 80, 20));
+    page.AddCaption(u"Label18"_s, u"Datum des Eröffnungsbestandes:"_s, OnPage(19, 180, 141, 60), LT,
+                    Qt::AlignRight)
+        ->setWordWrap(true);
+    page.Add(new DateControlView(window_.OpeningDate, locale, &page), OnPage(171, 188, 100, 23));
+    AddExplanation(page, u"Label21"_s,
+                   u"Geben Sie hier den Kassenbestand an und ab wann das Konto geführt wird."_s,
+                   OnPage(171, 223, 373, 34));
+}
+
+void WelcomeWindowView::AddChoices() {
+    AddChoice(window_.DemoCanvas,
+              {0,
+               {u"Label4"_s, u"Demo Datenbank"_s, 12},
+               {u"Label9"_s, u"Testen Sie Zolmark mit einer Beispiel-Datenbank.\n"_s, 35}});
+    // Who only presses Return gets a new book.
+    AddChoice(window_.NewCanvas,
+              {100,
+               {u"Label5"_s, u"Neue Datenbank"_s, 111},
+               {u"Label10"_s, u"Erstellen Sie eine neue lokale Datenbank."_s, 134}})
+        ->setFocus();
+    AddChoice(window_.ManualCanvas,
+              {200,
+               {u"Label8"_s, u"Handbuch"_s, 211},
+               {u"Label12"_s,
+                u"Verschaffen Sie sich einen Überblick über die Funk-tionen von Zolmark."_s, 235}});
+}
+
+QWidget *WelcomeWindowView::AddChoice(TLXCanvasButton &canvas, const Choice &choice) {
+    const QRect place(565, choice.top, 245, 100);
+    auto *view = new CanvasView(canvas, sheet_);
+    sheet_->Add(view, place);
+    QAbstractButton *button = view->AddButton(choice.title.text, {{0, 0}, place.size()});
+    button->setAccessibleDescription(choice.description.text);
+    const auto add = [this](const Text &text, int height) {
+        QLabel *label =
+            sheet_->AddText(text.name, text.text, {640, text.top, 162, height}, LT, Qt::AlignTop);
+        // The button below answers the mouse.
+        label->setAttribute(Qt::WA_TransparentForMouseEvents);
+        label->setWordWrap(true);
+        return label;
+    };
+    QFont bold;
+    bold.setBold(true);
+    add(choice.title, 20)->setFont(bold);
+    SetTextColour(*SetSize(add(choice.description, choice.top + 99 - choice.description.top), 12),
+                  strongText);
+    return button;
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "desktop/windows/Sheet.h"
+
+#include <QMainWindow>
+
+class MenuItem;
+class QStackedWidget;
+class TLXCanvasButton;
+class UserLocale;
+class WelcomeWindow;
+
+/// The welcome window on the desktop: pages on the left, three large buttons on the right.
+class WelcomeWindowView : public QMainWindow {
+    Q_OBJECT
+
+public:
+    WelcomeWindowView(WelcomeWindow &window, MenuItem &menuBar, const UserLocale &locale);
+
+private:
+    struct Text {
+        QString name;
+        QString text;
+        int top;
+    };
+    struct Choice {
+        int top;
+        Text title;
+        Text description;
+    };
+
+    Sheet *AddPage(const QString &name);
+    void AddGreeting();
+    void AddCompanyPage();
+    void AddCashBookPage(const UserLocale &locale);
+    void AddOpeningBalance(Sheet &page, const UserLocale &locale);
+    void AddChoices();
+    /// Gives what of it the keys press.
+    QWidget *AddChoice(TLXCanvasButton &canvas, const Choice &choice);
+
+    WelcomeWindow &window_;
+    Sheet *sheet_;
+    QStackedWidget *pages_;
+};

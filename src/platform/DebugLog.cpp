@@ -1,9 +1,0 @@
-#include "platform/DebugLog.h"
-
-#include <QLoggingCategory>
-
-Q_LOGGING_CATEGORY(zolmark, "zolmark", QtInfoMsg)
-
-void DebugLog(const QString &line) {
-    qCDebug(zolmark).noquote() << line;
-}

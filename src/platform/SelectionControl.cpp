@@ -1,7 +1,0 @@
-#include "platform/SelectionControl.h"
-
-void SelectionControl::DeleteAllRows() {
-    rows_.Clear();
-    ForgetSelection();
-    Q_EMIT Updated();
-}

@@ -1,0 +1,232 @@
+#include "platform/controls/CellModel.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The place of a row among values that exist only up to the last in use.
+template <typename Values>
+auto Place(Values &values, int row) {
+    const auto place = static_cast<size_t>(row);
+    if (place >= values.size()) {
+        values.resize(place + 1);
+    }
+    return values.begin() + row;
+}
+
+template <typename Values>
+bool Reaches(const Values &values, int row) {
+    return static_cast<size_t>(row) < values.size();
+}
+
+template <typename Values>
+void Reorder(Values &values, const std::vector<int> &order) {
+    if (values.empty()) {
+        return;
+    }
+    values.resize(order.size());
+    Values ordered;
+    ordered.reserve(order.size());
+    for (const int row : order) {
+        ordered.push_back(std::move(values[static_cast<size_t>(row)]));
+    }
+    values = std::move(ordered);
+}
+
+} // namespace
+
+void CellModel::BeginRefill() {
+    if (refills_++ == 0) {
+        beginResetModel();
+    }
+}
+
+void CellModel::EndRefill() {
+    if (--refills_ == 0) {
+        endResetModel();
+    }
+}
+
+void CellModel::RemoveRows() {
+    for (Column &column : columns_) {
+        column.cells.clear();
+        column.tags.clear();
+        column.checks.clear();
+    }
+    rowTags_.clear();
+}
+
+void CellModel::ReorderRows(const std::vector<int> &order) {
+    for (Column &column : columns_) {
+        Reorder(column.cells, order);
+        Reorder(column.tags, order);
+        Reorder(column.checks, order);
+    }
+    Reorder(rowTags_, order);
+}
+
+void CellModel::AddRow(const QString &text) {
+    const bool told = IsRefilling();
+    if (!told) {
+        beginInsertRows({}, ListCount(), ListCount());
+    }
+    for (Column &column : columns_) {
+        column.cells.emplace_back();
+    }
+    columns_.front().cells.back() = text;
+    rowTags_.emplace_back();
+    if (!told) {
+        endInsertRows();
+    }
+}
+
+QString CellModel::Cell(int row, int column) const {
+    if (row >= 0) {
+        const bool stands = Has(row) && column < ColumnCount();
+        return !stands      ? QString()
+               : column < 0 ? JoinedCells(row)
+                            : ColumnAt(column).cells[static_cast<size_t>(row)];
+    }
+    QString lines;
+    for (int each = 0; each < ListCount(); ++each) {
+        lines += Cell(each, column);
+        lines += u'\n';
+    }
+    lines.chop(1);
+    return lines;
+}
+
+QString CellModel::JoinedCells(int row) const {
+    QString cells;
+    for (const Column &column : columns_) {
+        cells += column.cells[static_cast<size_t>(row)];
+        cells += u'\t';
+    }
+    cells.chop(1);
+    return cells;
+}
+
+void CellModel::ShowCell(int row, int column) {
+    if (!IsRefilling()) {
+        Q_EMIT dataChanged(index(row, column), index(row, column));
+    }
+}
+
+void CellModel::SetCell(int row, int column, const QString &text) {
+    if (Has(row)) {
+        ColumnAt(column).cells[static_cast<size_t>(row)] = text;
+        ShowCell(row, column);
+    }
+}
+
+void CellModel::SetColumn(int column, std::vector<QString> texts) {
+    texts.resize(rowTags_.size());
+    ColumnAt(column).cells = std::move(texts);
+    if (!IsRefilling() && ListCount() > 0) {
+        Q_EMIT dataChanged(index(0, column), index(LastIndex(), column));
+    }
+}
+
+bool CellModel::CellCheck(int row, int column) const {
+    return Has(row) && HasColumn(column) && Reaches(ColumnAt(column).checks, row) &&
+           ColumnAt(column).checks[static_cast<size_t>(row)];
+}
+
+void CellModel::SetCellCheck(int row, int column, bool checked) {
+    if (Has(row)) {
+        *Place(ColumnAt(column).checks, row) = checked;
+        ShowCell(row, column);
+    }
+}
+
+const CellModel::Tag &CellModel::CellTag(int row, int column) const {
+    static const Tag none;
+    return Has(row) && HasColumn(column) && Reaches(ColumnAt(column).tags, row)
+               ? ColumnAt(column).tags[static_cast<size_t>(row)]
+               : none;
+}
+
+void CellModel::SetCellTag(int row, int column, Tag tag) {
+    if (Has(row)) {
+        *Place(ColumnAt(column).tags, row) = std::move(tag);
+    }
+}
+
+QString CellModel::RowTag(int row) const {
+    return Has(row) ? rowTags_[static_cast<size_t>(row)] : QString();
+}
+
+void CellModel::SetRowTag(int row, const QString &tag) {
+    if (Has(row)) {
+        rowTags_[static_cast<size_t>(row)] = tag;
+    }
+}
+
+int CellModel::FindRow(const QString &tag) const {
+    const auto found = std::find(rowTags_.begin(), rowTags_.end(), tag);
+    return found == rowTags_.end() ? -1 : static_cast<int>(found - rowTags_.begin());
+}
+
+void CellModel::SetColumnAlignment(int column, Alignment alignment) {
+    ColumnAt(column).alignment = alignment;
+}
+
+QString CellModel::Heading(int column) const {
+    if (column >= 0) {
+        return HasColumn(column) ? ColumnAt(column).heading : QString();
+    }
+    QString headings;
+    for (const Column &each : columns_) {
+        headings += each.heading + u'\t';
+    }
+    headings.chop(1);
+    return headings;
+}
+
+void CellModel::SetHeading(int column, const QString &text) {
+    ColumnAt(column).heading = text;
+    Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
+}
+
+int CellModel::rowCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : ListCount();
+}
+
+int CellModel::columnCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : ColumnCount();
+}
+
+QVariant CellModel::data(const QModelIndex &index, int role) const {
+    if (!index.isValid()) {
+        return {};
+    }
+    const bool isCheckBox = TypeOfColumn(index.column()) == ColumnType::CheckBox;
+    if (role == Qt::DisplayRole && !isCheckBox) {
+        return Cell(index.row(), index.column());
+    }
+    if (role == Qt::CheckStateRole && isCheckBox) {
+        return static_cast<int>(CellCheck(index.row(), index.column()) ? Qt::Checked
+                                                                       : Qt::Unchecked);
+    }
+    if (role == Qt::AccessibleTextRole && isCheckBox) {
+        return CellCheck(index.row(), index.column()) ? u"ja"_s : u"nein"_s;
+    }
+    return role == Qt::TextAlignmentRole ? AlignmentOf(index.column()) : QVariant();
+}
+
+QVariant CellModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || !HasColumn(section)) {
+        return {};
+    }
+    if (role == Qt::DisplayRole) {
+        return Heading(section);
+    }
+    return role == Qt::TextAlignmentRole ? AlignmentOf(section) : QVariant();
+}
+
+QVariant CellModel::AlignmentOf(int column) const {
+    const bool right = ColumnAt(column).alignment == Alignment::Right;
+    return {Qt::AlignVCenter | (right ? Qt::AlignRight : Qt::AlignLeft)};
+}

@@ -1,0 +1,150 @@
+#include "platform/controls/Listbox.h"
+
+#include "platform/values/Text.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+Listbox::Refill::Refill(Listbox &list) : list_(list) {
+    list_.LeaveCell();
+    list_.BeginRefill();
+}
+
+Listbox::Refill::~Refill() {
+    list_.EndRefill();
+    if (!list_.IsRefilling()) {
+        Q_EMIT list_.SelectionMoved();
+    }
+}
+
+Listbox::Listbox(const QString &name, int columnCount) : CellModel(columnCount) {
+    setObjectName(name);
+}
+
+void Listbox::DeleteAllRows() {
+    const Refill refill(*this);
+    RemoveRows();
+    listIndex_ = -1;
+}
+
+void Listbox::SetListIndex(int row) {
+    if (row != edit_.row) {
+        LeaveCell();
+    }
+    row = Has(row) ? row : -1;
+    if (row == listIndex_) {
+        return;
+    }
+    listIndex_ = row;
+    if (!IsRefilling()) {
+        Q_EMIT SelectionMoved();
+    }
+}
+
+void Listbox::ScrollTo(int row) {
+    if (Has(row)) {
+        Q_EMIT ScrollRequested(row);
+    }
+}
+
+void Listbox::SetOrder(int column, bool descending) {
+    sortedColumn_ = column;
+    descending_ = descending;
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, ColumnCount() - 1);
+}
+
+bool Listbox::Less(int first, int second) {
+    int result = 0;
+    bool handled = false;
+    Q_EMIT CompareRows(first, second, sortedColumn_, result, handled);
+    if (handled) {
+        return result < 0;
+    }
+    return CompareTexts(Cell(first, sortedColumn_), Cell(second, sortedColumn_)) < 0;
+}
+
+void Listbox::Sort() {
+    LeaveCell();
+    if (!HasColumn(sortedColumn_)) {
+        return;
+    }
+    std::vector<int> order(static_cast<size_t>(ListCount()));
+    std::iota(order.begin(), order.end(), 0);
+    const auto less = [this](int first, int second) {
+        return descending_ ? Less(second, first) : Less(first, second);
+    };
+    if (std::is_sorted(order.begin(), order.end(), less)) {
+        return;
+    }
+    std::stable_sort(order.begin(), order.end(), less);
+    const Refill refill(*this);
+    ReorderRows(order);
+    const auto selected = std::find(order.begin(), order.end(), listIndex_);
+    listIndex_ = selected == order.end() ? -1 : static_cast<int>(selected - order.begin());
+}
+
+void Listbox::PressHeading(int column) {
+    if (sortsByHeading_ && HasColumn(column)) {
+        SetOrder(column, column == sortedColumn_ && !descending_);
+        Sort();
+    }
+}
+
+bool Listbox::IsCheckBox(int row, int column) const {
+    return Has(row) && HasColumn(column) && TypeOfColumn(column) == ColumnType::CheckBox;
+}
+
+bool Listbox::CanEdit(int row, int column) const {
+    return Has(row) && HasColumn(column) && !IsCheckBox(row, column) && !IsRefilling();
+}
+
+void Listbox::EditCell(int row, int column) {
+    LeaveCell();
+    if (!CanEdit(row, column)) {
+        return;
+    }
+    SetListIndex(row);
+    ScrollTo(row);
+    edit_ = {row, column, Cell(row, column), Cell(row, column)};
+    Q_EMIT EditOpened();
+}
+
+void Listbox::SetEditText(const QString &text) {
+    if (edit_.row >= 0) {
+        edit_.text = text;
+    }
+}
+
+void Listbox::EndEdit() {
+    if (edit_.row < 0) {
+        return;
+    }
+    const Edit edit = std::exchange(edit_, {});
+    const bool changed = edit.text != edit.before;
+    if (changed) {
+        SetCell(edit.row, edit.column, edit.text);
+    }
+    Q_EMIT EditClosed();
+    if (changed) {
+        Q_EMIT CellAction(edit.row, edit.column);
+    }
+}
+
+void Listbox::DropEdit() {
+    edit_.text = edit_.before;
+    EndEdit();
+}
+
+void Listbox::LeaveCell() {
+    EndEdit();
+    DropEdit();
+}
+
+void Listbox::ToggleCheck(int row, int column) {
+    LeaveCell();
+    if (IsCheckBox(row, column)) {
+        SetCellCheck(row, column, !CellCheck(row, column));
+        Q_EMIT CellAction(row, column);
+    }
+}

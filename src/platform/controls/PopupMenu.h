@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/controls/SelectionControl.h"
+
+/// A pop-up list to choose one row from.
+class PopupMenu : public SelectionControl {
+    Q_OBJECT
+
+public:
+    explicit PopupMenu(const QString &name) : SelectionControl(name) {}
+
+    void SetListIndex(int index) override;
+    /// The selected row's text, empty without a selection.
+    QString Text() const override { return List(ListIndex()); }
+
+Q_SIGNALS:
+    /// Another row is selected, by the user or by the program. After DeleteAllRows any row is
+    /// another.
+    void Change();
+};

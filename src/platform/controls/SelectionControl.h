@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/controls/Control.h"
+#include "platform/controls/RowModel.h"
+
+/// What PopupMenu and ComboBox share: rows with a text and a tag, one of them selected or none.
+class SelectionControl : public Control {
+    Q_OBJECT
+
+public:
+    void AddRow(const QString &text) { rows_.Append(text); }
+    /// Leaves no rows, ListIndex -1 and Text empty. A pop-up menu fires nothing, a combo box
+    /// TextChanged if it had a text.
+    void DeleteAllRows();
+
+    int ListCount() const { return rows_.Count(); }
+    /// The selected row, -1 for none.
+    int ListIndex() const { return listIndex_; }
+    /// An index without a row selects none. Fires the control's change event on a change.
+    virtual void SetListIndex(int index) = 0;
+
+    QString List(int row) const { return rows_.Text(row); }
+    QString RowTag(int row) const { return rows_.Tag(row); }
+    void SetRowTag(int row, const QString &tag) { rows_.SetTag(row, tag); }
+
+    virtual QString Text() const = 0;
+
+    /// The rows, for the view.
+    QAbstractItemModel *Rows() { return &rows_; }
+
+protected:
+    using Control::Control;
+
+    int ValidIndex(int index) const { return index >= 0 && index < ListCount() ? index : -1; }
+    virtual void ForgetSelection() { listIndex_ = -1; }
+
+    int listIndex_ = -1;
+
+private:
+    RowModel rows_;
+};

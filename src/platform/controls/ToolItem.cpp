@@ -1,0 +1,15 @@
+#include "platform/controls/ToolItem.h"
+
+ToolItem::ToolItem(const Properties &properties)
+    : Control(properties.name.toString()), style_(properties.style),
+      caption_(properties.caption.toString()), icon_(properties.icon.toString()) {
+    SetEnabled(properties.enabled);
+}
+
+void ToolItem::SetCaption(const QString &caption) {
+    if (caption == caption_) {
+        return;
+    }
+    caption_ = caption;
+    Q_EMIT Updated();
+}

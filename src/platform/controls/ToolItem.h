@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/controls/Control.h"
+
+/// An item of the tool bar: a button, which is a picture with a caption below, or what stands
+/// between the buttons.
+class ToolItem : public Control {
+    Q_OBJECT
+
+public:
+    enum class Style { PushButton = 0, Separator = 1, FlexibleSpace = 5, FixedSpace = 6 };
+    struct Properties {
+        QStringView name;
+        QStringView caption = u"Untitled";
+        QStringView icon = {};
+        Style style = Style::PushButton;
+        bool enabled = true;
+    };
+
+    explicit ToolItem(const Properties &properties);
+
+    Style ItemStyle() const { return style_; }
+    QString Caption() const { return caption_; }
+    void SetCaption(const QString &caption);
+    /// The file name of its picture among the program's resources.
+    QString Icon() const { return icon_; }
+
+Q_SIGNALS:
+    void Action();
+
+private:
+    Style style_;
+    QString caption_;
+    QString icon_;
+};

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/outside/FolderItem.h"
+#include "platform/values/Date.h"
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+
+class MenuItem;
+class PrinterGraphics;
+struct SaveAsDialog;
+
+/// What the program asks of the world outside its windows. Everything modal goes through here.
+class Desktop {
+public:
+    Desktop() = default;
+    Desktop(const Desktop &) = delete;
+    Desktop &operator=(const Desktop &) = delete;
+    virtual ~Desktop() = default;
+
+    /// The present moment.
+    virtual Date Now() const = 0;
+    /// The user's folder for application data.
+    virtual FolderItem ApplicationData() const = 0;
+    /// The user's desktop folder.
+    virtual FolderItem DesktopFolder() const = 0;
+    /// The file of the running program.
+    virtual FolderItem ExecutableFile() const = 0;
+
+    /// A message with one button; returns when the user has closed it.
+    virtual void MsgBox(const QString &message) = 0;
+    /// Asks for a file to open, of any type; nothing when the user cancels.
+    virtual std::optional<FolderItem> GetOpenFolderItem() = 0;
+    /// Asks for the name of a new file; nothing when the user cancels.
+    virtual std::optional<FolderItem> ShowModal(const SaveAsDialog &dialog) = 0;
+    /// Asks for a printer, for a document of this name; nothing when the user cancels. The open
+    /// book is refused as the file to print into, when the job ends.
+    virtual std::unique_ptr<PrinterGraphics>
+    OpenPrinterDialog(const QString &document, const std::optional<FolderItem> &openBook) = 0;
+    /// Shows the entries under the item as a menu at the mouse; the position of the chosen one,
+    /// nothing when the user closes the menu.
+    virtual std::optional<int> PopUp(const MenuItem &base) = 0;
+    /// Name and version of the program, in a small window.
+    virtual void ShowAboutPanel() = 0;
+
+    /// Opens a file in the program that the system assigns to it. A message says if there is no
+    /// such program; for a file that is missing there is none.
+    virtual void Launch(const FolderItem &file) = 0;
+    /// Opens an address in the user's browser. A message says if there is none.
+    virtual void ShowURL(const QString &address) = 0;
+};

@@ -1,0 +1,45 @@
+#include "platform/outside/TextOutputStream.h"
+
+using namespace Qt::StringLiterals;
+
+TextOutputStream::TextOutputStream(const FolderItem &file,
+                                   const std::optional<FolderItem> &openBook)
+    : file_(file.Path()) {
+    if (openBook && file.IsSameFileAs(*openBook)) {
+        failure_ = u"Sie ist das geöffnete Kassenbuch."_s;
+        return;
+    }
+    // Without a buffer: a buffer that a full disk takes in part counts as written.
+    if (!file_.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        Fail();
+    }
+}
+
+void TextOutputStream::Write(const QByteArray &bytes) {
+    qint64 written = 0;
+    while (!failure_ && written < bytes.size()) {
+        // A full disk takes a part; only the next attempt fails.
+        const qint64 more = file_.write(bytes.constData() + written, bytes.size() - written);
+        if (more <= 0) {
+            Fail();
+        }
+        written += more;
+    }
+}
+
+bool TextOutputStream::Close() {
+    if (!failure_ && !file_.commit()) {
+        Fail();
+    }
+    return !failure_;
+}
+
+QString TextOutputStream::ErrorMessage() const {
+    return u"Die Datei %1 konnte nicht geschrieben werden: %2"_s.arg(file_.fileName(),
+                                                                     failure_.value_or(QString()));
+}
+
+void TextOutputStream::Fail() {
+    failure_ = file_.errorString();
+    file_.cancelWriting();
+}

@@ -1,0 +1,73 @@
+#include "platform/values/Text.h"
+
+#include <QCollator>
+#include <QRegularExpression>
+#include <QStringTokenizer>
+
+#include <charconv>
+#include <string>
+
+using namespace Qt::StringLiterals;
+
+double Val(QStringView text) {
+    std::string number;
+    for (const QChar letter : text.trimmed()) {
+        number += letter.toLatin1(); // What has no Latin letter ends a number as well as any other.
+    }
+    const char *begin = number.data();
+    const char *end = begin + number.size();
+    const bool negative = begin != end && *begin == '-';
+    if (begin != end && (*begin == '-' || *begin == '+')) {
+        ++begin;
+    }
+    // The library would also read names such as inf and nan.
+    if (begin == end || !((*begin >= '0' && *begin <= '9') || *begin == '.')) {
+        return 0;
+    }
+    double value = 0;
+    // A number beyond the range of a double stays 0, as what is not finite counts everywhere else.
+    std::from_chars(begin, end, value);
+    return negative ? -value : value;
+}
+
+QString NthField(QStringView text, QChar separator, int number) {
+    for (const QStringView field : qTokenize(text, separator)) {
+        if (--number == 0) {
+            return field.toString();
+        }
+    }
+    return {};
+}
+
+QString Replace(QString text, QChar search, QChar letter) {
+    if (const qsizetype place = text.indexOf(search); place >= 0) {
+        text[place] = letter;
+    }
+    return text;
+}
+
+QString ReplaceLineEndings(QString text, const QString &ending) {
+    if (text.contains(u'\r')) {
+        text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
+    }
+    return text.replace(u"\n"_s, ending);
+}
+
+QString OneLine(QString text) {
+    // Unicode has two line breaks that are no control characters.
+    static const QRegularExpression run(u"[\\p{Cc}\\x{2028}\\x{2029}]+"_s);
+    return text.replace(run, u" "_s);
+}
+
+int CompareTexts(const QString &a, const QString &b) {
+    static const QCollator german = [] {
+        QCollator order(QLocale(QLocale::German, QLocale::Germany));
+        order.setCaseSensitivity(Qt::CaseInsensitive);
+        return order;
+    }();
+    return german.compare(a, b);
+}
+
+bool SameText(QStringView a, QStringView b) {
+    return a.compare(b, Qt::CaseInsensitive) == 0;
+}

@@ -1,0 +1,109 @@
+#include "platform/values/UserLocale.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <string>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// German as the dictionary has it, without what the desktop has set otherwise for dates or
+/// numbers.
+QLocale German(const QLocale &desktop) {
+    // The desktop's own name may be that of such a setting; its languages are the user's.
+    QStringList names = desktop.uiLanguages();
+    names.prepend(desktop.name());
+    for (const QString &name : names) {
+        if (const QLocale locale(name); locale.language() == QLocale::German) {
+            return {QLocale::German, locale.territory()};
+        }
+    }
+    return {QLocale::German, QLocale::Germany};
+}
+
+QString WithFourDigitYear(QString form) {
+    return form.contains(u"yyyy"_s) ? form : form.replace(u"yy"_s, u"yyyy"_s);
+}
+
+/// The shortest decimal text of the magnitude, without an exponent.
+std::string Digits(double value) {
+    std::array<char, 400> text;
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), std::fabs(value),
+                                   std::chars_format::fixed);
+    return {text.data(), end.ptr};
+}
+
+/// Adds one to the last digit of a text of digits and one dot.
+void AddOneUnit(std::string &digits) {
+    for (size_t i = digits.size(); i-- > 0;) {
+        if (digits[i] == '.') {
+            continue;
+        }
+        if (digits[i] != '9') {
+            ++digits[i];
+            return;
+        }
+        digits[i] = '0';
+    }
+    digits.insert(0, 1, '1');
+}
+
+void RoundTo(std::string &digits, size_t decimals) {
+    if (digits.find('.') == std::string::npos) {
+        digits += '.';
+    }
+    const size_t end = digits.find('.') + 1 + decimals;
+    const bool up = digits.size() > end && digits[end] >= '5';
+    digits.resize(end, '0');
+    if (up) {
+        AddOneUnit(digits);
+    }
+}
+
+bool IsZero(const std::string &digits) {
+    return digits.find_first_not_of("0.") == std::string::npos;
+}
+
+} // namespace
+
+UserLocale::UserLocale(const QLocale &desktop)
+    : locale_(German(desktop)), decimalSeparator_(locale_.decimalPoint()),
+      shortForm_(WithFourDigitYear(locale_.dateFormat(QLocale::ShortFormat))) {}
+
+QString UserLocale::Format(double value, QStringView mask) const {
+    if (!std::isfinite(value)) {
+        value = 0;
+    }
+    const qsizetype dot = mask.indexOf(u'.');
+    const bool leadingDigit = mask.left(dot).contains(u'0');
+    std::string digits = Digits(value);
+    RoundTo(digits, static_cast<size_t>(mask.size() - dot - 1));
+    const bool negative = value < 0 && !IsZero(digits);
+    const QLatin1StringView all(digits.data(), static_cast<qsizetype>(digits.size()));
+    const qsizetype point = all.indexOf(u'.');
+    QString text;
+    text.reserve(all.size() + 1);
+    if (negative) {
+        text += u'-';
+    }
+    if (leadingDigit || point != 1 || digits.front() != '0') {
+        text += all.left(point);
+    }
+    text += decimalSeparator_;
+    return text += all.mid(point + 1);
+}
+
+QString UserLocale::ShortDate(const Date &date) const {
+    return locale_.toString(date.Day(), shortForm_);
+}
+
+QString UserLocale::LongDate(const Date &date) const {
+    return locale_.toString(date.Day(), QLocale::LongFormat);
+}
+
+std::optional<Date> UserLocale::ParseDate(const QString &text) const {
+    const QDate day = locale_.toDate(text, shortForm_);
+    return day.isValid() ? std::optional(Date(day)) : std::nullopt;
+}

@@ -1,0 +1,18 @@
+# Fails, and names the line, when a file of the room ROOM includes one of another room than the rooms
+# MAY_INCLUDE, which stand with bars between them.
+file(GLOB_RECURSE files ${ROOM}/*.h ${ROOM}/*.cpp)
+if(NOT files)
+    message(FATAL_ERROR "${ROOM} is empty")
+endif()
+set(wrong)
+foreach(file IN LISTS files)
+    file(STRINGS ${file} includes REGEX "^#include \"")
+    foreach(include IN LISTS includes)
+        if(NOT include MATCHES "^#include \"(${MAY_INCLUDE})/")
+            string(APPEND wrong "\n${file}: ${include}")
+        endif()
+    endforeach()
+endforeach()
+if(wrong)
+    message(FATAL_ERROR "These includes lead out of what the room links:${wrong}")
+endif()
