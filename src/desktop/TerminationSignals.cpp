@@ -3,6 +3,8 @@
 #include <QSocketNotifier>
 
 #include <algorithm>
+#include <atomic>
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
@@ -10,14 +12,18 @@
 namespace {
 
 /// The writing end of the pipe that wakes the event loop: a signal handler reaches nothing else.
-int wakeUp = -1;
+std::atomic<int> wakeUp = -1;
+static_assert(std::atomic<int>::is_always_lock_free);
 
 constexpr int endings[] = {SIGTERM, SIGINT, SIGHUP};
 
 void HandleSignal(int /*signal*/) {
+    // What the signal interrupts may be about to read it.
+    const int error = errno;
     const char byte = 1;
     // There is nobody to tell; a full pipe has woken the loop already.
     static_cast<void>(!write(wakeUp, &byte, 1));
+    errno = error;
 }
 
 /// Linux could do it in one call, macOS can't.

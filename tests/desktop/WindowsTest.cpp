@@ -6,6 +6,8 @@
 #include "support/MainWindowTest.h"
 #include "support/ModalWindows.h"
 
+#include <QAction>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -35,6 +37,7 @@ protected:
 TEST_F(FirstStartTest, LeadsFromTheWelcomeWindowIntoTheSampleBook) {
     auto *welcome = static_cast<QMainWindow *>(Shown(u"WelcomeWindow"_s));
     ASSERT_TRUE(welcome && !Shown(u"MainWindow"_s));
+    EXPECT_TRUE(welcome->findChild<QAction *>(u"AboutItem"_s)->isEnabled());
     // On the title that lies over the button.
     const QPoint title = welcome->centralWidget()->pos() + QPoint(700, 22);
     const auto click = [=] {
@@ -63,7 +66,10 @@ TEST(Windows, OpenTheMainWindowAtOnceOnABookInItsPlace) {
     Book book(Book::Place::File);
     Windows windows(book.app);
     windows.Open();
-    EXPECT_TRUE(Shown(u"MainWindow"_s) && !Shown(u"WelcomeWindow"_s));
+    const QWidget *window = Shown(u"MainWindow"_s);
+    EXPECT_TRUE(window && !Shown(u"WelcomeWindow"_s));
+    windows.Open();
+    EXPECT_EQ(Shown(u"MainWindow"_s), window) << "there is one of each kind";
 }
 
 TEST(WelcomeWindowView, ShowsThePointedButtonAndStaysOpenAfterAFailedCreation) {

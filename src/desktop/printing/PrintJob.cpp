@@ -4,6 +4,7 @@
 #include "platform/outside/TextOutputStream.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetricsF>
@@ -52,8 +53,17 @@ PrintJob::PrintJob(std::unique_ptr<QPrinter> printer, std::optional<FolderItem> 
 }
 
 PrintJob::~PrintJob() {
-    if (const QString failure = Print(); !failure.isEmpty()) {
-        tell_(failure);
+    if (const QString failure = End(); !failure.isEmpty()) {
+        QMetaObject::invokeMethod(
+            qApp, [tell = std::move(tell_), failure] { tell(failure); }, Qt::QueuedConnection);
+    }
+}
+
+QString PrintJob::End() const noexcept {
+    try {
+        return Print();
+    } catch (const std::exception &) {
+        return cannotPrint;
     }
 }
 

@@ -15,12 +15,12 @@ class QPainter;
 class QPrinter;
 
 /// A print job on a printer or into a PDF file. It keeps the pages, and prints them when it is let
-/// go: the wanted pages in the wanted order and number. A page that would run past the lower edge
-/// of the paper is scaled down as a whole; any other is printed in its own size. A PDF file is
-/// there as a whole or not at all.
+/// go, which never throws: the wanted pages in the wanted order and number. A page that would run
+/// past the lower edge of the paper is scaled down as a whole; any other is printed in its own
+/// size. A PDF file is there as a whole or not at all.
 class PrintJob : public PrinterGraphics {
 public:
-    /// Hears a failure, in German.
+    /// Hears a failure, in German, when the event loop comes round.
     using Tell = std::function<void(const QString &)>;
     /// The printer as the user has chosen and set it. The open book is no file to print into.
     PrintJob(std::unique_ptr<QPrinter> printer, std::optional<FolderItem> openBook, Tell tell);
@@ -51,7 +51,8 @@ private:
 
     void AddShape(double bottom, const std::function<void(Graphics &)> &draw);
     std::vector<const Page *> PagesToPrint() const;
-    /// Both give what has failed, nothing if all went well.
+    /// All three give what has failed, nothing if all went well.
+    QString End() const noexcept;
     QString Print() const;
     QString PrintIntoFile() const;
     bool PrintOn(QPagedPaintDevice &device) const;

@@ -10,11 +10,18 @@ namespace {
 
 using Converter = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
 
+/// The code page is built into the library: without it the program can't go on rightly.
+void MustSucceed(UErrorCode status) {
+    if (U_FAILURE(status)) {
+        qFatal("Code page 1252: %s", u_errorName(status));
+    }
+}
+
 Converter OpenConverter() {
     UErrorCode status = U_ZERO_ERROR;
     Converter converter(ucnv_open("windows-1252", &status), &ucnv_close);
     ucnv_setSubstChars(converter.get(), "?", 1, &status);
-    Q_ASSERT(U_SUCCESS(status));
+    MustSucceed(status);
     return converter;
 }
 
@@ -63,6 +70,7 @@ QByteArray Convert(QStringView text, const icu::Transliterator *toPlainLetters,
     QByteArray bytes(UCNV_GET_MAX_BYTES_FOR_STRING(unicode.length(), 1), Qt::Uninitialized);
     bytes.resize(ucnv_fromUChars(converter, bytes.data(), static_cast<int32_t>(bytes.size()),
                                  unicode.getBuffer(), unicode.length(), &status));
+    MustSucceed(status);
     return bytes;
 }
 

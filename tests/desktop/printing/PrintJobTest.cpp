@@ -3,6 +3,7 @@
 #include "support/FullDisk.h"
 #include "support/GoogleTest.h"
 
+#include <QCoreApplication>
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
@@ -30,6 +31,7 @@ protected:
         job->NextPage();
         job->DrawString(u"900"_s, 40, 900);
         job.reset();
+        QCoreApplication::processEvents(); // A failure is told behind it.
         return Read();
     }
 
