@@ -11,7 +11,7 @@ using Pair = std::shared_ptr<BookPair>;
 void LoadJournal(benchmark::State &state, LargeBook &book, int month) {
     book.window.selectors.MonthPopup.SetListIndex(month);
     for (auto _ : state) {
-        book.window.balances.Refresh();
+        book.window.journal.Reload();
     }
 }
 
@@ -38,7 +38,7 @@ Measure Growth(const std::string &name, const Pair &large, const Pair &small) {
                 [=](auto &state) {
                     for (auto _ : state) {
                         for (int times = 0; times < 10; ++times) {
-                            small->ours.window.balances.Refresh();
+                            small->ours.window.journal.Reload();
                         }
                     }
                 }};
@@ -85,7 +85,7 @@ Measure DeleteBooking(const Pair &books) {
         for (auto _ : state) {
             state.PauseTiming();
             books->ours.book.Run(QString::fromLatin1(addOne));
-            window.balances.Refresh();
+            window.journal.Reload();
             Listbox &list = window.journal.CashList;
             list.SetListIndex(
                 list.FindRow(QString::number(books->ours.book.app.kvoDB().LastRowID())));

@@ -28,18 +28,11 @@ Currency SumOf(RecordSet &records) {
 
 } // namespace
 
-Balances::Balances(App &app, Selectors &selectors, Journal &journal)
+Balances::Balances(App &app, const Selectors &selectors, Journal &journal)
     : OpeningBalanceLabel(u"OpeningBalanceLabel"_s, u"0,00"_s),
       LastAmountLabel(u"LastAmountLabel"_s, u"0,00"_s), app_(app), selectors_(selectors),
       journal_(journal) {
-    connect(&selectors_, &Selectors::RefreshJournal, this, &Balances::Refresh);
-}
-
-void Balances::Refresh() {
-    journal_.LoadJournal();
-    if (!app_.ReportError()) {
-        ReCalcAmount();
-    }
+    connect(&journal_, &Journal::Loaded, this, &Balances::ReCalcAmount);
 }
 
 void Balances::ReCalcAmount() {

@@ -19,17 +19,13 @@ class Balances : public QObject {
     Q_OBJECT
 
 public:
-    /// Answers every RefreshJournal of the selectors with a Refresh.
-    Balances(App &app, Selectors &selectors, Journal &journal);
+    /// Answers every load of the journal with ReCalcAmount.
+    Balances(App &app, const Selectors &selectors, Journal &journal);
 
-    /// The balance before the first booking shown, and behind the last one; empty without a
-    /// booking.
+    /// The balance before the first booking shown, and after the last one; empty without a booking.
     Label OpeningBalanceLabel;
     Label LastAmountLabel;
 
-    /// LoadJournal and ReCalcAmount. A failed load is told, and no balance is computed: the rows
-    /// may be those of another period.
-    void Refresh();
     /// Computes the start balance of the period, runs it down the balance column and shows both
     /// ends. A database error is told to the user and leaves the display as it was.
     void ReCalcAmount();
@@ -47,6 +43,6 @@ private:
     void RunBalance(Currency balance);
 
     App &app_;
-    Selectors &selectors_;
+    const Selectors &selectors_;
     Journal &journal_;
 };

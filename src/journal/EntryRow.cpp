@@ -49,11 +49,10 @@ void EntryRow::NewSale() {
     SaleNumberField.SetText({});
     NoteField.SetText({});
     ShowButtons(false);
-    {
-        const Selectors::Hold oneRefresh(selectors_);
+    selectors_.ChangeTogether([this] {
         selectors_.GetCashbooks();
         selectors_.GetJournalYears();
-    }
+    });
     ErrorLabel.SetText({});
     DateField.SetFocus();
 }
@@ -155,12 +154,11 @@ void EntryRow::SubmitButton_Action() {
     } else {
         id = QString::number(database.LastRowID());
     }
-    {
-        const Selectors::Hold oneRefresh(selectors_);
+    selectors_.ChangeTogether([this] {
         NewSale();
-        // Behind NewSale, whose rebuilt list knows the year of a year's first booking.
+        // After NewSale, whose rebuilt list knows the year of a year's first booking.
         selectors_.ShowPeriod(DateField.DateValue());
-    }
+    });
     journal_.CashList.ScrollTo(journal_.CashList.FindRow(id));
 }
 
@@ -223,7 +221,7 @@ void EntryRow::DeleteSale() {
     }
     app_.kvoDB().SQLExecute(u"DELETE FROM cash_journal WHERE id = "_s +
                             list.RowTag(list.ListIndex()));
-    balances_.Refresh();
+    journal_.Reload();
 }
 
 void EntryRow::CashList_ConstructContextualMenu(MenuItem &base) const {

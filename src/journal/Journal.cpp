@@ -1,7 +1,7 @@
 #include "journal/Journal.h"
 
 #include "core/App.h"
-#include "core/database/SharedTexts.h"
+#include "journal/BookingReader.h"
 #include "journal/Selectors.h"
 #include "platform/outside/DebugLog.h"
 
@@ -27,38 +27,32 @@ void CashList_CellBackgroundPaint(Graphics &graphics, int row) {
     graphics.FillRect(0, 0, graphics.Width(), graphics.Height());
 }
 
-/// Reads one record after the other into the list. Neighbours often share their date: it is read
-/// and written out once for them.
-class RowWriter {
+/// Reads one booking after the other. Neighbours often share their date: it is written out once for
+/// them.
+class RowReader {
 public:
-    RowWriter(RecordSet &records, const UserLocale &locale, Listbox &list)
-        : locale_(locale), list_(list), id_(records.Field("id"_L1)),
-          vdate_(records.Field("vdate"_L1)), type_(records.Field("type"_L1)),
-          amount_(records.Field("amount"_L1)), taxname_(records.Field("taxname"_L1)),
-          tax_(records.Field("tax"_L1)), category_(records.Field("category"_L1)),
-          account_(records.Field("account"_L1)), salesnumber_(records.Field("salesnumber"_L1)),
-          note_(records.Field("note"_L1)) {}
+    RowReader(RecordSet &records, const UserLocale &locale) : booking_(records), locale_(locale) {}
 
-    void AddRow() {
+    void ReadInto(Listbox::Rows &rows) {
         ReadDate();
-        list_.AddRow(dateText_);
-        const int row = list_.LastIndex();
-        list_.SetCellTag(row, Journal::DateColumn, dateTag_);
-        const bool receipt = type_.IsCode("E");
-        list_.SetCell(row, receipt ? Journal::Input : Journal::Output,
-                      locale_.FormatAmount(amount_.DoubleValue()));
-        list_.SetCell(row, Journal::Tax, shared_.Of(taxname_));
-        list_.SetCellTag(row, Journal::Tax, shared_.Of(tax_));
-        list_.SetCell(row, Journal::Category, shared_.Of(category_));
-        list_.SetCellTag(row, Journal::Category, shared_.Of(account_));
-        list_.SetCell(row, Journal::SaleNumber, salesnumber_.StringValue());
-        list_.SetCell(row, Journal::Note, note_.StringValue());
-        list_.SetRowTag(row, id_.StringValue());
+        const QString amount = locale_.FormatAmount(booking_.Amount());
+        const bool receipt = booking_.IsReceipt();
+        rows.cells[Journal::DateColumn].push_back(dateText_);
+        rows.cellTags[Journal::DateColumn].push_back(dateTag_);
+        rows.cells[Journal::Input].push_back(receipt ? amount : QString());
+        rows.cells[Journal::Output].push_back(receipt ? QString() : amount);
+        rows.cells[Journal::Tax].push_back(booking_.TaxName());
+        rows.cellTags[Journal::Tax].emplace_back(booking_.Tax());
+        rows.cells[Journal::Category].push_back(booking_.Category());
+        rows.cellTags[Journal::Category].emplace_back(booking_.Account());
+        rows.cells[Journal::SaleNumber].push_back(booking_.SaleNumber());
+        rows.cells[Journal::Note].push_back(booking_.Note());
+        rows.tags.push_back(booking_.Id());
     }
 
 private:
     void ReadDate() {
-        const QString text = shared_.Of(vdate_);
+        const QString text = booking_.SQLDate();
         if (text == sqlDate_) {
             return;
         }
@@ -69,11 +63,8 @@ private:
         dateTag_ = date ? Listbox::Tag(*date) : Listbox::Tag();
     }
 
+    BookingReader booking_;
     const UserLocale &locale_;
-    Listbox &list_;
-    DatabaseField id_, vdate_, type_, amount_, taxname_, tax_, category_, account_, salesnumber_,
-        note_;
-    SharedTexts shared_;
     QString sqlDate_;
     QString dateText_;
     Listbox::Tag dateTag_;
@@ -81,8 +72,9 @@ private:
 
 } // namespace
 
-Journal::Journal(App &app, Selectors &selectors)
+Journal::Journal(App &app, const Selectors &selectors)
     : CashList(u"CashList"_s, 8), app_(app), selectors_(selectors) {
+    connect(&selectors_, &Selectors::RefreshJournal, this, &Journal::Reload);
     connect(&CashList, &Listbox::CompareRows, this, &Journal::CashList_CompareRows);
     connect(&CashList, &Listbox::CellBackgroundPaint, this, &CashList_CellBackgroundPaint);
     CashList_Open();
@@ -94,31 +86,38 @@ void Journal::CashList_Open() {
     }
 }
 
-QString Journal::Statement() const {
-    QString condition = u"WHERE "_s + selectors_.CashbookAndYearCondition();
+QString Journal::Condition() const {
+    QString condition = selectors_.CashbookAndYearCondition();
     const int month = selectors_.MonthPopup.ListIndex();
     if (month >= 1) {
         condition += u" AND substr(vdate, 6, 2)='"_s + selectors_.MonthPopup.RowTag(month) + u'\'';
     }
-    // The tax table holds the key 0 twice, under one name; DISTINCT folds the two results into one.
-    return u"SELECT DISTINCT cj.*, ct.name AS taxname FROM cash_journal As cj JOIN cash_tax AS ct "
-           "ON cj.tax = ct.value "_s +
-           condition + u" ORDER BY vdate"_s;
+    return condition;
 }
 
 void Journal::LoadJournal() {
-    const QString sql = Statement();
+    const QString sql = BookingReader::Statement(Condition());
     DebugLog(sql);
     if (const auto records = app_.kvoDB().Prepare(sql).SQLSelect()) {
-        const Listbox::Refill refill(CashList);
-        CashList.DeleteAllRows();
-        RowWriter writer(*records, app_.Locale(), CashList);
+        Listbox::Rows rows(CashList.ColumnCount());
+        RowReader reader(*records, app_.Locale());
         for (; !records->AtEnd(); records->MoveNext()) {
-            writer.AddRow();
+            reader.ReadInto(rows);
+        }
+        // A damaged page shows only on the way.
+        if (!app_.kvoDB().Error()) {
+            CashList.SetRows(std::move(rows));
         }
     }
     CashList.SetSortedColumn(DateColumn);
     CashList.Sort();
+}
+
+void Journal::Reload() {
+    LoadJournal();
+    if (!app_.ReportError()) {
+        Q_EMIT Loaded();
+    }
 }
 
 void Journal::CashList_CompareRows(int first, int second, int column, int &result,

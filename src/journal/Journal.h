@@ -18,7 +18,8 @@ public:
     /// account.
     enum Column { DateColumn, Input, Output, Tax, Category, SaleNumber, Note, Balance };
 
-    Journal(App &app, Selectors &selectors);
+    /// Answers every RefreshJournal of the selectors with a Reload.
+    Journal(App &app, const Selectors &selectors);
 
     Listbox CashList;
 
@@ -26,12 +27,19 @@ public:
     /// balance column is left empty. If the query fails the rows stay as they were; the database's
     /// Error then tells it, and no message.
     void LoadJournal();
+    /// Loads the journal, and says so. A failure is told, and nobody hears of a load: the rows may
+    /// be those of another period.
+    void Reload();
+
+Q_SIGNALS:
+    /// CashList holds the bookings of the selected period; their balances are still to be computed.
+    void Loaded();
 
 private:
     void CashList_Open();
     void CashList_CompareRows(int first, int second, int column, int &result, bool &handled) const;
-    QString Statement() const;
+    QString Condition() const;
 
     App &app_;
-    Selectors &selectors_;
+    const Selectors &selectors_;
 };

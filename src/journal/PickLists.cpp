@@ -19,29 +19,25 @@ void PickLists::LoadRows(const QString &sql, QLatin1StringView tagColumn, const 
     SQLitePreparedStatement statement = database.Prepare(sql);
     statement.Bind(0, type);
     const auto records = statement.SQLSelect();
-    if (records || side != type) {
-        list.DeleteAllRows();
-        side.clear();
-    }
     if (!records) {
+        if (side != type) {
+            list.DeleteAllRows();
+            side.clear();
+        }
         return;
     }
     const auto name = records->Field("name"_L1);
     const auto tag = records->Field(tagColumn);
-    std::vector<std::pair<QString, QString>> rows;
+    std::vector<ComboBox::Row> rows;
     for (; !records->AtEnd(); records->MoveNext()) {
-        rows.emplace_back(name.StringValue(), tag.StringValue());
+        rows.push_back({name.StringValue(), tag.StringValue()});
     }
     // A damaged page shows only on the way.
     side = database.Error() ? QString() : type;
     // The database sorts an umlaut behind all letters.
-    std::stable_sort(rows.begin(), rows.end(), [](const auto &a, const auto &b) {
-        return CompareTexts(a.first, b.first) < 0;
-    });
-    for (const auto &[text, rowTag] : rows) {
-        list.AddRow(text);
-        list.SetRowTag(list.ListCount() - 1, rowTag);
-    }
+    std::stable_sort(rows.begin(), rows.end(),
+                     [](const auto &a, const auto &b) { return CompareTexts(a.text, b.text) < 0; });
+    list.SetRows(std::move(rows));
 }
 
 void PickLists::LoadAccounts(const QString &type) {

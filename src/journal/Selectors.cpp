@@ -4,7 +4,10 @@
 #include "core/TLXLists.h"
 #include "core/TLXModule.h"
 
+#include <QScopedValueRollback>
+
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -16,16 +19,6 @@ void SelectPosition(PopupMenu &list, int position) {
 
 } // namespace
 
-Selectors::Hold::Hold(Selectors &selectors) : selectors_(selectors) {
-    ++selectors_.holds_;
-}
-
-Selectors::Hold::~Hold() {
-    if (--selectors_.holds_ == 0 && std::exchange(selectors_.refreshWanted_, false)) {
-        Q_EMIT selectors_.RefreshJournal();
-    }
-}
-
 Selectors::Selectors(App &app)
     : CashbookPopup(u"CashbookPopup"_s), YearPopup(u"YearPopup"_s), MonthPopup(u"MonthPopup"_s),
       app_(app) {
@@ -34,24 +27,33 @@ Selectors::Selectors(App &app)
     connect(&MonthPopup, &PopupMenu::Change, this, &Selectors::MonthPopup_Change);
 }
 
+void Selectors::ChangeTogether(const std::function<void()> &changes) {
+    {
+        const QScopedValueRollback<int> inside(together_, together_ + 1);
+        changes();
+    }
+    if (together_ == 0 && std::exchange(refreshWanted_, false)) {
+        Q_EMIT RefreshJournal();
+    }
+}
+
 void Selectors::GetCashbooks() {
-    CashbookPopup.DeleteAllRows();
+    std::vector<PopupMenu::Row> rows;
     if (const auto records = app_.kvoDB().Prepare(u"SELECT * FROM cash_book"_s).SQLSelect()) {
-        auto account = records->Field("account"_L1);
-        auto name = records->Field("name"_L1);
-        auto id = records->Field("id"_L1);
-        const int count = records->RecordCount();
-        for (int row = 0; row < count; ++row) {
-            CashbookPopup.AddRow(account.StringValue() + u':' + name.StringValue());
-            CashbookPopup.SetRowTag(row, id.StringValue());
-            records->MoveNext();
+        const auto account = records->Field("account"_L1);
+        const auto name = records->Field("name"_L1);
+        const auto id = records->Field("id"_L1);
+        for (; !records->AtEnd(); records->MoveNext()) {
+            rows.push_back({account.StringValue() + u':' + name.StringValue(), id.StringValue()});
         }
     }
+    // A damaged page shows only on the way; in half a list another cash book would be selected.
+    CashbookPopup.SetRows(app_.kvoDB().Error() ? std::vector<PopupMenu::Row>() : std::move(rows));
     SelectPosition(CashbookPopup, mCashbookID_);
 }
 
 void Selectors::GetJournalYears() {
-    YearPopup.DeleteAllRows();
+    std::vector<PopupMenu::Row> rows;
     const auto years =
         app_.kvoDB()
             .Prepare(u"SELECT DISTINCT substr(vdate, 1, 4) FROM cash_journal WHERE vdate > 0 "
@@ -59,39 +61,40 @@ void Selectors::GetJournalYears() {
             .SQLSelect();
     if (years) {
         for (auto year = years->IdxField(1); !years->AtEnd(); years->MoveNext()) {
-            YearPopup.AddRow(year.StringValue());
+            rows.push_back({year.StringValue(), {}});
         }
     }
-    if (YearPopup.ListCount() < 1) {
+    if (rows.empty()) {
         const auto opening =
             app_.kvoDB()
                 .Prepare(u"SELECT substr(opening_balance_date, 1, 4) FROM cash_book WHERE id=1"_s)
                 .SQLSelect();
         if (opening) {
-            YearPopup.AddRow(opening->IdxField(1).StringValue());
+            rows.push_back({opening->IdxField(1).StringValue(), {}});
         }
     }
+    YearPopup.SetRows(std::move(rows));
     SelectPosition(YearPopup, mYear_);
 }
 
 void Selectors::LoadMonths() {
-    MonthPopup.DeleteAllRows();
-    int row = 0;
+    std::vector<PopupMenu::Row> rows;
     for (const auto &month : TLXModule::MonthTagTable) {
-        MonthPopup.AddRow(month.text.toString());
-        MonthPopup.SetRowTag(row++, month.tag.toString());
+        rows.push_back({month.text.toString(), month.tag.toString()});
     }
+    MonthPopup.SetRows(std::move(rows));
     MonthPopup.SetListIndex(0);
 }
 
 void Selectors::GetMissing() {
-    const Hold oneRefresh(*this);
-    if (CashbookPopup.ListIndex() < 0) {
-        GetCashbooks();
-    }
-    if (YearPopup.ListIndex() < 0) {
-        GetJournalYears();
-    }
+    ChangeTogether([this] {
+        if (CashbookPopup.ListIndex() < 0) {
+            GetCashbooks();
+        }
+        if (YearPopup.ListIndex() < 0) {
+            GetJournalYears();
+        }
+    });
 }
 
 void Selectors::ShowPeriod(const Date &date) {
@@ -139,6 +142,5 @@ void Selectors::MonthPopup_Change() {
 }
 
 void Selectors::AskForRefresh() {
-    const Hold hold(*this);
-    refreshWanted_ = true;
+    ChangeTogether([this] { refreshWanted_ = true; });
 }

@@ -5,6 +5,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 class App;
 
 /// Cash book, year and month: what the journal shows. A change of a selector asks for a fresh
@@ -20,17 +22,8 @@ public:
     PopupMenu YearPopup;
     PopupMenu MonthPopup;
 
-    /// While it lives, changes wait: RefreshJournal is fired once at its end, if any change asked.
-    class Hold {
-    public:
-        explicit Hold(Selectors &selectors);
-        ~Hold();
-        Hold(const Hold &) = delete;
-        Hold &operator=(const Hold &) = delete;
-
-    private:
-        Selectors &selectors_;
-    };
+    /// Makes several changes. RefreshJournal is fired once behind them, if any of them asked.
+    void ChangeTogether(const std::function<void()> &changes);
 
     /// Rebuild their selector from the database and select what stands at the remembered position,
     /// or the last row when that lies beyond the list. A failed query leaves the selector empty.
@@ -68,6 +61,6 @@ private:
     // Positions in their lists, not ids or years; they outlive a rebuilding of the lists.
     int mCashbookID_ = 0;
     int mYear_ = 0;
-    int holds_ = 0;
+    int together_ = 0;
     bool refreshWanted_ = false;
 };

@@ -16,8 +16,7 @@ void RecordList::Load() {
     if (app_.ReportError()) {
         return;
     }
-    {
-        const Listbox::Refill refill(list_);
+    list_.Refill([this, &records] {
         const QString selected = list_.RowTag(list_.ListIndex());
         list_.DeleteAllRows();
         for (const auto id = records->Field("id"_L1); !records->AtEnd(); records->MoveNext()) {
@@ -27,7 +26,7 @@ void RecordList::Load() {
         list_.SetListIndex(list_.FindRow(selected));
         list_.SetSortedColumn(sortedColumn_);
         list_.Sort();
-    }
+    });
     // A damaged page shows only on the way.
     app_.ReportError();
 }

@@ -7,10 +7,11 @@ class Selectors;
 
 /// The posting records for the accountant: the bookings of the selected cash book and year, with
 /// the debit and credit account of each. The selected month and the journal on the screen do not
-/// matter.
+/// matter. The records pass through a list, since how a list becomes a text file is decided once,
+/// for any list.
 class AccountingExport {
 public:
-    AccountingExport(App &app, Selectors &selectors);
+    AccountingExport(App &app, const Selectors &selectors);
 
     static constexpr int columnCount = 11;
 
@@ -23,5 +24,5 @@ public:
 
 private:
     App &app_;
-    Selectors &selectors_;
+    const Selectors &selectors_;
 };

@@ -12,8 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum Page { Company = 1, CashBook = 2 };
-
 /// Where a button's picture stands on it, in points.
 constexpr int pictureLeft = 14;
 constexpr int pictureTop = 26;
@@ -85,7 +83,7 @@ void WelcomeWindow::AboutItem_Action() {
 }
 
 void WelcomeWindow::NewCanvas_MouseDown() {
-    PagePanel1.SetValue(Page::Company);
+    PagePanel1.SetValue(CompanyPage);
     CompanyField.SetFocus();
 }
 
@@ -98,11 +96,11 @@ void WelcomeWindow::ForwardButton_Action() {
         app_.GetDesktop().MsgBox(u"Bitte geben Sie einen Firmannamen an"_s);
         return;
     }
-    PagePanel1.SetValue(Page::CashBook);
+    PagePanel1.SetValue(CashBookPage);
 }
 
 void WelcomeWindow::BackButton_Action() {
-    PagePanel1.SetValue(Page::Company);
+    PagePanel1.SetValue(CompanyPage);
 }
 
 void WelcomeWindow::AccountsPopup_Change() {

@@ -13,12 +13,14 @@ class App;
 
 /// The first window of every start. With a book in its place it hands over to the main window at
 /// once; without one it stays and offers the ways to a book: the sample book, or one of the user's
-/// own from what is typed on two pages. Page 0 is the greeting, 1 the company, 2 chart and cash
-/// book.
+/// own from what is typed on two pages.
 class WelcomeWindow : public QObject {
     Q_OBJECT
 
 public:
+    /// The pages of PagePanel1.
+    enum Page { GreetingPage, CompanyPage, CashBookPage };
+
     explicit WelcomeWindow(App &app);
 
     PagePanel PagePanel1;

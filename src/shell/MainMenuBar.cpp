@@ -5,16 +5,16 @@ namespace {
 using Kind = MenuItem::Kind;
 
 constexpr MenuItem::Properties fileItems[] = {
-    {u"AboutItem", u"Über Zolmark", {}, Kind::Apple},
+    {u"AboutItem", u"Über Zolmark", {}, u"about", Kind::Apple},
     {u"UntitledSeparator1", u"-"},
     {.name = u"FileOpen", .text = u"Ö&ffnen...", .autoEnable = false},
     {u"FileSaveAs", u"&Speichern unter..."},
-    {u"FileExport", u"E&xport..."},
+    {u"FileExport", u"E&xport...", {}, u"export"},
     {u"UntitledSeparator", u"-"},
-    {u"FilePrint", u"&Drucken...", u"Cmd+P"},
-    {u"FilePreferences", u"&Einstellungen ...", {}, Kind::Prefs},
+    {u"FilePrint", u"&Drucken...", u"Cmd+P", u"print"},
+    {u"FilePreferences", u"&Einstellungen ...", {}, u"preferences", Kind::Prefs},
     {u"UntitledSeparator0", u"-"},
-    {u"FileQuit", u"&Quit", u"Cmd+Q", Kind::Quit},
+    {u"FileQuit", u"&Quit", u"Cmd+Q", {}, Kind::Quit},
 };
 
 constexpr MenuItem::Properties editItems[] = {
@@ -29,10 +29,10 @@ constexpr MenuItem::Properties editItems[] = {
 };
 
 constexpr MenuItem::Properties dataItems[] = {
-    {u"NewSaleItem", u"&Neu", u"Cmd+N"},
-    {u"EditItem", u"B&earbeiten", u"Cmd+E", Kind::Plain, false},
-    {u"CopyItem", u"&Duplizieren", u"Cmd+D", Kind::Plain, false},
-    {u"DeleteItem", u"&Löschen", u"Cmd+L", Kind::Plain, false},
+    {u"NewSaleItem", u"&Neu", u"Cmd+N", u"new"},
+    {u"EditItem", u"B&earbeiten", u"Cmd+E", u"edit", Kind::Plain, false},
+    {u"CopyItem", u"&Duplizieren", u"Cmd+D", u"copy", Kind::Plain, false},
+    {u"DeleteItem", u"&Löschen", u"Cmd+L", u"delete", Kind::Plain, false},
 };
 
 constexpr MenuItem::Properties helpItems[] = {

@@ -5,19 +5,19 @@ namespace {
 using Style = ToolItem::Style;
 
 constexpr ToolItem::Properties toolItems[] = {
-    {u"NewButton", u"Neu", u"page_add.png"},
-    {.name = u"EditButton", .caption = u"Bearbeiten", .icon = u"page_edit.png", .enabled = false},
-    {.name = u"CopyButton", .caption = u"Duplizieren", .icon = u"page_copy.png", .enabled = false},
-    {.name = u"DeleteButton", .caption = u"Löschen", .icon = u"page_delete.png", .enabled = false},
+    {u"NewButton", u"Neu", u"page_add.png", u"new"},
+    {u"EditButton", u"Bearbeiten", u"page_edit.png", u"edit", Style::PushButton, false},
+    {u"CopyButton", u"Duplizieren", u"page_copy.png", u"copy", Style::PushButton, false},
+    {u"DeleteButton", u"Löschen", u"page_delete.png", u"delete", Style::PushButton, false},
     {.name = u"ToolItem1", .style = Style::Separator},
     {.name = u"ToolItem2", .style = Style::FixedSpace},
-    {u"PrintButton", u"Drucken", u"printer.png"},
+    {u"PrintButton", u"Drucken", u"printer.png", u"print"},
     {.name = u"ToolItem3", .style = Style::FixedSpace},
     {.name = u"ToolItem4", .style = Style::FlexibleSpace},
     {.name = u"ToolItem7", .style = Style::FlexibleSpace},
     {.name = u"ToolItem6", .style = Style::FlexibleSpace},
     {.name = u"ToolItem5", .style = Style::Separator},
-    {u"PreferencesButton", u"Einstellungen", u"interface_preferences.png"},
+    {u"PreferencesButton", u"Einstellungen", u"interface_preferences.png", u"preferences"},
 };
 
 } // namespace

@@ -4,6 +4,9 @@
 #include "platform/values/Text.h"
 #include "reports/ListExport.h"
 
+#include <algorithm>
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -22,41 +25,77 @@ MainWindow::MainWindow(App &app)
     connect(&journal.CashList, &Listbox::KeyDown, this, &MainWindow::CashList_CellClick);
     connect(&journal.CashList, &Listbox::LostFocus, this, [this] { EnableRowCommands(false); });
     connect(&MainWindowToolbar, &MainToolbar::Action, this, &MainWindow::MainWindowToolbar_Action);
+    for (int place = 0; place < MainWindowToolbar.Count(); ++place) {
+        MustKnow(MainWindowToolbar.Item(place).Word());
+    }
     AddMenuHandlers();
 }
 
+const MainWindow::Command MainWindow::commands[] = {
+    {u"new", [](MainWindow &at) { at.entryRow.NewSale(); }},
+    {u"edit", [](MainWindow &at) { at.entryRow.EditSale(EntryRow::EditMode::Change); }},
+    {u"copy", [](MainWindow &at) { at.entryRow.EditSale(EntryRow::EditMode::Copy); }},
+    {u"delete", [](MainWindow &at) { at.entryRow.DeleteSale(); }},
+    {u"print", [](MainWindow &at) { at.Print(); }},
+    {u"export", [](MainWindow &at) { at.Export(); }},
+    {u"preferences", [](MainWindow &at) { at.EnterPreferences(); }},
+    {u"cashbook", [](MainWindow &at) { at.LeavePreferences(); }},
+    {u"about", [](MainWindow &at) { at.app_.GetDesktop().ShowAboutPanel(); }},
+};
+
+const MainWindow::Command *MainWindow::Find(const QString &word) {
+    const auto *const found =
+        std::find_if(std::begin(commands), std::end(commands),
+                     [&word](const Command &command) { return SameText(command.word, word); });
+    return found == std::end(commands) ? nullptr : found;
+}
+
+void MainWindow::MenuAction(const QString &word) {
+    if (const Command *command = Find(word)) {
+        // A command works on what has been typed.
+        EndEdits();
+        command->run(*this);
+    }
+}
+
+void MainWindow::MustKnow(const QString &word) {
+    if (!word.isEmpty() && Find(word) == nullptr) {
+        qFatal("There is no command %s.", qUtf8Printable(word));
+    }
+}
+
 void MainWindow::AddMenuHandlers() {
-    const auto run = [this](const MenuItem &item, const QString &word) {
-        connect(&item, &MenuItem::Action, this, [this, word] { MenuAction(word); });
+    for (int place = 0; place < menuBar.Count(); ++place) {
+        MenuItem &menu = menuBar.Item(place);
+        for (int entry = 0; entry < menu.Count(); ++entry) {
+            AddMenuHandler(menu.Item(entry));
+        }
+    }
+    const auto run = [this](const MenuItem &item, const std::function<void()> &handler) {
+        connect(&item, &MenuItem::Action, this, handler);
     };
-    run(menuBar.DataMenu().Child(u"NewSaleItem"), u"new"_s);
-    run(menuBar.DataMenu().Child(u"EditItem"), u"edit"_s);
-    run(menuBar.DataMenu().Child(u"CopyItem"), u"copy"_s);
-    run(menuBar.DataMenu().Child(u"DeleteItem"), u"delete"_s);
-    run(menuBar.FileMenu().Child(u"FilePrint"), u"print"_s);
-    run(menuBar.FileMenu().Child(u"FileExport"), u"export"_s);
-    run(menuBar.FileMenu().Child(u"FilePreferences"), u"preferences"_s);
-    run(menuBar.FileMenu().Child(u"AboutItem"), u"about"_s);
-    connect(&menuBar.FileMenu().Child(u"FileOpen"), &MenuItem::Action, this,
-            &MainWindow::FileOpen_Action);
-    const auto show = [this](const MenuItem &item, const QString &address) {
-        connect(&item, &MenuItem::Action, this,
-                [this, address] { app_.GetDesktop().ShowURL(address); });
-    };
-    show(menuBar.HilfeMenu().Child(u"HomepageItem"), homepage);
-    show(menuBar.HilfeMenu().Child(u"SupportItem"), homepage + u"service-support/"_s);
-    connect(&menuBar.HilfeMenu().Child(u"QuickReferenceItem"), &MenuItem::Action, this,
-            [this] { app_.LaunchManual(); });
+    run(menuBar.FileMenu().Child(u"FileOpen"), [this] { FileOpen_Action(); });
+    run(menuBar.HilfeMenu().Child(u"HomepageItem"),
+        [this] { app_.GetDesktop().ShowURL(homepage); });
+    run(menuBar.HilfeMenu().Child(u"SupportItem"),
+        [this] { app_.GetDesktop().ShowURL(homepage + u"service-support/"_s); });
+    run(menuBar.HilfeMenu().Child(u"QuickReferenceItem"), [this] { app_.LaunchManual(); });
+}
+
+void MainWindow::AddMenuHandler(const MenuItem &item) {
+    MustKnow(item.Word());
+    if (!item.Word().isEmpty()) {
+        connect(&item, &MenuItem::Action, this, [this, word = item.Word()] { MenuAction(word); });
+    }
 }
 
 void MainWindow::Event_Open() {
     HideMenuEntries();
     Event_EnableMenuItems();
-    {
-        const Selectors::Hold oneRefresh(selectors);
+    selectors.ChangeTogether([this] {
         entryRow.NewSale();
         selectors.LoadMonths();
-    }
+    });
     companyProfile.LoadFields();
     entryRow.DateField.SetFocus();
 }
@@ -84,33 +123,8 @@ void MainWindow::Event_EnableMenuItems() {
     }
 }
 
-void MainWindow::MenuAction(const QString &word) {
-    // A command works on what has been typed.
-    EndEdits();
-    if (SameText(word, u"new")) {
-        entryRow.NewSale();
-    } else if (SameText(word, u"edit")) {
-        entryRow.EditSale(EntryRow::EditMode::Change);
-    } else if (SameText(word, u"copy")) {
-        entryRow.EditSale(EntryRow::EditMode::Copy);
-    } else if (SameText(word, u"delete")) {
-        entryRow.DeleteSale();
-    } else if (SameText(word, u"print")) {
-        selectors.GetMissing();
-        cashReport.Print();
-    } else if (SameText(word, u"export")) {
-        Export();
-    } else if (SameText(word, u"preferences")) {
-        EnterPreferences();
-    } else if (SameText(word, u"cashbook")) {
-        LeavePreferences();
-    } else if (SameText(word, u"about")) {
-        app_.GetDesktop().ShowAboutPanel();
-    }
-}
-
 void MainWindow::EnterPreferences() {
-    PagePanel1.SetValue(1);
+    PagePanel1.SetValue(PreferencesPage);
     companyProfile.LoadFields();
     cashBooks.LoadCashBook();
     bookingAccounts.LoadCashAccounts();
@@ -118,12 +132,17 @@ void MainWindow::EnterPreferences() {
 }
 
 void MainWindow::LeavePreferences() {
-    PagePanel1.SetValue(0);
+    PagePanel1.SetValue(JournalPage);
     selectors.GetCashbooks();
     MainWindowToolbar.Item(MainToolbar::PreferencesButton).SetCaption(u"Einstellungen"_s);
     if (companyProfile.RecordChange()) {
         companyProfile.SaveFields();
     }
+}
+
+void MainWindow::Print() {
+    selectors.GetMissing();
+    cashReport.Print();
 }
 
 void MainWindow::Export() {
@@ -148,16 +167,9 @@ void MainWindow::EnableRowCommands(bool enabled) {
 }
 
 void MainWindow::MainWindowToolbar_Action(const ToolItem &item) {
-    const QString pageFlip = PagePanel1.Value() != 0 ? u"cashbook"_s : u"preferences"_s;
-    const std::pair<QStringView, QString> words[] = {
-        {u"NewButton", u"new"_s},     {u"EditButton", u"edit"_s},
-        {u"CopyButton", u"copy"_s},   {u"DeleteButton", u"delete"_s},
-        {u"PrintButton", u"print"_s}, {u"PreferencesButton", pageFlip}};
-    for (const auto &[name, word] : words) {
-        if (SameText(item.objectName(), name)) {
-            MenuAction(word);
-        }
-    }
+    // The button that leads to the preferences leads back from there.
+    const bool back = item.Word() == u"preferences"_s && PagePanel1.Value() != JournalPage;
+    MenuAction(back ? u"cashbook"_s : item.Word());
 }
 
 void MainWindow::FileOpen_Action() {

@@ -18,11 +18,15 @@
 class App;
 
 /// The one document window: it puts the rooms together, opens and closes them, and routes the
-/// commands. Page 0 is the journal, page 1 the preferences.
+/// commands.
 class MainWindow : public QObject {
     Q_OBJECT
 
 public:
+    /// The pages of PagePanel1.
+    enum Page { JournalPage, PreferencesPage };
+
+    /// An entry of menuBar or MainWindowToolbar with a word that is no command ends the program.
     explicit MainWindow(App &app);
 
     Selectors selectors;
@@ -58,10 +62,21 @@ public:
     bool MenuItemEnable() const { return menuItemEnable_; }
 
 private:
+    struct Command {
+        QStringView word;
+        void (*run)(MainWindow &at);
+    };
+    static const Command commands[];
+
+    /// Nothing for a word that is no command.
+    static const Command *Find(const QString &word);
+    static void MustKnow(const QString &word);
     void AddMenuHandlers();
+    void AddMenuHandler(const MenuItem &item);
     void HideMenuEntries();
     void EnterPreferences();
     void LeavePreferences();
+    void Print();
     void Export();
     void EndEdits();
     void EnableRowCommands(bool enabled);

@@ -53,7 +53,7 @@ TEST_F(CashReportTest, EndsAPageAfterItsLastLine) {
         book.Run(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %1) "
                  "INSERT INTO cash_journal (vdate, type, amount, tax, cashbookID) "
                  "SELECT '2026-01-01', 'E', 1, '3', 1 FROM n WHERE i <= %1"_s.arg(count));
-        window.balances.Refresh();
+        window.journal.Reload();
         const QStringList drawn = Print();
         const QStringList rows = drawn.filter(u" 01.01.2026"_s);
         EXPECT_EQ(rows.size(), count);

@@ -29,21 +29,7 @@ RecordSet::RecordSet(std::unique_ptr<Statement> statement, bool hasRow)
 void RecordSet::MoveNext() {
     if (hasRow_) {
         hasRow_ = statement_->Step();
-        ++row_;
     }
-}
-
-int RecordSet::RecordCount() {
-    int count = row_;
-    while (hasRow_) {
-        hasRow_ = statement_->Step();
-        ++count;
-    }
-    statement_->Reset();
-    for (int row = 0; row <= row_; ++row) {
-        hasRow_ = statement_->Step();
-    }
-    return count;
 }
 
 DatabaseField RecordSet::Field(QAnyStringView name) {

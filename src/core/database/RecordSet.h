@@ -22,9 +22,6 @@ public:
     /// Whether the rows have been walked to their end.
     bool AtEnd() const { return !hasRow_; }
     void MoveNext();
-    /// The number of all rows. Runs the query once more to count them, then returns to its row.
-    int RecordCount();
-
     /// A column by name. One that the query lacks reads as empty, and lets Update fail.
     DatabaseField Field(QAnyStringView name);
     /// A column by position, from 1.
@@ -56,5 +53,4 @@ private:
     std::vector<Column> columns_;
     std::map<int, QString> changes_;
     bool hasRow_;
-    int row_ = 0;
 };

@@ -44,8 +44,6 @@ ComboBoxView::ComboBoxView(ComboBox &combo, QWidget *parent) : QComboBox(parent)
     OfferCompletions();
     ShowCombo();
     connect(&combo, &ComboBox::Updated, this, &ComboBoxView::ShowCombo);
-    // The first row added would be taken for the selected one.
-    connect(combo.Rows(), &QAbstractItemModel::rowsInserted, this, &ComboBoxView::ShowCombo);
     connect(this, &QComboBox::activated, &combo, &ComboBox::SetListIndex);
     connect(lineEdit(), &QLineEdit::textEdited, &combo, &ComboBox::SetText);
 }

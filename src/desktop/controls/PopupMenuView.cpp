@@ -10,7 +10,5 @@ PopupMenuView::PopupMenuView(PopupMenu &menu, QWidget *parent) : QComboBox(paren
     const auto show = [this, &menu] { setCurrentIndex(menu.ListIndex()); };
     show();
     connect(&menu, &PopupMenu::Updated, this, show);
-    // The first row added would be taken for the selected one.
-    connect(menu.Rows(), &QAbstractItemModel::rowsInserted, this, show);
     connect(this, &QComboBox::activated, &menu, &PopupMenu::SetListIndex);
 }

@@ -49,13 +49,14 @@ void CellModel::EndRefill() {
     }
 }
 
-void CellModel::RemoveRows() {
-    for (Column &column : columns_) {
-        column.cells.clear();
-        column.tags.clear();
-        column.checks.clear();
+void CellModel::TakeRows(Rows rows) {
+    rowTags_ = std::move(rows.tags);
+    for (size_t column = 0; column < columns_.size(); ++column) {
+        columns_[column].cells = std::move(rows.cells[column]);
+        columns_[column].cells.resize(rowTags_.size());
+        columns_[column].tags = std::move(rows.cellTags[column]);
+        columns_[column].checks.clear();
     }
-    rowTags_.clear();
 }
 
 void CellModel::ReorderRows(const std::vector<int> &order) {
@@ -84,7 +85,7 @@ void CellModel::AddRow(const QString &text) {
 
 QString CellModel::Cell(int row, int column) const {
     if (row >= 0) {
-        const bool stands = Has(row) && column < ColumnCount();
+        const bool stands = Has(row) && column < ColumnCount(); // -1 stands for all.
         return !stands      ? QString()
                : column < 0 ? JoinedCells(row)
                             : ColumnAt(column).cells[static_cast<size_t>(row)];
@@ -115,13 +116,16 @@ void CellModel::ShowCell(int row, int column) {
 }
 
 void CellModel::SetCell(int row, int column, const QString &text) {
-    if (Has(row)) {
+    if (Has(row, column)) {
         ColumnAt(column).cells[static_cast<size_t>(row)] = text;
         ShowCell(row, column);
     }
 }
 
 void CellModel::SetColumn(int column, std::vector<QString> texts) {
+    if (!HasColumn(column)) {
+        return;
+    }
     texts.resize(rowTags_.size());
     ColumnAt(column).cells = std::move(texts);
     if (!IsRefilling() && ListCount() > 0) {
@@ -130,12 +134,12 @@ void CellModel::SetColumn(int column, std::vector<QString> texts) {
 }
 
 bool CellModel::CellCheck(int row, int column) const {
-    return Has(row) && HasColumn(column) && Reaches(ColumnAt(column).checks, row) &&
+    return Has(row, column) && Reaches(ColumnAt(column).checks, row) &&
            ColumnAt(column).checks[static_cast<size_t>(row)];
 }
 
 void CellModel::SetCellCheck(int row, int column, bool checked) {
-    if (Has(row)) {
+    if (Has(row, column)) {
         *Place(ColumnAt(column).checks, row) = checked;
         ShowCell(row, column);
     }
@@ -143,15 +147,9 @@ void CellModel::SetCellCheck(int row, int column, bool checked) {
 
 const CellModel::Tag &CellModel::CellTag(int row, int column) const {
     static const Tag none;
-    return Has(row) && HasColumn(column) && Reaches(ColumnAt(column).tags, row)
+    return Has(row, column) && Reaches(ColumnAt(column).tags, row)
                ? ColumnAt(column).tags[static_cast<size_t>(row)]
                : none;
-}
-
-void CellModel::SetCellTag(int row, int column, Tag tag) {
-    if (Has(row)) {
-        *Place(ColumnAt(column).tags, row) = std::move(tag);
-    }
 }
 
 QString CellModel::RowTag(int row) const {
@@ -170,7 +168,15 @@ int CellModel::FindRow(const QString &tag) const {
 }
 
 void CellModel::SetColumnAlignment(int column, Alignment alignment) {
-    ColumnAt(column).alignment = alignment;
+    if (HasColumn(column)) {
+        ColumnAt(column).alignment = alignment;
+    }
+}
+
+void CellModel::SetColumnType(int column, ColumnType type) {
+    if (HasColumn(column)) {
+        ColumnAt(column).type = type;
+    }
 }
 
 QString CellModel::Heading(int column) const {
@@ -186,8 +192,10 @@ QString CellModel::Heading(int column) const {
 }
 
 void CellModel::SetHeading(int column, const QString &text) {
-    ColumnAt(column).heading = text;
-    Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
+    if (HasColumn(column)) {
+        ColumnAt(column).heading = text;
+        Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
+    }
 }
 
 int CellModel::rowCount(const QModelIndex &parent) const {

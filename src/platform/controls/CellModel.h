@@ -9,7 +9,7 @@
 #include <vector>
 
 /// The rows and columns of a list: what stands in the cells and over them. Rows and columns count
-/// from 0, -1 is none; outside the list cells and tags read as empty.
+/// from 0, -1 is none; outside the list cells and tags read as empty, and nothing can be written.
 class CellModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -18,6 +18,18 @@ public:
     using Tag = std::variant<std::monostate, QString, Date>;
     enum class Alignment { Default = 0, Right = 3 };
     enum class ColumnType { Default = 0, CheckBox = 2 };
+
+    /// Whole rows, column by column. A column of cells or tags that is too short reads as empty
+    /// beyond its end.
+    struct Rows {
+        explicit Rows(int columnCount)
+            : cells(static_cast<size_t>(columnCount)), cellTags(static_cast<size_t>(columnCount)) {}
+
+        /// One for each row.
+        std::vector<QString> tags;
+        std::vector<std::vector<QString>> cells;
+        std::vector<std::vector<Tag>> cellTags;
+    };
 
     explicit CellModel(int columnCount) : columns_(static_cast<size_t>(columnCount)) {}
 
@@ -35,7 +47,6 @@ public:
     bool CellCheck(int row, int column) const;
     void SetCellCheck(int row, int column, bool checked);
     const Tag &CellTag(int row, int column) const;
-    void SetCellTag(int row, int column, Tag tag);
     QString RowTag(int row) const;
     void SetRowTag(int row, const QString &tag);
     /// The first row with the tag, -1 if there is none.
@@ -43,9 +54,11 @@ public:
 
     int ColumnCount() const { return static_cast<int>(columns_.size()); }
     void SetColumnAlignment(int column, Alignment alignment);
-    ColumnType TypeOfColumn(int column) const { return ColumnAt(column).type; }
+    ColumnType TypeOfColumn(int column) const {
+        return HasColumn(column) ? ColumnAt(column).type : ColumnType::Default;
+    }
     /// A check box column shows a box in each cell, and no text.
-    void SetColumnType(int column, ColumnType type) { ColumnAt(column).type = type; }
+    void SetColumnType(int column, ColumnType type);
     bool HasHeading() const { return hasHeading_; }
     /// To be set before the list shows.
     void SetHasHeading(bool hasHeading) { hasHeading_ = hasHeading; }
@@ -60,6 +73,7 @@ public:
 
 protected:
     bool Has(int row) const { return row >= 0 && row < ListCount(); }
+    bool Has(int row, int column) const { return Has(row) && HasColumn(column); }
     bool HasColumn(int column) const { return column >= 0 && column < ColumnCount(); }
 
     /// Between the outermost of these calls the view waits, and is then shown all rows anew.
@@ -67,7 +81,7 @@ protected:
     void EndRefill();
     bool IsRefilling() const { return refills_ > 0; }
     /// Both only in a refill.
-    void RemoveRows();
+    void TakeRows(Rows rows);
     /// Puts the row of the first index first, and so on; each index stands once.
     void ReorderRows(const std::vector<int> &order);
 

@@ -6,26 +6,25 @@
 #include <numeric>
 #include <utility>
 
-Listbox::Refill::Refill(Listbox &list) : list_(list) {
-    list_.LeaveCell();
-    list_.BeginRefill();
-}
-
-Listbox::Refill::~Refill() {
-    list_.EndRefill();
-    if (!list_.IsRefilling()) {
-        Q_EMIT list_.SelectionMoved();
-    }
-}
-
 Listbox::Listbox(const QString &name, int columnCount) : CellModel(columnCount) {
     setObjectName(name);
 }
 
-void Listbox::DeleteAllRows() {
-    const Refill refill(*this);
-    RemoveRows();
-    listIndex_ = -1;
+void Listbox::Refill(const std::function<void()> &fill) {
+    LeaveCell();
+    BeginRefill();
+    fill();
+    EndRefill();
+    if (!IsRefilling()) {
+        Q_EMIT SelectionMoved();
+    }
+}
+
+void Listbox::SetRows(Rows rows) {
+    Refill([this, &rows] {
+        TakeRows(std::move(rows));
+        listIndex_ = -1;
+    });
 }
 
 void Listbox::SetListIndex(int row) {
@@ -78,10 +77,11 @@ void Listbox::Sort() {
         return;
     }
     std::stable_sort(order.begin(), order.end(), less);
-    const Refill refill(*this);
-    ReorderRows(order);
-    const auto selected = std::find(order.begin(), order.end(), listIndex_);
-    listIndex_ = selected == order.end() ? -1 : static_cast<int>(selected - order.begin());
+    Refill([this, &order] {
+        ReorderRows(order);
+        const auto selected = std::find(order.begin(), order.end(), listIndex_);
+        listIndex_ = selected == order.end() ? -1 : static_cast<int>(selected - order.begin());
+    });
 }
 
 void Listbox::PressHeading(int column) {
@@ -92,11 +92,11 @@ void Listbox::PressHeading(int column) {
 }
 
 bool Listbox::IsCheckBox(int row, int column) const {
-    return Has(row) && HasColumn(column) && TypeOfColumn(column) == ColumnType::CheckBox;
+    return Has(row) && TypeOfColumn(column) == ColumnType::CheckBox;
 }
 
 bool Listbox::CanEdit(int row, int column) const {
-    return Has(row) && HasColumn(column) && !IsCheckBox(row, column) && !IsRefilling();
+    return Has(row, column) && !IsCheckBox(row, column) && !IsRefilling();
 }
 
 void Listbox::EditCell(int row, int column) {

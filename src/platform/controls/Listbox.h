@@ -3,6 +3,8 @@
 #include "platform/controls/CellModel.h"
 #include "platform/drawing/Graphics.h"
 
+#include <functional>
+
 class MenuItem;
 
 /// A list of rows, at most one of them selected and at most one cell open for typing. It is the
@@ -16,21 +18,12 @@ class Listbox : public CellModel {
 public:
     Listbox(const QString &name, int columnCount);
 
-    /// While it lives, the view waits: rows may be deleted and added, and are shown as a whole
-    /// after.
-    class Refill {
-    public:
-        explicit Refill(Listbox &list);
-        ~Refill();
-        Refill(const Refill &) = delete;
-        Refill &operator=(const Refill &) = delete;
+    /// Lets the view wait while rows are deleted and added, and then shows them as a whole.
+    void Refill(const std::function<void()> &fill);
 
-    private:
-        Listbox &list_;
-    };
-
-    /// Leaves no rows and no selection.
-    void DeleteAllRows();
+    /// Puts these in the place of all rows, and leaves no selection.
+    void SetRows(Rows rows);
+    void DeleteAllRows() { SetRows(Rows(ColumnCount())); }
 
     int ListIndex() const { return listIndex_; }
     void SetListIndex(int row);
@@ -102,7 +95,7 @@ Q_SIGNALS:
     void ConstructContextualMenu(MenuItem &base);
     void ContextualMenuAction(const MenuItem &chosen);
 
-    /// For the view: the selected row is another. Follows every end of a Refill too.
+    /// For the view: the selected row is another. Follows every Refill too.
     void SelectionMoved();
     /// For the view: bring the row into view.
     void ScrollRequested(int row);

@@ -6,7 +6,8 @@
 
 MenuItem::MenuItem(const Properties &properties)
     : text_(properties.text.toString()), keyboardShortcut_(properties.keyboardShortcut.toString()),
-      kind_(properties.kind), autoEnable_(properties.autoEnable) {
+      word_(properties.word.toString()), kind_(properties.kind),
+      autoEnable_(properties.autoEnable) {
     setObjectName(properties.name);
 }
 
@@ -33,6 +34,9 @@ MenuItem &MenuItem::Child(QStringView name) {
     const auto found = std::find_if(items_.begin(), items_.end(), [name](const auto &item) {
         return item->objectName() == name;
     });
-    Q_ASSERT(found != items_.end());
+    if (found == items_.end()) {
+        qFatal("There is no entry %s in the menu %s.", qUtf8Printable(name.toString()),
+               qUtf8Printable(objectName()));
+    }
     return **found;
 }

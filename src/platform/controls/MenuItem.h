@@ -17,8 +17,10 @@ public:
         QStringView name;
         /// With an ampersand before the mnemonic letter; "-" is a separator.
         QStringView text;
-        /// A letter behind "Cmd+", the platform's command key.
+        /// A letter after "Cmd+", the platform's command key.
         QStringView keyboardShortcut = {};
+        /// The command that it runs, empty for none of the window's.
+        QStringView word = {};
         Kind kind = Kind::Plain;
         bool autoEnable = true;
     };
@@ -28,6 +30,7 @@ public:
 
     QString Text() const { return text_; }
     QString KeyboardShortcut() const { return keyboardShortcut_; }
+    QString Word() const { return word_; }
     Kind ItemKind() const { return kind_; }
 
     /// With autoEnable it is enabled while somebody is connected to its Action, without it as it
@@ -42,7 +45,8 @@ public:
     int Count() const { return static_cast<int>(items_.size()); }
     MenuItem &Item(int index) { return *items_[static_cast<size_t>(index)]; }
     const MenuItem &Item(int index) const { return *items_[static_cast<size_t>(index)]; }
-    /// The entry of that name under this one, which must be there.
+    /// The entry of that name under this one. Without it the program ends, and says what is
+    /// missing.
     MenuItem &Child(QStringView name);
 
 Q_SIGNALS:
@@ -54,6 +58,7 @@ Q_SIGNALS:
 private:
     QString text_;
     QString keyboardShortcut_;
+    QString word_;
     Kind kind_ = Kind::Plain;
     bool autoEnable_ = true;
     bool enabled_ = false;

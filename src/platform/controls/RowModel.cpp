@@ -20,9 +20,9 @@ void RowModel::Append(const QString &text) {
     endInsertRows();
 }
 
-void RowModel::Clear() {
+void RowModel::SetRows(std::vector<Row> rows) {
     beginResetModel();
-    rows_.clear();
+    rows_ = std::move(rows);
     endResetModel();
 }
 

@@ -10,23 +10,24 @@ class RowModel : public QAbstractListModel {
     Q_OBJECT
 
 public:
+    struct Row {
+        QString text;
+        QString tag;
+    };
+
     int Count() const { return static_cast<int>(rows_.size()); }
     /// Empty for an index outside the list; so is Tag.
     QString Text(int row) const;
     QString Tag(int row) const;
     void SetTag(int row, const QString &tag);
     void Append(const QString &text);
-    void Clear();
+    /// Puts these in the place of all rows, in one change for the view.
+    void SetRows(std::vector<Row> rows);
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
 
 private:
-    struct Row {
-        QString text;
-        QString tag;
-    };
-
     bool Has(int row) const { return row >= 0 && row < Count(); }
 
     std::vector<Row> rows_;

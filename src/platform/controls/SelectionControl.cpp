@@ -1,7 +1,14 @@
 #include "platform/controls/SelectionControl.h"
 
-void SelectionControl::DeleteAllRows() {
-    rows_.Clear();
+#include <utility>
+
+void SelectionControl::AddRow(const QString &text) {
+    rows_.Append(text);
+    Q_EMIT Updated();
+}
+
+void SelectionControl::SetRows(std::vector<Row> rows) {
+    rows_.SetRows(std::move(rows));
     ForgetSelection();
     Q_EMIT Updated();
 }

@@ -8,10 +8,13 @@ class SelectionControl : public Control {
     Q_OBJECT
 
 public:
-    void AddRow(const QString &text) { rows_.Append(text); }
-    /// Leaves no rows, ListIndex -1 and Text empty. A pop-up menu fires nothing, a combo box
-    /// TextChanged if it had a text.
-    void DeleteAllRows();
+    using Row = RowModel::Row;
+
+    void AddRow(const QString &text);
+    /// Puts these in the place of all rows, at once, and leaves ListIndex -1 and Text empty. A
+    /// pop-up menu fires nothing, a combo box TextChanged if it had a text.
+    void SetRows(std::vector<Row> rows);
+    void DeleteAllRows() { SetRows({}); }
 
     int ListCount() const { return rows_.Count(); }
     /// The selected row, -1 for none.

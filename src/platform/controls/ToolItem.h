@@ -13,6 +13,8 @@ public:
         QStringView name;
         QStringView caption = u"Untitled";
         QStringView icon = {};
+        /// The command that it runs, empty for what is no button.
+        QStringView word = {};
         Style style = Style::PushButton;
         bool enabled = true;
     };
@@ -24,6 +26,7 @@ public:
     void SetCaption(const QString &caption);
     /// The file name of its picture among the program's resources.
     QString Icon() const { return icon_; }
+    QString Word() const { return word_; }
 
 Q_SIGNALS:
     void Action();
@@ -32,4 +35,5 @@ private:
     Style style_;
     QString caption_;
     QString icon_;
+    QString word_;
 };

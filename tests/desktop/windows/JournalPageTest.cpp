@@ -207,7 +207,7 @@ TEST_F(JournalPageTest, ShowsTheNewBookingInALongListAndKeepsThePlaceThroughARel
     EXPECT_EQ(bookings.ListIndex(), 19999);
     list.verticalScrollBar()->setValue(12345);
     const int top = list.rowAt(0);
-    window.balances.Refresh();
+    window.journal.Reload();
     QApplication::processEvents();
     EXPECT_EQ(list.rowAt(0), top);
     EXPECT_FALSE(list.selectionModel()->hasSelection() || bookings.ListIndex() >= 0);
