@@ -62,7 +62,7 @@ std::string BookingsBefore(const std::string &month) {
 }
 
 void StepJournal(BareBook &book, const std::string &month) {
-    // The columns of a booking stand in the order of the table, the name of its tax behind them.
+    // The columns of a booking stand in the order of the table, the name of its tax after them.
     book.Step(BookingsOf(month), {0, 1, 2, 6, 7, 8, 9, 12, 13}, {5});
     book.Step(BookingsBefore(month), {2}, {5});
 }

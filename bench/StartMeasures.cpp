@@ -31,7 +31,7 @@ void Start(benchmark::State &state, const FakeDesktop &desktop, const QString &p
     }
 }
 
-/// The program, and an empty window on the same file behind these statements.
+/// The program, and an empty window on the same file after these statements.
 Measure StartOf(const std::string &name, const LargeBook &book, const QStringList &statements) {
     const FakeDesktop &desktop = book.book.desktop;
     const QStringList arguments =

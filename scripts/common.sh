@@ -23,9 +23,9 @@ install_missing() {
         apt-get install -y -q --no-install-recommends "${missing[@]}"
 }
 
-# Ninja configures anew by itself when a CMake file has changed.
+# Ninja configures anew by itself when a CMake file has changed, but not for the presets.
 build() {
     local preset=$1
-    [ -e "$top/build/$preset/build.ninja" ] || (cd "$top" && cmake --preset "$preset")
+    [ "$top/build/$preset/build.ninja" -nt "$top/CMakePresets.json" ] || (cd "$top" && cmake --preset "$preset")
     cmake --build "$top/build/$preset"
 }

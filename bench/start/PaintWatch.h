@@ -18,7 +18,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override {
         if (event->type() == QEvent::Paint && watched->objectName() == window_) {
             QCoreApplication::instance()->removeEventFilter(this);
-            // The widgets in the window are painted behind it, before the next event.
+            // The widgets in the window are painted after it, before the next event.
             QTimer::singleShot(0, this, [] {
                 std::puts("painted");
                 std::fflush(stdout);

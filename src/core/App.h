@@ -30,10 +30,10 @@ public:
     void LaunchManual() const { desktop_.Launch(Resource(QStringLiteral("Zolmark.pdf"))); }
 
     /// Prepares the default file with its key; false when there is no such file. Opens nothing.
-    bool DBLoad();
+    [[nodiscard]] bool DBLoad();
     /// Lets the user choose a file, without a key; false when there is none, and the database in
     /// use stays. Opens nothing.
-    bool DBLoad1();
+    [[nodiscard]] bool DBLoad1();
     /// Opens what a load step has prepared; tells the user when that fails.
     void Connect();
 

@@ -31,3 +31,7 @@ QString ChartSKR03SQL() {
 QString ChartSKR04SQL() {
     return Script(u"ChartSKR04.sql"_s);
 }
+
+QString SampleBookSQL(int year) {
+    return Script(u"SampleBook.sql"_s).replace(u"{year}"_s, QString::number(year));
+}

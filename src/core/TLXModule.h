@@ -17,7 +17,7 @@ QString PadAmount8(const QString &text);
 /// Of a SQL date: the four digits of the year, and the month from 1.
 QString SQLDateYear(const QString &sqlDate);
 int SQLDateMonth(const QString &sqlDate);
-/// DD.MM.YYYY of a SQL date; what stands behind the date stays.
+/// DD.MM.YYYY of a SQL date; what follows the date stays.
 QString DateSQL2German(const QString &text);
 
 struct MonthTag {

@@ -57,7 +57,7 @@ private:
     void SubmitButton_Action();
     void ChangeButton_Action();
 
-    bool CheckFields();
+    [[nodiscard]] bool CheckFields();
     bool DateIsBeforeOpening();
     /// "E" with a receipt in the row, "A" with an expense, empty without an amount.
     QString Side() const;

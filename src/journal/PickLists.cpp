@@ -34,7 +34,7 @@ void PickLists::LoadRows(const QString &sql, QLatin1StringView tagColumn, const 
     }
     // A damaged page shows only on the way.
     side = database.Error() ? QString() : type;
-    // The database sorts an umlaut behind all letters.
+    // The database sorts an umlaut after all letters.
     std::stable_sort(rows.begin(), rows.end(),
                      [](const auto &a, const auto &b) { return CompareTexts(a.text, b.text) < 0; });
     list.SetRows(std::move(rows));

@@ -22,7 +22,7 @@ public:
     PopupMenu YearPopup;
     PopupMenu MonthPopup;
 
-    /// Makes several changes. RefreshJournal is fired once behind them, if any of them asked.
+    /// Makes several changes. RefreshJournal is fired once after them, if any of them asked.
     void ChangeTogether(const std::function<void()> &changes);
 
     /// Rebuild their selector from the database and select what stands at the remembered position,
@@ -37,7 +37,7 @@ public:
     /// Selects year and month of the date. A year that is not in the list leaves the year.
     void ShowPeriod(const Date &date);
 
-    /// "cashbookID = '...'", for behind a WHERE or an AND. The first row stands for the main cash
+    /// "cashbookID = '...'", to follow a WHERE or an AND. The first row stands for the main cash
     /// book, whatever its tag says.
     QString CashbookCondition() const;
     /// The same, and the selected year.

@@ -4,7 +4,6 @@
 #include "core/Scripts.h"
 #include "core/TLXModule.h"
 #include "platform/values/Text.h"
-#include "setup/SampleBook.h"
 
 #include <QUuid>
 

@@ -77,8 +77,8 @@ private:
     void DrawPicture(Canvas &canvas, const QString &name);
     QString ClosingSQL() const;
     /// Makes the whole book in a file, and closes it; false after a failure, which has been told.
-    bool MakeBook(const FolderItem &file);
-    bool BuildBook(const QString &chart, const QString &closingSQL);
+    [[nodiscard]] bool MakeBook(const FolderItem &file);
+    [[nodiscard]] bool BuildBook(const QString &chart, const QString &closingSQL);
 
     App &app_;
 };

@@ -16,7 +16,7 @@ protected:
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         return file.readAll();
     }
-    /// Cuts the bytes, also behind a page, writes others over them, or flips one bit.
+    /// Cuts the bytes, also after a page, writes others over them, or flips one bit.
     QByteArray Damaged(QByteArray bytes) {
         const qsizetype place = Any(int(bytes.size()));
         const QByteArray other(1 + Any(3000), char(Any(256)));

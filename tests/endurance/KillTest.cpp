@@ -12,7 +12,7 @@ namespace {
 class Kill : public Endurance {
 protected:
     /// Books, changes and deletes until somebody ends it, or a message comes. Tells the lines that
-    /// the book is to hold after a step, behind "?" when it begins and behind "!" when it is done.
+    /// the book is to hold after a step, after "?" when it begins and after "!" when it is done.
     void Work(int pipe) {
         Program program(desktop);
         Listbox &list = program.window->journal.CashList;

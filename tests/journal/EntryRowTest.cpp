@@ -67,7 +67,7 @@ TEST_F(EntryRowTest, SaysTheLastThingThatIsMissingAndSavesNothing) {
         {u"1.1."_s, u"1"_s, u"KEINE"_s, {}, u"Bitte Art der Einnahme/Ausgabe auswählen!"_s},
         {u"31.02."_s, u"1"_s, u"KEINE"_s, u"frei"_s, u"Bitte das Datum prüfen!"_s}};
     for (const auto &[date, amount, taxText, account, message] : cases) {
-        row.DateField.SetTyped(date);
+        EXPECT_EQ(row.DateField.SetTyped(date), date != u"31.02."_s);
         row.InputField.SetText(amount);
         tax.SetText(taxText);
         category.SetText(account);

@@ -5,7 +5,7 @@
 #include <QStringList>
 
 /// A surface that writes down what is drawn on it: "line 0 0 10 0", "fill 0 1 10 9", or a text
-/// behind its place, "40 270 Endbestand". What differs in its look from the step before has the
+/// after its place, "40 270 Endbestand". What differs in its look from the step before has the
 /// look in front: "333333 line 0 0 10 0", "333333 Courier 10 bold 40 270 Endbestand". A line of
 /// text is two points higher than its font, and in the bold face four.
 class DrawingRecorder : public PrinterGraphics {

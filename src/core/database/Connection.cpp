@@ -70,14 +70,14 @@ bool Connection::Note(int resultCode) {
 
 int Connection::WaitForLock(void *connection, int attempts) {
     auto &self = *static_cast<Connection *>(connection);
-    if (!self.restBehindWait_.hasExpired()) {
+    if (!self.restAfterWait_.hasExpired()) {
         return 0;
     }
     if (attempts == 0) {
         self.lockWait_.setRemainingTime(lockTimeoutMs);
     }
     if (self.lockWait_.hasExpired()) {
-        self.restBehindWait_.setRemainingTime(lockTimeoutMs);
+        self.restAfterWait_.setRemainingTime(lockTimeoutMs);
         return 0;
     }
     QThread::msleep(lockPollMs);

@@ -12,7 +12,7 @@ struct sqlite3;
 /// database object and by all statements and record sets that came from it, and closes with the
 /// last.
 ///
-/// A file that another program has locked is waited for up to 5 s. Behind a wait in vain nothing
+/// A file that another program has locked is waited for up to 5 s. After a wait in vain nothing
 /// waits for as long again: one command runs many statements, and the user waits but once.
 class Connection {
 public:
@@ -28,13 +28,13 @@ public:
     sqlite3 *Handle() const { return handle_.get(); }
 
     /// Runs one statement or a script, up to its first failing statement.
-    bool Execute(const QByteArray &sql);
+    [[nodiscard]] bool Execute(const QByteArray &sql);
     qint64 LastRowID() const;
     /// Rows changed by the last INSERT, UPDATE or DELETE.
     int Changes() const;
 
     /// Keeps the outcome of a call of the library; true for a success.
-    bool Note(int resultCode);
+    [[nodiscard]] bool Note(int resultCode);
     /// An outcome that no call of the library gave; a null text is a success.
     void NoteFailure(const QString &message);
     bool Error() const { return !message_.isNull(); }
@@ -53,6 +53,6 @@ private:
     std::unique_ptr<sqlite3, Closer> handle_;
     QString message_;
     QDeadlineTimer lockWait_;
-    QDeadlineTimer restBehindWait_;
-    bool open_ = false; // Behind what opening writes to.
+    QDeadlineTimer restAfterWait_;
+    bool open_ = false; // After what opening writes to.
 };

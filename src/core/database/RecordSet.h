@@ -14,7 +14,7 @@
 /// the query when it is let go. A failure on the way ends the rows and sets the database's Error.
 class RecordSet {
 public:
-    /// Takes a statement that stands on its first row, or behind its last.
+    /// Takes a statement that stands on its first row, or after its last.
     RecordSet(std::unique_ptr<Statement> statement, bool hasRow);
     RecordSet(const RecordSet &) = delete;
     RecordSet &operator=(const RecordSet &) = delete;

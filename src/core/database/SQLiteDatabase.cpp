@@ -42,7 +42,8 @@ bool SQLiteDatabase::Open(bool create) {
 
 void SQLiteDatabase::SQLExecute(const QString &sql) {
     if (connection_ && connection_->IsOpen()) {
-        connection_->Execute(sql.toUtf8());
+        // The outcome stands in Error.
+        static_cast<void>(connection_->Execute(sql.toUtf8()));
     }
 }
 

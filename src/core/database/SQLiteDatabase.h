@@ -31,10 +31,10 @@ public:
     void SetEncryptionKey(const QByteArray &key) { key_ = key; }
 
     /// Creates the file for its owner alone, and opens it. An existing file is opened as it is.
-    bool CreateDatabaseFile();
+    [[nodiscard]] bool CreateDatabaseFile();
     /// Opens the file, which must exist; true when the key fits and the file can be read. It
     /// creates no file, and changes none but to roll back what a crash has left half-written.
-    bool Connect();
+    [[nodiscard]] bool Connect();
 
     /// Runs a statement, or a script of several up to its first failing one.
     void SQLExecute(const QString &sql);

@@ -12,8 +12,9 @@ Statement::Statement(std::shared_ptr<Connection> connection, const QString &sql)
     : connection_(std::move(connection)) {
     const QByteArray text = sql.toUtf8();
     sqlite3_stmt *handle = nullptr;
-    connection_->Note(sqlite3_prepare_v2(connection_->Handle(), text.constData(),
-                                         static_cast<int>(text.size()), &handle, nullptr));
+    // A failure gives no handle.
+    static_cast<void>(connection_->Note(sqlite3_prepare_v2(
+        connection_->Handle(), text.constData(), static_cast<int>(text.size()), &handle, nullptr)));
     handle_.reset(handle);
 }
 
@@ -25,8 +26,7 @@ bool Statement::Bind(int parameter, const QString &text) {
 
 bool Statement::Step() {
     const int result = sqlite3_step(handle_.get());
-    connection_->Note(result);
-    return result == SQLITE_ROW;
+    return connection_->Note(result) && result == SQLITE_ROW;
 }
 
 void Statement::Reset() {

@@ -19,7 +19,7 @@ public:
     const std::shared_ptr<Connection> &Owner() const { return connection_; }
 
     /// Binds a parameter, from 0, as text.
-    bool Bind(int parameter, const QString &text);
+    [[nodiscard]] bool Bind(int parameter, const QString &text);
     /// True when there is a row to read; false at the end and on an error.
     bool Step();
     /// Back to before the first row; the bound values stay.

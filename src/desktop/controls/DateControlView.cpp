@@ -231,7 +231,8 @@ bool DateControlView::BelongsToText(int key) const {
 
 void DateControlView::OpenCalendar() {
     setFocus(Qt::OtherFocusReason);
-    control_.SetTyped(text());
+    // What is no day is dropped: the calendar shows the day that it begins from.
+    static_cast<void>(control_.SetTyped(text()));
     ShowDay();
     auto *calendar = new CalendarPopup(control_.DateValue().Day(), locale_.Locale(), this);
     connect(calendar, &CalendarPopup::Chosen, this,

@@ -32,7 +32,7 @@ private:
     /// At once, and whenever the mouse rests on the field; empty for none.
     void ShowTip(const QString &tip);
     /// Hands the typed text to the control; false if it had to be refused.
-    bool TakeTyped();
+    [[nodiscard]] bool TakeTyped();
     /// Hands the typed text to the control, or drops it.
     void Leave();
 

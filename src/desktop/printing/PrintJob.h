@@ -52,10 +52,10 @@ private:
     void AddShape(double bottom, const std::function<void(Graphics &)> &draw);
     std::vector<const Page *> PagesToPrint() const;
     /// All three give what has failed, nothing if all went well.
-    QString End() const noexcept;
-    QString Print() const;
-    QString PrintIntoFile() const;
-    bool PrintOn(QPagedPaintDevice &device) const;
+    [[nodiscard]] QString End() const noexcept;
+    [[nodiscard]] QString Print() const;
+    [[nodiscard]] QString PrintIntoFile() const;
+    [[nodiscard]] bool PrintOn(QPagedPaintDevice &device) const;
     void PrintPage(QPainter &painter, const Page &page) const;
 
     std::unique_ptr<QPrinter> printer_;

@@ -13,6 +13,7 @@
 #include "shell/MainWindow.h"
 
 #include <QAccessible>
+#include <QLabel>
 
 using namespace Qt::StringLiterals;
 
@@ -34,30 +35,30 @@ JournalPageView::JournalPageView(MainWindow &window, const UserLocale &locale, Q
 }
 
 void JournalPageView::AddEntryRow(EntryRow &row, const UserLocale &locale) {
-    AddCaption(u"CashLabel(6)"_s, u"Datum"_s, {20, 86, 80, 20});
-    Add(new DateControlView(row.DateField, locale, this), {20, 110, 108, 23});
-    AddCaption(u"CashLabel(5)"_s, u"Einnahme"_s, {141, 86, 62, 20});
-    AddAmountField(row.InputField, {141, 110, 60, 22});
-    AddCaption(u"CashLabel(4)"_s, u"Ausgabe"_s, {211, 86, 58, 20});
-    AddAmountField(row.OutputField, {211, 110, 60, 22});
-    AddCaption(u"CashLabel(3)"_s, u"Steuer"_s, {281, 86, 58, 20});
-    Add(new ComboBoxView(row.pickLists.TaxCombo, this), {281, 110, 80, 21});
+    AddText(u"CashLabel(6)"_s, u"Datum"_s, {20, 86, 80, 20})
+        ->setBuddy(Add(new DateControlView(row.DateField, locale, this), {20, 110, 108, 23}));
+    AddText(u"CashLabel(5)"_s, u"Einnahme"_s, {141, 86, 62, 20})
+        ->setBuddy(AddAmountField(row.InputField, {141, 110, 60, 22}));
+    AddText(u"CashLabel(4)"_s, u"Ausgabe"_s, {211, 86, 58, 20})
+        ->setBuddy(AddAmountField(row.OutputField, {211, 110, 60, 22}));
+    AddText(u"CashLabel(3)"_s, u"Steuer"_s, {281, 86, 58, 20})
+        ->setBuddy(Add(new ComboBoxView(row.pickLists.TaxCombo, this), {281, 110, 80, 21}));
     auto *kind = new LabelView(row.CategoryLabel, this);
     Add(kind, {370, 86, 148, 20});
     auto *category = new ComboBoxView(row.pickLists.CategoryCombo, this);
     Add(category, {370, 110, 169, 21});
     kind->setBuddy(category);
-    AddCaption(u"CashLabel(1)"_s, u"Beleg-Nr."_s, {552, 86, 60, 20});
-    Add(new TextFieldView(row.SaleNumberField, this), {552, 110, 60, 22});
-    AddCaption(u"CashLabel(0)"_s, u"Notiz"_s, {626, 86, 137, 20});
-    Add(new TextFieldView(row.NoteField, this), {626, 110, 277, 22}, LTR);
+    AddText(u"CashLabel(1)"_s, u"Beleg-Nr."_s, {552, 86, 60, 20})
+        ->setBuddy(Add(new TextFieldView(row.SaleNumberField, this), {552, 110, 60, 22}));
+    AddText(u"CashLabel(0)"_s, u"Notiz"_s, {626, 86, 137, 20})
+        ->setBuddy(Add(new TextFieldView(row.NoteField, this), {626, 110, 277, 22}, LTR));
 }
 
-void JournalPageView::AddAmountField(TextField &field, const QRect &place) {
+QWidget *JournalPageView::AddAmountField(TextField &field, const QRect &place) {
     auto *view = new AmountFieldView(field, this);
     view->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     view->setPlaceholderText(u"in €"_s);
-    Add(view, place);
+    return Add(view, place);
 }
 
 void JournalPageView::AddButtons(EntryRow &row) {
@@ -87,14 +88,14 @@ void JournalPageView::AddSelectors(MainWindow &window) {
     auto *frame = new Sheet({511, 40}, this);
     frame->setObjectName(u"YearRect"_s);
     frame->SetFrame(frameOfControls);
-    frame->AddCaption(u"Label2"_s, u"Jahr/Monat"_s, {234, 9, 74, 20});
-    frame->Add(new PopupMenuView(selectors.YearPopup, frame), {316, 9, 70, 21});
+    frame->AddText(u"Label2"_s, u"Jahr/Monat"_s, {234, 9, 74, 20})
+        ->setBuddy(frame->Add(new PopupMenuView(selectors.YearPopup, frame), {316, 9, 70, 21}));
     frame->AddNamed(u"Monat"_s, new PopupMenuView(selectors.MonthPopup, frame), {396, 9, 105, 21});
-    frame->AddCaption(u"Label1"_s, u"Kasse"_s, {11, 9, 46, 20});
     auto *cashBook = new PopupMenuView(selectors.CashbookPopup, frame);
     // Its rows are the user's words, which may be longer.
     cashBook->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    frame->Add(cashBook, {59, 9, 140, 21});
+    frame->AddText(u"Label1"_s, u"Kasse"_s, {11, 9, 46, 20})
+        ->setBuddy(frame->Add(cashBook, {59, 9, 140, 21}));
     Add(frame, {549, 15, 511, 40}, TR);
 }
 
@@ -116,7 +117,7 @@ void JournalPageView::AddBalances(MainWindow &window) {
     frame->setObjectName(u"AmountRect"_s);
     frame->SetFrame(frameOfControls);
     const auto add = [frame](const QString &name, const QString &text, Label &balance, int top) {
-        frame->AddText(name, text, {45, top, 130, 20}, LT, Qt::AlignRight);
+        frame->AddText(name, text, {45, top, 130, 20}, Qt::AlignRight);
         auto *label = new LabelView(balance, frame, Qt::AlignRight);
         label->SetCaption(text);
         frame->Add(label, {187, top, 100, 20});

@@ -16,7 +16,7 @@ public:
 
 private:
     void AddEntryRow(EntryRow &row, const UserLocale &locale);
-    void AddAmountField(TextField &field, const QRect &place);
+    QWidget *AddAmountField(TextField &field, const QRect &place);
     void AddButtons(EntryRow &row);
     void AddErrorBar(EntryRow &row);
     void AddSelectors(MainWindow &window);

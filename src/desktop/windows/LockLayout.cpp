@@ -26,7 +26,7 @@ LockLayout::~LockLayout() {
     }
 }
 
-void LockLayout::Place(QWidget *widget, const QRect &place, Locks locks) {
+void LockLayout::Place(QWidget *widget, const QRect &place, Qt::Edges locks) {
     addWidget(widget);
     items_.back().place = place;
     items_.back().locks = locks;
@@ -58,10 +58,12 @@ void LockLayout::setGeometry(const QRect &area) {
     const QSize growth = area.size() - design_;
     for (const Item &each : items_) {
         const QRect &place = each.place;
-        const auto [left, width] = Follow(place.left(), place.width(), growth.width(),
-                                          each.locks & LockLeft, each.locks & LockRight);
-        const auto [top, height] = Follow(place.top(), place.height(), growth.height(),
-                                          each.locks & LockTop, each.locks & LockBottom);
+        const auto [left, width] =
+            Follow(place.left(), place.width(), growth.width(), each.locks.testFlag(Qt::LeftEdge),
+                   each.locks.testFlag(Qt::RightEdge));
+        const auto [top, height] =
+            Follow(place.top(), place.height(), growth.height(), each.locks.testFlag(Qt::TopEdge),
+                   each.locks.testFlag(Qt::BottomEdge));
         // Past the item, which would keep the widget above its minimum size and so out of its
         // place.
         each.item->widget()->setGeometry(left, top, width, height);

@@ -7,16 +7,13 @@
 #include <vector>
 
 /// The window edges that a widget keeps its distance to.
-enum Lock { LockLeft = 1, LockTop = 2, LockRight = 4, LockBottom = 8 };
-using Locks = int;
-
-constexpr Locks LT = LockLeft | LockTop;
-constexpr Locks TR = LockTop | LockRight;
-constexpr Locks LTR = LockLeft | LockTop | LockRight;
-constexpr Locks LB = LockLeft | LockBottom;
-constexpr Locks LTB = LockLeft | LockTop | LockBottom;
-constexpr Locks RB = LockRight | LockBottom;
-constexpr Locks LTRB = LockLeft | LockTop | LockRight | LockBottom;
+constexpr Qt::Edges LT = Qt::LeftEdge | Qt::TopEdge;
+constexpr Qt::Edges TR = Qt::TopEdge | Qt::RightEdge;
+constexpr Qt::Edges LTR = LT | Qt::RightEdge;
+constexpr Qt::Edges LB = Qt::LeftEdge | Qt::BottomEdge;
+constexpr Qt::Edges LTB = LT | Qt::BottomEdge;
+constexpr Qt::Edges RB = Qt::RightEdge | Qt::BottomEdge;
+constexpr Qt::Edges LTRB = LTR | Qt::BottomEdge;
 
 /// Puts widgets where a design of fixed size has them, and lets them follow the edges that they are
 /// locked to when the area becomes larger or smaller. Locked to two opposite edges, a widget
@@ -29,7 +26,7 @@ public:
     LockLayout(QWidget *parent, QSize design);
     ~LockLayout() override;
 
-    void Place(QWidget *widget, const QRect &place, Locks locks);
+    void Place(QWidget *widget, const QRect &place, Qt::Edges locks);
 
     void addItem(QLayoutItem *item) override;
     int count() const override;
@@ -43,7 +40,7 @@ private:
     struct Item {
         QLayoutItem *item;
         QRect place;
-        Locks locks;
+        Qt::Edges locks;
     };
 
     QSize design_;

@@ -7,6 +7,8 @@
 #include "desktop/windows/MainWindowView.h"
 #include "shell/MainWindow.h"
 
+#include <QLabel>
+
 using namespace Qt::StringLiterals;
 
 PreferencesPageView::PreferencesPageView(MainWindow &window, QWidget *parent)
@@ -17,45 +19,46 @@ PreferencesPageView::PreferencesPageView(MainWindow &window, QWidget *parent)
     AddLists(window);
 }
 
-void PreferencesPageView::AddCaptionOf(int index, const QString &text, const QPoint &place) {
-    AddCaption(u"Prefs(%1)"_s.arg(index), text, {place, QSize(110, 20)}, LT, Qt::AlignRight);
+QLabel *PreferencesPageView::AddCaptionOf(int index, const QString &text, const QPoint &place) {
+    return AddText(u"Prefs(%1)"_s.arg(index), text, {place, QSize(110, 20)}, Qt::AlignRight);
 }
 
-void PreferencesPageView::AddField(TextField &field, const QRect &place, Locks locks) {
-    Add(new TextFieldView(field, this), place, locks);
+QWidget *PreferencesPageView::AddField(TextField &field, const QRect &place, Qt::Edges locks) {
+    return Add(new TextFieldView(field, this), place, locks);
 }
 
 void PreferencesPageView::AddCompany(CompanyProfile &profile) {
-    AddCaptionOf(13, u"Firma:"_s, {66, 57});
-    AddField(profile.CompanyField, {188, 57, 300, 22});
-    AddCaptionOf(12, u"Zusatz:"_s, {66, 87});
-    AddField(profile.DepartmentField, {188, 87, 300, 22});
-    AddCaptionOf(11, u"Vorname:"_s, {66, 117});
-    AddField(profile.FirstnameField, {188, 117, 300, 22});
-    AddCaptionOf(10, u"Nachname:"_s, {66, 148});
-    AddField(profile.LastnameField, {188, 148, 300, 22});
-    AddCaptionOf(9, u"Strasse:"_s, {66, 180});
-    AddField(profile.StreetField, {188, 180, 300, 22});
-    AddCaptionOf(8, u"Plz, Ort:"_s, {66, 212});
-    AddNamed(u"Plz"_s, new TextFieldView(profile.ZipField, this), {188, 212, 51, 22});
+    AddCaptionOf(13, u"Firma:"_s, {66, 57})
+        ->setBuddy(AddField(profile.CompanyField, {188, 57, 300, 22}));
+    AddCaptionOf(12, u"Zusatz:"_s, {66, 87})
+        ->setBuddy(AddField(profile.DepartmentField, {188, 87, 300, 22}));
+    AddCaptionOf(11, u"Vorname:"_s, {66, 117})
+        ->setBuddy(AddField(profile.FirstnameField, {188, 117, 300, 22}));
+    AddCaptionOf(10, u"Nachname:"_s, {66, 148})
+        ->setBuddy(AddField(profile.LastnameField, {188, 148, 300, 22}));
+    AddCaptionOf(9, u"Strasse:"_s, {66, 180})
+        ->setBuddy(AddField(profile.StreetField, {188, 180, 300, 22}));
+    AddCaptionOf(8, u"Plz, Ort:"_s, {66, 212})
+        ->setBuddy(
+            AddNamed(u"Plz"_s, new TextFieldView(profile.ZipField, this), {188, 212, 51, 22}));
     AddNamed(u"Ort"_s, new TextFieldView(profile.CityField, this), {247, 212, 241, 22});
     // The country and its caption, Prefs(7), do not show.
     Add(new ComboBoxView(profile.CountryCombo, this), {188, 246, 300, 20});
 }
 
 void PreferencesPageView::AddContact(CompanyProfile &profile) {
-    AddCaptionOf(6, u"Telefon:"_s, {521, 57});
-    AddField(profile.PhoneField, {643, 57, 300, 22}, LTR);
-    AddCaptionOf(5, u"Fax:"_s, {521, 87});
-    AddField(profile.FaxField, {643, 87, 300, 22}, LTR);
-    AddCaptionOf(4, u"E-Mail:"_s, {521, 117});
-    AddField(profile.EMailField, {643, 117, 300, 22}, LTR);
-    AddCaptionOf(3, u"Homepage:"_s, {521, 148});
-    AddField(profile.HomepageField, {643, 148, 300, 22}, LTR);
-    AddCaptionOf(2, u"Ust. Nr.:"_s, {521, 180});
-    AddField(profile.UIDField, {643, 180, 300, 22}, LTR);
-    AddCaptionOf(0, u"Kontenrahmen:"_s, {521, 246});
-    Add(new ComboBoxView(profile.AccountFrameCombo, this), {643, 246, 95, 20});
+    AddCaptionOf(6, u"Telefon:"_s, {521, 57})
+        ->setBuddy(AddField(profile.PhoneField, {643, 57, 300, 22}, LTR));
+    AddCaptionOf(5, u"Fax:"_s, {521, 87})
+        ->setBuddy(AddField(profile.FaxField, {643, 87, 300, 22}, LTR));
+    AddCaptionOf(4, u"E-Mail:"_s, {521, 117})
+        ->setBuddy(AddField(profile.EMailField, {643, 117, 300, 22}, LTR));
+    AddCaptionOf(3, u"Homepage:"_s, {521, 148})
+        ->setBuddy(AddField(profile.HomepageField, {643, 148, 300, 22}, LTR));
+    AddCaptionOf(2, u"Ust. Nr.:"_s, {521, 180})
+        ->setBuddy(AddField(profile.UIDField, {643, 180, 300, 22}, LTR));
+    AddCaptionOf(0, u"Kontenrahmen:"_s, {521, 246})
+        ->setBuddy(Add(new ComboBoxView(profile.AccountFrameCombo, this), {643, 246, 95, 20}));
 }
 
 void PreferencesPageView::AddLists(MainWindow &window) {
@@ -67,8 +70,9 @@ void PreferencesPageView::AddLists(MainWindow &window) {
     ListboxView &accountList = *ListWithKeys(accounts.CashaccountList, accounts.AccountsAdd);
     accountList.SetColumnWidths({0, 100, 50, 50});
     AddNamed(u"Buchungskonten"_s, &accountList, {361, 353, 699, 340}, LTRB);
-    AddCaptionOf(1, u"Währung:"_s, {521, 212});
-    Add(new ComboBoxView(window.companyProfile.CurrencyCombo, this), {643, 212, 95, 20});
+    AddCaptionOf(1, u"Währung:"_s, {521, 212})
+        ->setBuddy(
+            Add(new ComboBoxView(window.companyProfile.CurrencyCombo, this), {643, 212, 95, 20}));
     AddPlusMinus(books.CashBookAdd, u"Kasse"_s, {20, 697, 60, 29});
     AddPlusMinus(accounts.AccountsAdd, u"Buchungskonto"_s, {361, 697, 60, 29});
 }

@@ -23,6 +23,6 @@ private:
     /// The view of a list in which the keys Insert and Delete do what the button does.
     ListboxView *ListWithKeys(Listbox &list, TLXPlusMinusButton &button);
     void AddPlusMinus(TLXPlusMinusButton &button, const QString &what, const QRect &place);
-    void AddField(TextField &field, const QRect &place, Locks locks = LT);
-    void AddCaptionOf(int index, const QString &text, const QPoint &place);
+    QWidget *AddField(TextField &field, const QRect &place, Qt::Edges locks = LT);
+    QLabel *AddCaptionOf(int index, const QString &text, const QPoint &place);
 };

@@ -8,8 +8,6 @@
 #include <QLabel>
 #include <QPainter>
 
-#include <utility>
-
 Sheet::Sheet(QSize design, QWidget *parent)
     : QWidget(parent), layout_(new LockLayout(this, design)) {}
 
@@ -18,14 +16,13 @@ void Sheet::SetFrame(Frame frame) {
     update();
 }
 
-void Sheet::Add(QWidget *widget, const QRect &place, Locks locks) {
+QWidget *Sheet::Add(QWidget *widget, const QRect &place, Qt::Edges locks) {
     layout_->Place(widget, place, locks);
-    if (QLabel *caption = std::exchange(caption_, nullptr)) {
-        caption->setBuddy(widget);
-    }
+    return widget;
 }
 
-void Sheet::AddNamed(const QString &name, QWidget *widget, const QRect &place, Locks locks) {
+QWidget *Sheet::AddNamed(const QString &name, QWidget *widget, const QRect &place,
+                         Qt::Edges locks) {
     widget->setAccessibleName(name);
     // On some desktops a combo box tells its row for a name, and what it is only by a caption.
     if (qobject_cast<QComboBox *>(widget) != nullptr) {
@@ -33,29 +30,23 @@ void Sheet::AddNamed(const QString &name, QWidget *widget, const QRect &place, L
         caption->hide();
         caption->setBuddy(widget);
     }
-    Add(widget, place, locks);
+    return Add(widget, place, locks);
 }
 
-void Sheet::AddButton(PushButton &button, const QRect &place, Locks locks) {
+void Sheet::AddButton(PushButton &button, const QRect &place, Qt::Edges locks) {
     Add(new PushButtonView(button, this), place, locks);
     buttons_.push_back(&button);
 }
 
-QLabel *Sheet::AddText(const QString &name, const QString &text, const QRect &place, Locks locks,
+QLabel *Sheet::AddText(const QString &name, const QString &text, const QRect &place,
                        Qt::Alignment alignment) {
     auto *label = new QLabel(text, this);
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
     const bool hasHeight = alignment & Qt::AlignVertical_Mask;
     label->setAlignment(hasHeight ? alignment : alignment | Qt::AlignVCenter);
-    Add(label, place, locks);
+    Add(label, place);
     return label;
-}
-
-QLabel *Sheet::AddCaption(const QString &name, const QString &text, const QRect &place, Locks locks,
-                          Qt::Alignment alignment) {
-    caption_ = AddText(name, text, place, locks, alignment);
-    return caption_;
 }
 
 void Sheet::paintEvent(QPaintEvent *event) {

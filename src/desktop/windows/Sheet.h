@@ -28,17 +28,16 @@ public:
     /// Fills the sheet and draws a line of one point around it.
     void SetFrame(Frame frame);
 
-    /// Adds a widget; the sheet owns it. A caption added right before names it.
-    void Add(QWidget *widget, const QRect &place, Locks locks = LT);
+    /// Adds a widget, and gives it back; the sheet owns it.
+    QWidget *Add(QWidget *widget, const QRect &place, Qt::Edges locks = LT);
     /// The same with a name of its own, which nobody sees but assistive tools tell.
-    void AddNamed(const QString &name, QWidget *widget, const QRect &place, Locks locks = LT);
-    void AddButton(PushButton &button, const QRect &place, Locks locks = LT);
-    /// Adds a text that never changes; it stands in the middle of its height unless told.
-    QLabel *AddText(const QString &name, const QString &text, const QRect &place, Locks locks = LT,
+    QWidget *AddNamed(const QString &name, QWidget *widget, const QRect &place,
+                      Qt::Edges locks = LT);
+    void AddButton(PushButton &button, const QRect &place, Qt::Edges locks = LT);
+    /// Adds a text that never changes; it stands in the middle of its height unless told. It is the
+    /// caption of the widget that is made its buddy.
+    QLabel *AddText(const QString &name, const QString &text, const QRect &place,
                     Qt::Alignment alignment = Qt::AlignLeft);
-    /// The same for a text that names the widget to be added next.
-    QLabel *AddCaption(const QString &name, const QString &text, const QRect &place,
-                       Locks locks = LT, Qt::Alignment alignment = Qt::AlignLeft);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -48,5 +47,4 @@ private:
     LockLayout *layout_;
     std::optional<Frame> frame_;
     std::vector<PushButton *> buttons_;
-    QLabel *caption_ = nullptr;
 };

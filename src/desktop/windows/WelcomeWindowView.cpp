@@ -41,7 +41,7 @@ QLabel *SetSize(QLabel *label, int textSize, bool bold = false) {
 }
 
 void AddExplanation(Sheet &page, const QString &name, const QString &text, const QRect &place) {
-    page.AddText(name, text, place, LT, Qt::AlignTop)->setWordWrap(true);
+    page.AddText(name, text, place, Qt::AlignTop)->setWordWrap(true);
 }
 
 } // namespace
@@ -81,13 +81,13 @@ Sheet *WelcomeWindowView::AddPage(const QString &name) {
 void WelcomeWindowView::AddGreeting() {
     Sheet &page = *AddPage(u"Rectangle1"_s);
     SetTextColour(*SetSize(page.AddText(u"Label1"_s, u"Willkomen bei Zolmark"_s,
-                                        OnPage(27, 9, 510, 36), LT, Qt::AlignHCenter),
+                                        OnPage(27, 9, 510, 36), Qt::AlignHCenter),
                            32, true),
                   strongText);
     SetTextColour(*SetSize(page.AddText(u"Label2"_s,
                                         u"Einnahmen und Ausgabenverwaltung für \n"
                                         "Selbstständige und Freiberufler"_s,
-                                        OnPage(27, 54, 510, 45), LT, Qt::AlignHCenter),
+                                        OnPage(27, 54, 510, 45), Qt::AlignHCenter),
                            16),
                   softText);
     page.AddNamed(u"Bild zur Begrüßung"_s, new CanvasView(window_.Canvas1, &page),
@@ -99,22 +99,26 @@ void WelcomeWindowView::AddCompanyPage() {
     auto *title = new Sheet({526, 41}, &page);
     title->setObjectName(u"Placard1"_s);
     title->SetFrame(frameOfTitle);
-    SetSize(title->AddText(u"Label13"_s, u"Firmendaten erfassen"_s, {53, 8, 406, 24}, LT,
-                           Qt::AlignHCenter),
-            18);
+    SetSize(
+        title->AddText(u"Label13"_s, u"Firmendaten erfassen"_s, {53, 8, 406, 24}, Qt::AlignHCenter),
+        18);
     page.Add(title, OnPage(19, 15, 526, 41));
     // In the order of the Tab key.
-    page.AddCaption(u"Label17"_s, u"Name:"_s, OnPage(39, 77, 82, 20), LT, Qt::AlignRight);
-    page.Add(new TextFieldView(window_.CompanyField, &page), OnPage(136, 76, 300, 22));
+    page.AddText(u"Label17"_s, u"Name:"_s, OnPage(39, 77, 82, 20), Qt::AlignRight)
+        ->setBuddy(
+            page.Add(new TextFieldView(window_.CompanyField, &page), OnPage(136, 76, 300, 22)));
     page.AddNamed(u"Name, zweite Zeile"_s, new TextFieldView(window_.DepartmendField, &page),
                   OnPage(136, 106, 300, 22));
-    page.AddCaption(u"Label3"_s, u"Strasse:"_s, OnPage(41, 138, 80, 20), LT, Qt::AlignRight);
-    page.Add(new TextFieldView(window_.StreetField, &page), OnPage(136, 137, 300, 22));
-    page.AddCaption(u"Label16"_s, u"Plz, Ort:"_s, OnPage(41, 170, 80, 20), LT, Qt::AlignRight);
-    page.AddNamed(u"Plz"_s, new TextFieldView(window_.ZipField, &page), OnPage(136, 169, 51, 22));
+    page.AddText(u"Label3"_s, u"Strasse:"_s, OnPage(41, 138, 80, 20), Qt::AlignRight)
+        ->setBuddy(
+            page.Add(new TextFieldView(window_.StreetField, &page), OnPage(136, 137, 300, 22)));
+    page.AddText(u"Label16"_s, u"Plz, Ort:"_s, OnPage(41, 170, 80, 20), Qt::AlignRight)
+        ->setBuddy(page.AddNamed(u"Plz"_s, new TextFieldView(window_.ZipField, &page),
+                                 OnPage(136, 169, 51, 22)));
     page.AddNamed(u"Ort"_s, new TextFieldView(window_.CityField, &page), OnPage(192, 169, 244, 22));
-    page.AddCaption(u"Label15"_s, u"Telefon:"_s, OnPage(39, 200, 82, 20), LT, Qt::AlignRight);
-    page.Add(new TextFieldView(window_.PhoneField, &page), OnPage(136, 200, 300, 22));
+    page.AddText(u"Label15"_s, u"Telefon:"_s, OnPage(39, 200, 82, 20), Qt::AlignRight)
+        ->setBuddy(
+            page.Add(new TextFieldView(window_.PhoneField, &page), OnPage(136, 200, 300, 22)));
     AddExplanation(page, u"Label14"_s,
                    u"Die Firmenangaben können unter dem Menüpunkt Einstellungen jederzeit "
                    "verändert werden."_s,
@@ -132,28 +136,29 @@ void WelcomeWindowView::AddCashBookPage(const UserLocale &locale) {
                    "alternativ einen leeren Kontorahmen. Sie können später selbst weitere Konten "
                    "hinzufügen."_s,
                    OnPage(171, 48, 365, 53));
-    page.AddCaption(u"Label20"_s, u"Kontobezeichnung:"_s, OnPage(40, 126, 120, 20), LT,
-                    Qt::AlignRight);
-    page.Add(new TextFieldView(window_.AccountNameField, &page), OnPage(170, 125, 249, 22));
-    page.AddCaption(u"Label6"_s, u"Konto:"_s, OnPage(433, 126, 45, 20), LT, Qt::AlignRight);
+    page.AddText(u"Label20"_s, u"Kontobezeichnung:"_s, OnPage(40, 126, 120, 20), Qt::AlignRight)
+        ->setBuddy(page.Add(new TextFieldView(window_.AccountNameField, &page),
+                            OnPage(170, 125, 249, 22)));
     auto *account = new TextFieldView(window_.AccountField, &page);
     account->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    page.Add(account, OnPage(487, 125, 58, 22));
+    page.AddText(u"Label6"_s, u"Konto:"_s, OnPage(433, 126, 45, 20), Qt::AlignRight)
+        ->setBuddy(page.Add(account, OnPage(487, 125, 58, 22)));
     AddOpeningBalance(page, locale);
     page.AddButton(window_.BackButton, OnPage(341, 266, 80, 20));
     page.AddButton(window_.SaveButton, OnPage(433, 266, 110, 20));
 }
 
 void WelcomeWindowView::AddOpeningBalance(Sheet &page, const UserLocale &locale) {
-    page.AddCaption(u"Label19"_s, u"Eröffnungsbestand:"_s, OnPage(40, 156, 120, 20), LT,
-                    Qt::AlignRight);
-    page.Add(new AmountFieldView(window_.OpeningBalanceField, &page), OnPage(170, 155, 100, 22));
+    page.AddText(u"Label19"_s, u"Eröffnungsbestand:"_s, OnPage(40, 156, 120, 20), Qt::AlignRight)
+        ->setBuddy(page.Add(new AmountFieldView(window_.OpeningBalanceField, &page),
+                            OnPage(170, 155, 100, 22)));
     page.AddNamed(u"Währung"_s, new PopupMenuView(window_.CurrencyPopup, &page),
                   OnPage(282, 155, 80, 20));
-    page.AddCaption(u"Label18"_s, u"Datum des Eröffnungsbestandes:"_s, OnPage(19, 180, 141, 60), LT,
-                    Qt::AlignRight)
-        ->setWordWrap(true);
-    page.Add(new DateControlView(window_.OpeningDate, locale, &page), OnPage(171, 188, 100, 23));
+    QLabel *caption = page.AddText(u"Label18"_s, u"Datum des Eröffnungsbestandes:"_s,
+                                   OnPage(19, 180, 141, 60), Qt::AlignRight);
+    caption->setWordWrap(true);
+    caption->setBuddy(page.Add(new DateControlView(window_.OpeningDate, locale, &page),
+                               OnPage(171, 188, 100, 23)));
     AddExplanation(page, u"Label21"_s,
                    u"Geben Sie hier den Kassenbestand an und ab wann das Konto geführt wird."_s,
                    OnPage(171, 223, 373, 34));
@@ -185,7 +190,7 @@ QWidget *WelcomeWindowView::AddChoice(TLXCanvasButton &canvas, const Choice &cho
     button->setAccessibleDescription(choice.description.text);
     const auto add = [this](const Text &text, int height) {
         QLabel *label =
-            sheet_->AddText(text.name, text.text, {640, text.top, 162, height}, LT, Qt::AlignTop);
+            sheet_->AddText(text.name, text.text, {640, text.top, 162, height}, Qt::AlignTop);
         // The button below answers the mouse.
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
         label->setWordWrap(true);

@@ -28,10 +28,10 @@ public:
     /// Takes the day of a typed text; false if the text is no day. The forms are 0102, 010226,
     /// 01022026, 1.2, 1.2., 1.2.26, 1.2.2026, 2026-02-01, and 1 for a day of the shown month.
     /// Without a year the shown one is meant, with two digits of it the present century.
-    bool SetTyped(const QString &text);
+    [[nodiscard]] bool SetTyped(const QString &text);
     /// Whether a typed text was refused and no good day has come since; the shown day may then not
     /// be the one that was meant. Tells it once.
-    bool TakeRefusal() { return std::exchange(refused_, false); }
+    [[nodiscard]] bool TakeRefusal() { return std::exchange(refused_, false); }
 
     void Step(int days) { Take(day_.addDays(days)); }
     /// A day that the other month lacks falls to its last one.

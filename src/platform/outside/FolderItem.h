@@ -15,14 +15,14 @@ public:
     bool IsSameFileAs(const FolderItem &other) const;
     /// Makes the folder, and those above it that are missing, for their owner alone, whatever the
     /// system's habit is; false when that fails or something else has the name.
-    bool CreateAsFolder() const;
+    [[nodiscard]] bool CreateAsFolder() const;
     /// Removes the file; false when that fails.
-    bool Delete() const;
+    [[nodiscard]] bool Delete() const;
     /// Removes the files in this folder whose names begin so. What can't be removed stays.
     void DeleteFiles(const QString &beginning) const;
     /// Gives the file another place on the same disk; false, and nothing has changed, when that
     /// fails or anything stands there, a link to nowhere included.
-    bool MoveTo(const FolderItem &place) const;
+    [[nodiscard]] bool MoveTo(const FolderItem &place) const;
 
 private:
     QString path_;

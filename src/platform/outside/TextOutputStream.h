@@ -16,7 +16,7 @@ public:
     /// Adds the bytes as they are.
     void Write(const QByteArray &bytes);
     /// Puts the file in its place; false when that, or anything before, has failed.
-    bool Close();
+    [[nodiscard]] bool Close();
     /// What has failed, in the user's language.
     QString ErrorMessage() const;
 

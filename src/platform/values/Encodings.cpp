@@ -43,7 +43,7 @@ Transliterator OpenTransliterator(const UConverter *converter) {
 }
 
 /// The end of the piece that begins here: a few words, whole. A long text costs by the square of
-/// its length, for each letter put in moves all behind it.
+/// its length, for each letter put in moves all after it.
 qsizetype EndOfPiece(QStringView text, qsizetype begin) {
     constexpr qsizetype fewWords = 64;
     qsizetype end = std::min(begin + fewWords, text.size());

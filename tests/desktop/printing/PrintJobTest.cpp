@@ -31,7 +31,7 @@ protected:
         job->NextPage();
         job->DrawString(u"900"_s, 40, 900);
         job.reset();
-        QCoreApplication::processEvents(); // A failure is told behind it.
+        QCoreApplication::processEvents(); // A failure is told afterwards.
         return Read();
     }
 

@@ -126,7 +126,7 @@ TEST(ZolmarkApplication, EndsBehindAMessageAndOpensNoOther) {
         for (int i = 0; i < 3; ++i) {
             application.Tell(std::runtime_error("Meldung"));
         }
-        after.show(); // As the main window does behind the message of the sample book.
+        after.show(); // As the main window does after the message of the sample book.
     });
     QTimer::singleShot(10'000, &look, [] { QApplication::exit(EXIT_FAILURE); });
     EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);

@@ -142,7 +142,7 @@ TEST_F(JournalPageTest, MakesOneLineOfWhatIsPastedOrDropped) {
             QMimeData data;
             data.setText(text);
             QDropEvent drop({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, {});
-            // The toolkit itself would hand it on only behind a mouse that drags.
+            // The toolkit itself would hand it on only after a drag by the mouse.
             for (QObject *child : field.children()) {
                 child->eventFilter(&field, &drop);
             }
