@@ -28,7 +28,7 @@ Currency SumOf(RecordSet &records) {
 
 } // namespace
 
-Balances::Balances(App &app, const Selectors &selectors, Journal &journal)
+Balances::Balances(const App &app, const Selectors &selectors, Journal &journal)
     : OpeningBalanceLabel(u"OpeningBalanceLabel"_s, u"0,00"_s),
       LastAmountLabel(u"LastAmountLabel"_s, u"0,00"_s), app_(app), selectors_(selectors),
       journal_(journal) {
@@ -70,23 +70,23 @@ void Balances::RunBalance(Currency balance) {
     list.SetColumn(Journal::Balance, std::move(texts));
 }
 
-std::unique_ptr<RecordSet> Balances::SelectCashbook(int id) {
+std::unique_ptr<RecordSet> Balances::SelectCashbook(int id) const {
     auto records = app_.kvoDB().SQLSelect(u"SELECT * FROM cash_book WHERE id = '%1'"_s.arg(id));
     app_.ReportError();
     return records;
 }
 
-Currency Balances::GetOpeningBalance(int id) {
+Currency Balances::GetOpeningBalance(int id) const {
     const auto records = SelectCashbook(id);
     return records ? records->Field("opening_balance"_L1).CurrencyValue() : Currency();
 }
 
-std::optional<Date> Balances::GetOpeningDate() {
+std::optional<Date> Balances::GetOpeningDate() const {
     const auto records = SelectCashbook(selectors_.SelectedCashbookID());
     return records ? records->Field("opening_balance_date"_L1).DateValue() : std::nullopt;
 }
 
-QString Balances::CalcAmount(const QString &type, const QString &from, const QString &to) {
+QString Balances::CalcAmount(const QString &type, const QString &from, const QString &to) const {
     QString sql = u"SELECT SUM(amount) AS sum FROM cash_journal WHERE type = '%1' "_s.arg(type);
     if (!from.isEmpty()) {
         sql += u"AND vdate BETWEEN '%1' AND '%2'"_s.arg(from, to);

@@ -20,7 +20,7 @@ class Balances : public QObject {
 
 public:
     /// Answers every load of the journal with ReCalcAmount.
-    Balances(App &app, const Selectors &selectors, Journal &journal);
+    Balances(const App &app, const Selectors &selectors, Journal &journal);
 
     /// The balance before the first booking shown, and after the last one; empty without a booking.
     Label OpeningBalanceLabel;
@@ -31,18 +31,18 @@ public:
     void ReCalcAmount();
 
     /// The stored opening balance of the cash book with the id; 0 if there is none. Tells an error.
-    Currency GetOpeningBalance(int id);
+    Currency GetOpeningBalance(int id) const;
     /// The opening date of the selected cash book, nothing if it is none. Tells an error.
-    std::optional<Date> GetOpeningDate();
+    std::optional<Date> GetOpeningDate() const;
     /// The sum of all bookings of a type, "E" or "A", over all cash books, by the balance mask;
     /// `from` and `to` are SQL dates, an empty `from` means no period. Tells an error.
-    QString CalcAmount(const QString &type, const QString &from = {}, const QString &to = {});
+    QString CalcAmount(const QString &type, const QString &from = {}, const QString &to = {}) const;
 
 private:
-    std::unique_ptr<RecordSet> SelectCashbook(int id);
+    std::unique_ptr<RecordSet> SelectCashbook(int id) const;
     void RunBalance(Currency balance);
 
-    App &app_;
+    const App &app_;
     const Selectors &selectors_;
     Journal &journal_;
 };

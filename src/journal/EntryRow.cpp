@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-EntryRow::EntryRow(App &app, Selectors &selectors, Journal &journal, Balances &balances)
+EntryRow::EntryRow(const App &app, Selectors &selectors, Journal &journal, const Balances &balances)
     : DateField(u"DateField"_s, app.GetDesktop().Now(), [&app] { return app.GetDesktop().Now(); }),
       InputField(u"InputField"_s), OutputField(u"OutputField"_s), pickLists(app),
       CategoryLabel(u"CategoryLabel"_s, u"Art der Einnahme"_s),

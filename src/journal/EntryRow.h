@@ -22,7 +22,7 @@ class EntryRow : public QObject {
     Q_OBJECT
 
 public:
-    EntryRow(App &app, Selectors &selectors, Journal &journal, Balances &balances);
+    EntryRow(const App &app, Selectors &selectors, Journal &journal, const Balances &balances);
 
     DateControl DateField;
     TextField InputField;
@@ -68,10 +68,10 @@ private:
     /// Writes the row into the booking; the database's Error tells how that went.
     void RewriteBooking();
 
-    App &app_;
+    const App &app_;
     Selectors &selectors_;
     Journal &journal_;
-    Balances &balances_;
+    const Balances &balances_;
     /// The booking that EditSale loaded last; it keeps its value when the row is emptied.
     qint64 mRecID_ = 0;
 };

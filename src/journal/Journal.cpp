@@ -72,7 +72,7 @@ private:
 
 } // namespace
 
-Journal::Journal(App &app, const Selectors &selectors)
+Journal::Journal(const App &app, const Selectors &selectors)
     : CashList(u"CashList"_s, 8), app_(app), selectors_(selectors) {
     connect(&selectors_, &Selectors::RefreshJournal, this, &Journal::Reload);
     connect(&CashList, &Listbox::CompareRows, this, &Journal::CashList_CompareRows);

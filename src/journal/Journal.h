@@ -19,7 +19,7 @@ public:
     enum Column { DateColumn, Input, Output, Tax, Category, SaleNumber, Note, Balance };
 
     /// Answers every RefreshJournal of the selectors with a Reload.
-    Journal(App &app, const Selectors &selectors);
+    Journal(const App &app, const Selectors &selectors);
 
     Listbox CashList;
 
@@ -40,6 +40,6 @@ private:
     void CashList_CompareRows(int first, int second, int column, int &result, bool &handled) const;
     QString Condition() const;
 
-    App &app_;
+    const App &app_;
     const Selectors &selectors_;
 };

@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-PickLists::PickLists(App &app)
+PickLists::PickLists(const App &app)
     : TaxCombo(u"TaxCombo"_s), CategoryCombo(u"CategoryCombo"_s), app_(app) {
     connect(&TaxCombo, &Control::LostFocus, this, &PickLists::TaxCombo_LostFocus);
 }

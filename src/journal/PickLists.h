@@ -15,7 +15,7 @@ class PickLists : public QObject {
     Q_OBJECT
 
 public:
-    explicit PickLists(App &app);
+    explicit PickLists(const App &app);
 
     ComboBox TaxCombo;
     ComboBox CategoryCombo;
@@ -43,7 +43,7 @@ private:
     void LoadRows(const QString &sql, QLatin1StringView tagColumn, const QString &type,
                   ComboBox &list, QString &side) const;
 
-    App &app_;
+    const App &app_;
     /// The sides that the lists hold; empty for none.
     QString sideOfTaxes_;
     QString sideOfAccounts_;

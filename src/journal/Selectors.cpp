@@ -19,7 +19,7 @@ void SelectPosition(PopupMenu &list, int position) {
 
 } // namespace
 
-Selectors::Selectors(App &app)
+Selectors::Selectors(const App &app)
     : CashbookPopup(u"CashbookPopup"_s), YearPopup(u"YearPopup"_s), MonthPopup(u"MonthPopup"_s),
       app_(app) {
     connect(&CashbookPopup, &PopupMenu::Change, this, &Selectors::CashbookPopup_Change);

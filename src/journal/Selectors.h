@@ -16,7 +16,7 @@ class Selectors : public QObject {
     Q_OBJECT
 
 public:
-    explicit Selectors(App &app);
+    explicit Selectors(const App &app);
 
     PopupMenu CashbookPopup;
     PopupMenu YearPopup;
@@ -57,7 +57,7 @@ private:
     void MonthPopup_Change();
     void AskForRefresh();
 
-    App &app_;
+    const App &app_;
     // Positions in their lists, not ids or years; they outlive a rebuilding of the lists.
     int mCashbookID_ = 0;
     int mYear_ = 0;

@@ -15,7 +15,7 @@ constexpr std::array columns = {"name"_L1, "account"_L1, "type"_L1, "active"_L1}
 
 } // namespace
 
-BookingAccounts::BookingAccounts(App &app)
+BookingAccounts::BookingAccounts(const App &app)
     : CashaccountList(u"CashaccountList"_s, 4), AccountsAdd(u"AccountsAdd"_s), app_(app),
       records_(
           app, CashaccountList, u"cash_accounts"_s, [this](RecordSet &record) { AddRow(record); },

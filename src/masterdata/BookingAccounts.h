@@ -19,7 +19,7 @@ public:
     /// accounts are offered to bookings.
     enum Column { Name, Account, Kind, Active };
 
-    explicit BookingAccounts(App &app);
+    explicit BookingAccounts(const App &app);
 
     Listbox CashaccountList;
     TLXPlusMinusButton AccountsAdd;
@@ -48,6 +48,6 @@ private:
     void AddRow(RecordSet &record);
     void FollowTheList();
 
-    App &app_;
+    const App &app_;
     RecordList records_;
 };

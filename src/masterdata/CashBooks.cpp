@@ -16,7 +16,7 @@ constexpr int columnCount = static_cast<int>(columns.size());
 
 } // namespace
 
-CashBooks::CashBooks(App &app)
+CashBooks::CashBooks(const App &app)
     : CashbookList(u"CashbookList"_s, 4), CashBookAdd(u"CashBookAdd"_s), app_(app),
       records_(app, CashbookList, u"cash_book"_s, [this](RecordSet &record) { AddRow(record); }) {
     CashbookList.SetHasHeading(true);

@@ -16,7 +16,7 @@ class CashBooks : public QObject {
 public:
     enum Column { Name, Account, OpeningBalance, OpeningDate };
 
-    explicit CashBooks(App &app);
+    explicit CashBooks(const App &app);
 
     Listbox CashbookList;
     TLXPlusMinusButton CashBookAdd;
@@ -33,6 +33,6 @@ private:
     void CashBookAdd_MinusPressed();
     void AddRow(RecordSet &record);
 
-    App &app_;
+    const App &app_;
     RecordList records_;
 };

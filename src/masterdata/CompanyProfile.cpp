@@ -29,7 +29,7 @@ constexpr Mapping mappings[] = {
 
 } // namespace
 
-CompanyProfile::CompanyProfile(App &app)
+CompanyProfile::CompanyProfile(const App &app)
     : CompanyField(u"CompanyField"_s), DepartmentField(u"DepartmentField"_s),
       FirstnameField(u"FirstnameField"_s), LastnameField(u"LastnameField"_s),
       StreetField(u"StreetField"_s), ZipField(u"ZipField"_s), CityField(u"CityField"_s),

@@ -16,7 +16,7 @@ class CompanyProfile : public QObject {
     Q_OBJECT
 
 public:
-    explicit CompanyProfile(App &app);
+    explicit CompanyProfile(const App &app);
 
     TextField CompanyField;
     TextField DepartmentField;
@@ -50,6 +50,6 @@ private:
     /// The company; nothing after a failure, which has been told.
     std::unique_ptr<RecordSet> SelectCompany();
 
-    App &app_;
+    const App &app_;
     bool recordChange_ = false;
 };

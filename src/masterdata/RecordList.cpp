@@ -5,7 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-RecordList::RecordList(App &app, Listbox &list, const QString &table, AddRow addRow,
+RecordList::RecordList(const App &app, Listbox &list, const QString &table, AddRow addRow,
                        int sortedColumn)
     : app_(app), list_(list), table_(table), addRow_(std::move(addRow)),
       sortedColumn_(sortedColumn) {}

@@ -18,7 +18,8 @@ public:
     using AddRow = std::function<void(RecordSet &record)>;
 
     /// Without a sorted column the rows stand in the table's order.
-    RecordList(App &app, Listbox &list, const QString &table, AddRow addRow, int sortedColumn = -1);
+    RecordList(const App &app, Listbox &list, const QString &table, AddRow addRow,
+               int sortedColumn = -1);
 
     /// Reads the table into the list. The selected record stays selected if it is still there. A
     /// failure is told and leaves the list as it was.
@@ -34,7 +35,7 @@ public:
     void RemoveSelected();
 
 private:
-    App &app_;
+    const App &app_;
     Listbox &list_;
     QString table_;
     AddRow addRow_;

@@ -71,7 +71,7 @@ private:
 
 } // namespace
 
-AccountingExport::AccountingExport(App &app, const Selectors &selectors)
+AccountingExport::AccountingExport(const App &app, const Selectors &selectors)
     : ExportList(u"ExportList"_s, columnCount), app_(app), selectors_(selectors) {
     ExportList.SetHasHeading(true);
     SetHeadings(ExportList, headingsAtOpen);

@@ -11,7 +11,7 @@ class Selectors;
 /// for any list.
 class AccountingExport {
 public:
-    AccountingExport(App &app, const Selectors &selectors);
+    AccountingExport(const App &app, const Selectors &selectors);
 
     static constexpr int columnCount = 11;
 
@@ -23,6 +23,6 @@ public:
     void ExportJournal();
 
 private:
-    App &app_;
+    const App &app_;
     const Selectors &selectors_;
 };

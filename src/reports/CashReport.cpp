@@ -131,8 +131,8 @@ private:
 
 } // namespace
 
-CashReport::CashReport(App &app, Selectors &selectors, Journal &journal, Balances &balances,
-                       CompanyProfile &company)
+CashReport::CashReport(const App &app, const Selectors &selectors, const Journal &journal,
+                       const Balances &balances, const CompanyProfile &company)
     : app_(app), selectors_(selectors), journal_(journal), balances_(balances), company_(company) {}
 
 void CashReport::Print() {

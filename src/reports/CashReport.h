@@ -9,17 +9,17 @@ class Selectors;
 /// The cash report on paper: the bookings as the journal shows them at this moment, and the totals.
 class CashReport {
 public:
-    CashReport(App &app, Selectors &selectors, Journal &journal, Balances &balances,
-               CompanyProfile &company);
+    CashReport(const App &app, const Selectors &selectors, const Journal &journal,
+               const Balances &balances, const CompanyProfile &company);
 
     /// Lets the user choose a printer, and prints; nothing happens if the user cancels. A database
     /// error in the totals is told, and the report goes on with what they gave.
     void Print();
 
 private:
-    App &app_;
-    Selectors &selectors_;
-    Journal &journal_;
-    Balances &balances_;
-    CompanyProfile &company_;
+    const App &app_;
+    const Selectors &selectors_;
+    const Journal &journal_;
+    const Balances &balances_;
+    const CompanyProfile &company_;
 };
