@@ -22,17 +22,6 @@ TEST(UserLocale, RoundsHalfAwayFromZeroOnTheShortestText) {
     }
 }
 
-TEST(UserLocale, WritesGermanFormsOnAnyDesktop) {
-    const std::pair<QString, QString> cases[] = {{u"de_CH"_s, u"-1234.50 01.03.2026"_s},
-                                                 {u"en_US"_s, u"-1234,50 01.03.2026"_s}};
-    for (const auto &[desktop, shown] : cases) {
-        const UserLocale locale((QLocale(desktop)));
-        const Date day(QDate(2026, 3, 1));
-        EXPECT_EQ(locale.FormatAmount(-1234.5) + u' ' + locale.ShortDate(day), shown);
-        EXPECT_EQ(locale.LongDate(day), u"Sonntag, 1. März 2026"_s);
-    }
-}
-
 /// What the test after this one reads, in an environment of its own.
 TEST(UserLocale, DISABLED_ShowsItself) {
     const UserLocale locale(QLocale::system());
