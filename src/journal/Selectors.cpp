@@ -79,6 +79,7 @@ void Selectors::GetJournalYears() {
 
 void Selectors::LoadMonths() {
     std::vector<PopupMenu::Row> rows;
+    rows.reserve(TLXModule::MonthTagTable.size());
     for (const auto &month : TLXModule::MonthTagTable) {
         rows.push_back({month.text.toString(), month.tag.toString()});
     }
