@@ -104,10 +104,7 @@ void Journal::LoadJournal() {
         for (; !records->AtEnd(); records->MoveNext()) {
             reader.ReadInto(rows);
         }
-        // A damaged page shows only on the way.
-        if (!app_.kvoDB().Error()) {
-            CashList.SetRows(std::move(rows));
-        }
+        CashList.SetRows(std::move(rows));
     }
     CashList.SetSortedColumn(DateColumn);
     CashList.Sort();

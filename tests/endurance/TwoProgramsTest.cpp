@@ -52,25 +52,4 @@ TEST_F(TwoPrograms, LoseAndDoubleNothing) {
     });
 }
 
-TEST_F(TwoPrograms, WaitButNotForEver) {
-    Program(desktop).Submit(u"1"_s, u"1.00"_s);
-    Run(1, [this] {
-        Child other([this](int pipe) {
-            const Program program(desktop);
-            program.app.kvoDB().SQLExecute(u"BEGIN IMMEDIATE"_s);
-            Child::Tell(pipe, "locked");
-            pause();
-        });
-        EXPECT_EQ(other.Line(), "locked");
-        Program program(desktop);
-        const QStringList before = program.Stored();
-        program.Submit(u"1"_s, u"1.00"_s);
-        EXPECT_EQ(desktop.TakeMessages(), u"database is locked"_s);
-        other.End(SIGKILL);
-        EXPECT_EQ(program.Stored(), before);
-        program.Submit(u"1"_s, u"1.00"_s);
-        EXPECT_EQ(program.Stored().size(), before.size() + 1);
-    });
-}
-
 } // namespace

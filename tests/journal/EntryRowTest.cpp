@@ -97,26 +97,30 @@ TEST_F(EntryRowTest, BooksIntoTheCashBookThatWasMeantOrNowhere) {
     book.Run(u"INSERT INTO cash_book (name, account) VALUES ('Laden', '1010')"_s);
     row.NewSale();
     window.selectors.CashbookPopup.SetListIndex(1);
-    book.Hide(u"cash_book"_s);
-    window.MenuAction(u"cashbook"_s); // As who leaves the preferences does.
-    Submit(u"5"_s);
-    EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Kasse auswählen!"_s);
-    EXPECT_EQ(row.InputField.Text() + book.Value(u"SELECT count(*) FROM cash_journal"_s), u"50"_s);
-    book.Unhide(u"cash_book"_s);
-    row.SubmitButton.Press();
-    EXPECT_EQ(Columns(u"cashbookID amount"_s), u"2|5.0"_s);
-    EXPECT_EQ(window.selectors.CashbookPopup.Text(), u"1010:Laden"_s);
-
-    book.Hide(u"cash_book"_s);
-    window.MenuAction(u"cashbook"_s);
-    bookings.SetListIndex(0);
-    row.EditSale(EntryRow::EditMode::Change);
-    row.InputField.SetText(u"7"_s);
-    row.ChangeButton.Press();
-    EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Kasse auswählen!"_s);
-    book.Unhide(u"cash_book"_s);
-    row.ChangeButton.Press();
-    EXPECT_EQ(Columns(u"cashbookID amount"_s), u"2|7.0"_s);
+    const auto loseCashBooks = [this] {
+        book.Hide(u"cash_book"_s);
+        window.MenuAction(u"cashbook"_s); // As who leaves the preferences does.
+    };
+    for (PushButton *button : {&row.SubmitButton, &row.ChangeButton}) {
+        loseCashBooks();
+        bookings.SetListIndex(0);
+        row.EditSale(EntryRow::EditMode::Change); // Of the booking from the first time.
+        row.InputField.SetText(button == &row.SubmitButton ? u"5"_s : u"7"_s);
+        category.SetText(u"frei"_s);
+        const QString typed = row.InputField.Text();
+        button->Press();
+        EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Kasse auswählen!"_s);
+        EXPECT_EQ(row.InputField.Text(), typed);
+        book.Unhide(u"cash_book"_s);
+        button->Press();
+        EXPECT_EQ(Columns(u"id cashbookID amount"_s), u"1|2|%1.0"_s.arg(typed));
+    }
+    for (const auto &word : {u"print"_s, u"export"_s}) {
+        loseCashBooks();
+        book.Unhide(u"cash_book"_s);
+        window.MenuAction(word);
+        EXPECT_EQ(window.selectors.CashbookPopup.Text(), u"1010:Laden"_s);
+    }
 }
 
 TEST_F(EntryRowTest, OffersNothingOfTheOtherSideWhenTheListsCannotBeRead) {

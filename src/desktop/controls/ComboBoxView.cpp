@@ -68,7 +68,7 @@ void ComboBoxView::OfferCompletions() {
     completer->setCaseSensitivity(Qt::CaseInsensitive);
     setCompleter(completer);
     completer->popup()->installEventFilter(this);
-    // Some desktops take a click beside the list to it, and not all of them give it back.
+    // The open list gets the clicks beside it too. Not every desktop hands them on; this view does.
     completer->popup()->setAttribute(Qt::WA_NoMouseReplay);
     TakeAsOneLine(*lineEdit());
 }
@@ -96,41 +96,25 @@ QString ComboBoxView::Completion() const {
 }
 
 bool ComboBoxView::eventFilter(QObject *watched, QEvent *event) {
-    const bool isList = watched == completer()->popup();
-    if (event->type() == QEvent::KeyPress && isList) {
-        return CompletionKey(static_cast<QKeyEvent *>(event));
-    }
-    if (isList && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) {
-        FollowClicksWhile(event->type() == QEvent::Show);
-    }
-    if (event->type() == QEvent::MouseButtonPress) {
-        return ClickBeside(watched, *static_cast<QMouseEvent *>(event));
+    if (watched == completer()->popup()) {
+        if (event->type() == QEvent::KeyPress) {
+            return CompletionKey(static_cast<QKeyEvent *>(event));
+        }
+        if (event->type() == QEvent::MouseButtonPress) {
+            return ClickBeside(*static_cast<QMouseEvent *>(event));
+        }
     }
     return QComboBox::eventFilter(watched, event);
 }
 
-bool ComboBoxView::ClickBeside(const QObject *watched, const QMouseEvent &press) {
+bool ComboBoxView::ClickBeside(const QMouseEvent &press) {
     QAbstractItemView &list = *completer()->popup();
-    if (watched != &list) {
-        // On its way to the window, which would take it to the open list.
-        list.hide();
-        return false;
-    }
     const bool beside = !list.rect().contains(press.position().toPoint());
     if (beside) {
         list.hide();
         HandOn(press);
     }
     return beside;
-}
-
-void ComboBoxView::FollowClicksWhile(bool listIsOpen) {
-    QWindow *page = window()->windowHandle();
-    if (listIsOpen) {
-        page->installEventFilter(this);
-    } else {
-        page->removeEventFilter(this);
-    }
 }
 
 bool ComboBoxView::CompletionKey(QKeyEvent *event) {

@@ -24,8 +24,7 @@ protected:
 private:
     void ShowCombo();
     void OfferCompletions();
-    void FollowClicksWhile(bool listIsOpen);
-    bool ClickBeside(const QObject *watched, const QMouseEvent &press);
+    bool ClickBeside(const QMouseEvent &press);
     bool CompletionKey(QKeyEvent *event);
     QString Completion() const;
 

@@ -30,7 +30,7 @@ TEST(RecordSet, ReadsEveryKindOfValue) {
     Book book;
     book.Run(u"CREATE TABLE t (flag boolean, amount double, day date)"_s);
     book.Run(u"INSERT INTO t VALUES ('1', '12.50', '2026-02-28 10:00:00'), "
-             "('0', '12,50', '2026-02-30'), (NULL, NULL, NULL), (2, 'abc', 2026)"_s);
+             "('0', '12,50', '2026-02-30'), (NULL, NULL, NULL), (2, 'abc', '2026-02-281')"_s);
     QStringList read;
     for (const auto records = book.app.kvoDB().SQLSelect(u"SELECT * FROM t"_s); !records->AtEnd();
          records->MoveNext()) {

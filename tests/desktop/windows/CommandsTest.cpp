@@ -108,6 +108,14 @@ TEST(MainWindowView, SavesWhatIsTypedHoweverTheProgramEnds) {
     }
 }
 
+TEST(ZolmarkApplication, EndsAfterAnExceptionThatLeftNoWindow) {
+    QTimer close;
+    QObject::connect(&close, &QTimer::timeout, &close, &QApplication::closeAllWindows);
+    close.start(10);
+    QTimer::singleShot(0, &close, [] { throw std::runtime_error("Meldung"); });
+    EXPECT_EQ(QApplication::exec(), EXIT_FAILURE);
+}
+
 TEST(ZolmarkApplication, EndsBehindAMessageAndOpensNoOther) {
     auto &application = *static_cast<ZolmarkApplication *>(qApp);
     QWidget before;
