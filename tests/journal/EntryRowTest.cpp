@@ -97,29 +97,33 @@ TEST_F(EntryRowTest, BooksIntoTheCashBookThatWasMeantOrNowhere) {
     book.Run(u"INSERT INTO cash_book (name, account) VALUES ('Laden', '1010')"_s);
     row.NewSale();
     window.selectors.CashbookPopup.SetListIndex(1);
-    const auto loseCashBooks = [this] {
-        book.Hide(u"cash_book"_s);
-        window.MenuAction(u"cashbook"_s); // As who leaves the preferences does.
+    const auto hide = [this](bool hidden) {
+        for (const auto &table : {u"cash_book"_s, u"cash_journal"_s}) {
+            book.Hide(table, hidden);
+        }
     };
     for (PushButton *button : {&row.SubmitButton, &row.ChangeButton}) {
-        loseCashBooks();
+        hide(true);
+        row.NewSale();
         bookings.SetListIndex(0);
         row.EditSale(EntryRow::EditMode::Change); // Of the booking from the first time.
         row.InputField.SetText(button == &row.SubmitButton ? u"5"_s : u"7"_s);
         category.SetText(u"frei"_s);
         const QString typed = row.InputField.Text();
         button->Press();
-        EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Kasse auswählen!"_s);
-        EXPECT_EQ(row.InputField.Text(), typed);
-        book.Unhide(u"cash_book"_s);
+        EXPECT_EQ(row.ErrorLabel.Text() + row.InputField.Text(),
+                  u"Bitte eine Kasse auswählen!"_s + typed);
+        hide(false);
         button->Press();
         EXPECT_EQ(Columns(u"id cashbookID amount"_s), u"1|2|%1.0"_s.arg(typed));
     }
     for (const auto &word : {u"print"_s, u"export"_s}) {
-        loseCashBooks();
-        book.Unhide(u"cash_book"_s);
+        hide(true);
+        row.NewSale();
+        hide(false);
         window.MenuAction(word);
-        EXPECT_EQ(window.selectors.CashbookPopup.Text(), u"1010:Laden"_s);
+        EXPECT_EQ(window.selectors.CashbookPopup.Text() + window.selectors.YearPopup.Text(),
+                  u"1010:Laden2026"_s);
     }
 }
 
@@ -134,8 +138,8 @@ TEST_F(EntryRowTest, OffersNothingOfTheOtherSideWhenTheListsCannotBeRead) {
     EXPECT_EQ(tax.Text() + category.Text(), QString());
     row.SubmitButton.Press();
     EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Steuer auswählen!"_s);
-    book.Unhide(u"cash_tax"_s);
-    book.Unhide(u"cash_accounts"_s);
+    book.Hide(u"cash_tax"_s, false);
+    book.Hide(u"cash_accounts"_s, false);
     category.SetText(u"Porto"_s);
     row.SubmitButton.Press();
     EXPECT_EQ(Columns(u"type tax category account"_s), u"A|9|Porto|4910"_s);
@@ -198,7 +202,7 @@ TEST_F(ChangeTest, KeepsTheTaxThoughTheTaxesCouldNotBeRead) {
     bookings.SetListIndex(0);
     book.Hide(u"cash_tax"_s);
     row.EditSale(EntryRow::EditMode::Change);
-    book.Unhide(u"cash_tax"_s);
+    book.Hide(u"cash_tax"_s, false);
     row.ChangeButton.Press();
     EXPECT_EQ(Columns(u"tax category account"_s), u"2|Erlöse 19% USt|8400"_s);
 }

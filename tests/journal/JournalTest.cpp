@@ -35,8 +35,8 @@ TEST_F(JournalTest, TellsAFailedLoadOnceAndBalancesNoRowsOfAnotherYear) {
     book.Hide(u"cash_tax"_s);
     window.selectors.YearPopup.SetListIndex(1);
     EXPECT_EQ(book.desktop.TakeMessages(), u"DB Error: no such table: cash_tax"_s);
-    EXPECT_EQ(bookings.Cell(0, Journal::Balance), u"121,00"_s);
-    EXPECT_EQ(window.balances.OpeningBalanceLabel.Text(), u"120,00"_s);
+    EXPECT_EQ(window.balances.OpeningBalanceLabel.Text() + bookings.Cell(0, Journal::Balance),
+              u"120,00121,00"_s);
 }
 
 TEST_F(JournalTest, TakesTheFirstCashBookForTheMainOneWhateverItsTag) {

@@ -2,6 +2,8 @@
 
 #include "support/Book.h"
 
+#include <QSignalSpy>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -30,8 +32,12 @@ TEST(Selectors, SelectTheRememberedCashBookOrTheLastOne) {
     Book book;
     Selectors selectors(book.app);
     book.Run(u"INSERT INTO cash_book (name, account) VALUES ('b', '2'), ('c', '3')"_s);
-    selectors.GetCashbooks();
-    selectors.CashbookPopup.SetListIndex(2);
+    const QSignalSpy refreshes(&selectors, &Selectors::RefreshJournal);
+    selectors.ChangeTogether([&] {
+        selectors.GetCashbooks();
+        selectors.CashbookPopup.SetListIndex(2);
+    });
+    EXPECT_EQ(refreshes.count(), 1);
     book.Run(u"UPDATE cash_book SET name = 'C' WHERE account = '3'"_s);
     selectors.GetCashbooks();
     EXPECT_EQ(selectors.CashbookPopup.Text(), u"3:C"_s);

@@ -34,12 +34,11 @@ public:
     void Add(const Booking &booking) const;
     /// Runs a statement, which must not fail.
     void Run(const QString &sql) const;
-    /// Every statement on a table fails until it is there again.
-    void Hide(const QString &table) const {
-        Run(QStringLiteral("ALTER TABLE %1 RENAME TO hidden_%1").arg(table));
-    }
-    void Unhide(const QString &table) const {
-        Run(QStringLiteral("ALTER TABLE hidden_%1 RENAME TO %1").arg(table));
+    /// While a table is hidden, every statement on it fails.
+    void Hide(const QString &table, bool hidden = true) const {
+        const QString other = QStringLiteral("hidden_") + table;
+        Run(QStringLiteral("ALTER TABLE %1 RENAME TO %2")
+                .arg(hidden ? table : other, hidden ? other : table));
     }
     /// The first column of the first row, as text.
     QString Value(const QString &sql) const;

@@ -82,7 +82,7 @@ TEST_F(PreferencesPageTest, RemovesOneRecordHoweverOftenOneStrikes) {
     QApplication::sendEvent(&accounts, &held);
     QKeyEvent heldOnPlus(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
     QApplication::sendEvent(button.findChild<QAbstractButton *>(), &heldOnPlus);
-    EXPECT_EQ(Accounts(), u"c10A0"_s);
+    EXPECT_EQ(accounts.model()->rowCount(), 1);
 }
 
 TEST_F(PreferencesPageTest, WritesAnOpenCellBeforeACommandAndTakesItsEditorAway) {
