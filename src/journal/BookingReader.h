@@ -12,7 +12,7 @@ public:
     /// The same, each with the account of its cash book; without one it is left out too.
     static QString StatementWithCashBooks(const QString &condition);
 
-    /// The record set lives as long as the reader.
+    /// The record set must live as long as the reader.
     explicit BookingReader(RecordSet &records);
 
     QString Id() const { return id_.StringValue(); }

@@ -17,11 +17,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void Paste(QLineEdit &edit, QClipboard::Mode mode) {
-    if (const QString text = QApplication::clipboard()->text(mode);
-        !edit.isReadOnly() && !text.isEmpty()) {
-        edit.insert(OneLine(text));
+/// Pastes what is not one line yet. All else is left to the toolkit, which makes a step of its own
+/// of it for Undo.
+bool Paste(QLineEdit &edit, QClipboard::Mode mode) {
+    const QString text = QApplication::clipboard()->text(mode);
+    const QString line = OneLine(text);
+    if (edit.isReadOnly() || line == text) {
+        return false;
     }
+    edit.insert(line);
+    return true;
 }
 
 /// Stands before a line edit and answers each of the roads by which it takes foreign text.
@@ -54,8 +59,7 @@ private:
         }
         const bool selection = event.key() == Qt::Key_Insert &&
                                event.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
-        Paste(edit_, selection ? QClipboard::Selection : QClipboard::Clipboard);
-        return true;
+        return Paste(edit_, selection ? QClipboard::Selection : QClipboard::Clipboard);
     }
 
     /// The middle button pastes what is marked in any program, where the desktop knows that.
@@ -64,8 +68,7 @@ private:
             return false;
         }
         edit_.deselect();
-        Paste(edit_, QClipboard::Selection);
-        return true;
+        return Paste(edit_, QClipboard::Selection);
     }
 
     void OpenMenu(QPoint place) {
@@ -109,5 +112,7 @@ void TakeAsOneLine(QLineEdit &edit) {
 }
 
 void PasteAsOneLine(QLineEdit &edit) {
-    Paste(edit, QClipboard::Clipboard);
+    if (!Paste(edit, QClipboard::Clipboard)) {
+        edit.paste();
+    }
 }

@@ -51,6 +51,8 @@ void CellModel::EndRefill() {
 
 void CellModel::TakeRows(Rows rows) {
     rowTags_ = std::move(rows.tags);
+    rows.cells.resize(columns_.size());
+    rows.cellTags.resize(columns_.size());
     for (size_t column = 0; column < columns_.size(); ++column) {
         columns_[column].cells = std::move(rows.cells[column]);
         columns_[column].cells.resize(rowTags_.size());

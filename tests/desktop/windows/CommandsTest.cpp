@@ -79,6 +79,9 @@ TEST_F(CommandsTest, OfTheEditMenuActOnTheFocusedField) {
         texts += u' ' + field.text();
     }
     EXPECT_EQ(texts, u" ab  ab abab ab ab ab "_s);
+    field.setFocus();
+    Type(u"c{Ctrl+V}{Ctrl+Z}"_s);
+    EXPECT_EQ(field.text(), u"c"_s) << "what was typed before is a step of its own";
     list.setFocus();
     EXPECT_FALSE(Find<QAction>(u"EditPaste"_s).isEnabled());
 }
