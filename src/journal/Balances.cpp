@@ -54,8 +54,7 @@ void Balances::ReCalcAmount() {
 
 void Balances::RunBalance(Currency balance) {
     Listbox &list = journal_.CashList;
-    std::vector<QString> texts;
-    texts.reserve(static_cast<size_t>(list.ListCount()));
+    std::vector<QString> texts(static_cast<size_t>(list.ListCount()));
     for (int row = 0; row < list.ListCount(); ++row) {
         const QString input = list.Cell(row, Journal::Input);
         const QString output = list.Cell(row, Journal::Output);
@@ -65,7 +64,7 @@ void Balances::RunBalance(Currency balance) {
             balance =
                 Currency::FromDouble(balance.ToDouble() - TLXModule::AmountText2Value(output));
         }
-        texts.push_back(app_.Locale().FormatBalance(balance.ToDouble()));
+        texts[static_cast<size_t>(row)] = app_.Locale().FormatBalance(balance.ToDouble());
     }
     list.SetColumn(Journal::Balance, std::move(texts));
 }

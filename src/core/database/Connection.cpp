@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr int lockTimeoutMs = 5000;
 constexpr int lockPollMs = 20;
 
 } // namespace
@@ -16,14 +15,15 @@ void Connection::Closer::operator()(sqlite3 *handle) const {
     sqlite3_close_v2(handle);
 }
 
-Connection::Connection(const QString &path, const QByteArray &key, Missing missing)
-    : open_(Open(path, key, missing)) {}
+Connection::Connection(const QString &path, const QByteArray &key,
+                       std::chrono::milliseconds patience)
+    : patience_(patience), open_(Open(path, key)) {}
 
-bool Connection::Open(const QString &path, const QByteArray &key, Missing missing) {
+bool Connection::Open(const QString &path, const QByteArray &key) {
     const bool inMemory = path.isEmpty();
     // The program has one thread: without a lock around each value of a row.
-    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX |
-                      (inMemory || missing == Missing::Create ? SQLITE_OPEN_CREATE : 0);
+    const int flags =
+        SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (inMemory ? SQLITE_OPEN_CREATE : 0);
     const QByteArray name = inMemory ? QByteArrayLiteral(":memory:") : path.toUtf8();
     sqlite3 *handle = nullptr;
     const int result = sqlite3_open_v2(name.constData(), &handle, flags, nullptr);
@@ -74,10 +74,10 @@ int Connection::WaitForLock(void *connection, int attempts) {
         return 0;
     }
     if (attempts == 0) {
-        self.lockWait_.setRemainingTime(lockTimeoutMs);
+        self.lockWait_.setRemainingTime(self.patience_);
     }
     if (self.lockWait_.hasExpired()) {
-        self.restAfterWait_.setRemainingTime(lockTimeoutMs);
+        self.restAfterWait_.setRemainingTime(self.patience_);
         return 0;
     }
     QThread::msleep(lockPollMs);

@@ -4,6 +4,7 @@
 #include <QDeadlineTimer>
 #include <QString>
 
+#include <chrono>
 #include <memory>
 
 struct sqlite3;
@@ -12,15 +13,14 @@ struct sqlite3;
 /// database object and by all statements and record sets that came from it, and closes with the
 /// last.
 ///
-/// A file that another program has locked is waited for up to 5 s. After a wait in vain nothing
-/// waits for as long again: one command runs many statements, and the user waits but once.
+/// A file that another program has locked is waited for as long as the patience lasts. After a
+/// wait in vain nothing waits for as long again: one command runs many statements, and the user
+/// waits but once.
 class Connection {
 public:
-    enum class Missing { Refuse, Create };
-
-    /// Opens the file with the key, an empty path in memory and without one. A file is opened when
-    /// the key fits and its first page could be read; otherwise Error is set.
-    Connection(const QString &path, const QByteArray &key, Missing missing);
+    /// Opens the file, which must exist, with the key; an empty path in memory and without one. A
+    /// file is opened when the key fits and its first page could be read; otherwise Error is set.
+    Connection(const QString &path, const QByteArray &key, std::chrono::milliseconds patience);
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;
 
@@ -45,13 +45,14 @@ private:
         void operator()(sqlite3 *handle) const;
     };
 
-    bool Open(const QString &path, const QByteArray &key, Missing missing);
+    bool Open(const QString &path, const QByteArray &key);
     bool Unlock(const QByteArray &key);
     bool Settle();
     static int WaitForLock(void *connection, int attempts);
 
     std::unique_ptr<sqlite3, Closer> handle_;
     QString message_;
+    std::chrono::milliseconds patience_;
     QDeadlineTimer lockWait_;
     QDeadlineTimer restAfterWait_;
     bool open_ = false; // After what opening writes to.

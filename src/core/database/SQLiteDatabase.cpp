@@ -27,16 +27,11 @@ bool SQLiteDatabase::CreateDatabaseFile() {
     if (file_ && !file_->Exists()) {
         CreateForOwnerAlone(file_->Path());
     }
-    return Open(true);
+    return Connect();
 }
 
 bool SQLiteDatabase::Connect() {
-    return Open(false);
-}
-
-bool SQLiteDatabase::Open(bool create) {
-    const auto missing = create ? Connection::Missing::Create : Connection::Missing::Refuse;
-    connection_ = std::make_shared<Connection>(file_ ? file_->Path() : QString(), key_, missing);
+    connection_ = std::make_shared<Connection>(file_ ? file_->Path() : QString(), key_, patience_);
     return connection_->IsOpen();
 }
 

@@ -8,6 +8,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
@@ -16,7 +17,7 @@ class Connection;
 /// An SQLite database in a keyed file, or in memory when it has no file.
 ///
 /// Every operation leaves its outcome in Error and ErrorMessage. On a database that is not open
-/// every operation fails. A file that another program holds locked is waited for, up to 5 s.
+/// every operation fails.
 class SQLiteDatabase {
 public:
     SQLiteDatabase();
@@ -29,6 +30,9 @@ public:
     std::optional<FolderItem> DatabaseFile() const { return file_; }
     /// The key, set before the file is created or opened. Without one the file is plain.
     void SetEncryptionKey(const QByteArray &key) { key_ = key; }
+    /// How long a file that another program holds locked is waited for, 5 s unless told otherwise.
+    /// To be set before it is opened.
+    void SetPatience(std::chrono::milliseconds patience) { patience_ = patience; }
 
     /// Creates the file for its owner alone, and opens it. An existing file is opened as it is.
     [[nodiscard]] bool CreateDatabaseFile();
@@ -52,11 +56,11 @@ public:
     QString ErrorMessage() const;
 
 private:
-    bool Open(bool create);
     std::unique_ptr<Statement> Compile(const QString &sql);
 
     std::optional<FolderItem> file_;
     QByteArray key_;
+    std::chrono::milliseconds patience_ = std::chrono::seconds(5);
     /// Null until the first attempt to open.
     std::shared_ptr<Connection> connection_;
 };

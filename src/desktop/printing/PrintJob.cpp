@@ -2,6 +2,7 @@
 
 #include "desktop/controls/PainterGraphics.h"
 #include "platform/outside/TextOutputStream.h"
+#include "platform/values/Text.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -21,17 +22,6 @@ namespace {
 
 constexpr double pointsPerInch = 72;
 const auto cannotPrint = u"Der Bericht konnte nicht gedruckt werden."_s;
-
-/// Without control characters: a line is one line.
-QString OneLine(QString text) {
-    const auto isControl = [](QChar letter) {
-        return letter.category() == QChar::Other_Control ||
-               letter.category() == QChar::Separator_Line ||
-               letter.category() == QChar::Separator_Paragraph;
-    };
-    std::replace_if(text.begin(), text.end(), isControl, u' ');
-    return text;
-}
 
 QSizeF PaperOf(const QPrinter &printer) {
     return printer.pageLayout().fullRect(QPageLayout::Point).size();
@@ -104,8 +94,6 @@ void PrintJob::DrawPicture(const FolderItem &file, double x, double y) {
 void PrintJob::SetTextFont(const QString &family) {
     // A program that asks for Courier counts on letters of one width.
     font_.setFamily(family);
-    font_.setStyleHint(QFont::TypeWriter);
-    font_.setFixedPitch(true);
     if (!QFontInfo(QFont(font_, printer_.get())).fixedPitch()) {
         font_.setFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
     }

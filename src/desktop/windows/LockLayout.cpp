@@ -16,9 +16,7 @@ std::pair<int, int> Follow(int start, int length, int growth, bool lockStart, bo
 
 } // namespace
 
-LockLayout::LockLayout(QWidget *parent, QSize design) : QLayout(parent), design_(design) {
-    setContentsMargins(0, 0, 0, 0);
-}
+LockLayout::LockLayout(QWidget *parent, QSize design) : QLayout(parent), design_(design) {}
 
 LockLayout::~LockLayout() {
     for (const Item &each : items_) {

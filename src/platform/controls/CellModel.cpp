@@ -27,10 +27,10 @@ void Reorder(Values &values, const std::vector<int> &order) {
         return;
     }
     values.resize(order.size());
-    Values ordered;
-    ordered.reserve(order.size());
+    Values ordered(order.size());
+    auto place = ordered.begin();
     for (const int row : order) {
-        ordered.push_back(std::move(values[static_cast<size_t>(row)]));
+        *place++ = std::move(values[static_cast<size_t>(row)]);
     }
     values = std::move(ordered);
 }
@@ -87,7 +87,8 @@ void CellModel::AddRow(const QString &text) {
 
 QString CellModel::Cell(int row, int column) const {
     if (row >= 0) {
-        const bool stands = Has(row) && column < ColumnCount(); // -1 stands for all.
+        // A column below 0 stands for all.
+        const bool stands = Has(row) && column < ColumnCount();
         return !stands      ? QString()
                : column < 0 ? JoinedCells(row)
                             : ColumnAt(column).cells[static_cast<size_t>(row)];

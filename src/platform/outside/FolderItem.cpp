@@ -54,8 +54,7 @@ bool FolderItem::MoveTo(const FolderItem &place) const {
         return true;
     }
     // Some disks know one name alone for a file.
-    if (error == std::errc::file_exists || std::filesystem::symlink_status(to, error).type() !=
-                                               std::filesystem::file_type::not_found) {
+    if (std::filesystem::exists(std::filesystem::symlink_status(to, error))) {
         return false;
     }
     std::filesystem::rename(from, to, error);
