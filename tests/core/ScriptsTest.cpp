@@ -4,20 +4,15 @@
 
 #include <QCryptographicHash>
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
 TEST(Scripts, MakeTheTablesOfTheFileFormatAndEveryRowThatTheyStartWith) {
     struct Case {
         QString statement;
         QByteArray sum;
     };
-    // The beginnings of the sums that sha256sum gives for what the shell prints, or for the rows of
-    // the published tables written like that.
+    // The beginnings of the sums that sha256sum gives for what the shell prints, or for the rows of the published
+    // tables written like that.
     const QString accounts = u"SELECT * FROM cash_accounts"_s;
-    const Case cases[] = {{u"SELECT sql FROM sqlite_master WHERE name LIKE 'c%' ORDER BY rowid"_s,
-                           "4672ff3be92555aa"},
+    const Case cases[] = {{u"SELECT sql FROM sqlite_master WHERE name LIKE 'c%' ORDER BY rowid"_s, "4672ff3be92555aa"},
                           {u"SELECT * FROM cash_accounts_frame"_s, "25e08d11ea944df1"},
                           {u"SELECT * FROM cash_accounts_groups"_s, "aef3b70bba329317"},
                           {u"SELECT * FROM cash_tax"_s, "1b554d12f7705e3a"},
@@ -34,5 +29,3 @@ TEST(Scripts, MakeTheTablesOfTheFileFormatAndEveryRowThatTheyStartWith) {
     book.Run(ChartSKR04SQL());
     EXPECT_EQ(sumOf(ReadWithShell(book.app, accounts)), "67f5180e34b07b11");
 }
-
-} // namespace

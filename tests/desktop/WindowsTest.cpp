@@ -8,16 +8,9 @@
 
 #include <QAction>
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The window that shows, of this name.
-QWidget *Shown(const QString &name) {
+static QWidget *Shown(const QString &name) {
     for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (window->objectName() == name && window->isVisible()) {
-            return window;
-        }
+        if (window->objectName() == name && window->isVisible()) { return window; }
     }
     return nullptr;
 }
@@ -38,11 +31,8 @@ TEST_F(FirstStartTest, LeadsFromTheWelcomeWindowIntoTheSampleBook) {
     auto *welcome = static_cast<QMainWindow *>(Shown(u"WelcomeWindow"_s));
     ASSERT_TRUE(welcome && !Shown(u"MainWindow"_s));
     EXPECT_TRUE(welcome->findChild<QAction *>(u"AboutItem"_s)->isEnabled());
-    // On the title that lies over the button.
     const QPoint title = welcome->centralWidget()->pos() + QPoint(700, 22);
-    const auto click = [=] {
-        QTest::mouseClick(welcome->windowHandle(), Qt::LeftButton, {}, title);
-    };
+    const auto click = [=] { QTest::mouseClick(welcome->windowHandle(), Qt::LeftButton, {}, title); };
     EXPECT_FALSE(Press(Qt::Key_Return, click).isEmpty());
     const QWidget *main = Shown(u"MainWindow"_s);
     ASSERT_TRUE(main && !Shown(u"WelcomeWindow"_s));
@@ -53,8 +43,7 @@ TEST_F(FirstStartTest, LeadsFromTheWelcomeWindowIntoTheSampleBook) {
 TEST_F(FirstStartTest, LeadsByTheKeysToABookOfOnesOwn) {
     const auto pressReturn = [this] { Type(u"\r"_s); };
     pressReturn();
-    EXPECT_TRUE(
-        Press(Qt::Key_Return, pressReturn).contains(u"Bitte geben Sie einen Firmannamen an"_s));
+    EXPECT_TRUE(Press(Qt::Key_Return, pressReturn).contains(u"Bitte geben Sie einen Firmannamen an"_s));
     Type(u"Peter's\r\x1b\r{Down}"_s); // Escape leads back, and Return on again.
     EXPECT_FALSE(Press(Qt::Key_Return, pressReturn).isEmpty()) << "for the apostrophe";
     Type(u"\x1b\b\b\r\r"_s);
@@ -80,10 +69,7 @@ TEST(WelcomeWindowView, ShowsThePointedButtonAndOpensTheManualByKeys) {
     view.show();
     QTest::mouseMove(view.windowHandle(), {600, 200});
     QTest::mouseMove(view.windowHandle(), {700, 250});
-    EXPECT_TRUE(
-        QTest::qWaitFor([&view] { return view.grab().toImage().pixel(575, 290) == 0xffe6e6e6; }));
+    EXPECT_TRUE(QTest::qWaitFor([&view] { return view.grab().toImage().pixel(575, 290) == 0xffe6e6e6; }));
     Type(view.windowHandle(), u"\t "_s); // From the new book to the manual.
     EXPECT_EQ(book.desktop.opened, QStringList(book.desktop.Path(u"Resources/Zolmark.pdf"_s)));
 }
-
-} // namespace

@@ -1,17 +1,13 @@
 #pragma once
 
 #include "setup/WelcomeWindow.h"
-#include "shell/MainWindow.h"
 #include "support/Book.h"
 
-#include <optional>
-
-/// The program from its start, without a widget: the welcome window makes a book if there is none,
-/// and opens the main window. What fails is told by the desktop's messages.
+/// The program from its start, without a widget: the welcome window makes a book if there is none, and opens the main
+/// window. What fails is told by the desktop's messages.
 class Program {
 public:
-    explicit Program(FakeDesktop &desktop)
-        : app(desktop, UserLocale(QLocale(QLocale::German, QLocale::Germany))) {
+    explicit Program(FakeDesktop &desktop) : app(desktop, UserLocale(QLocale(QLocale::German, QLocale::Germany))) {
         QObject::connect(&welcome, &WelcomeWindow::MainWindowWanted, &welcome, [this] {
             window.emplace(app);
             window->Event_Open();
@@ -32,47 +28,42 @@ public:
         row.NoteField.SetText(number.repeated(times));
         row.SubmitButton.Press();
     }
-    /// Gives a booking of the list another amount.
     void Change(int listRow, const QString &amount) {
         window->journal.CashList.SetListIndex(listRow);
-        window->MenuAction(QStringLiteral("edit"));
+        window->MenuAction(u"edit"_s);
         window->entryRow.InputField.SetText(amount);
         window->entryRow.ChangeButton.Press();
     }
     void Delete(int listRow) {
         window->journal.CashList.SetListIndex(listRow);
-        window->MenuAction(QStringLiteral("delete"));
+        window->MenuAction(u"delete"_s);
     }
 
     /// All bookings in the order of the list; each as Line tells it if it is complete.
     QStringList Stored() const {
-        return Lines(QStringLiteral(
-            "SELECT CASE WHEN replace(note, salesnumber, '') = '' AND vdate || tax || category || "
-            "cashbookID || bdate || account > '' THEN salesnumber || '|' || type || '|' || "
-            "printf('%.2f', amount) || '|' || input || '|' || length(note) ELSE 'half' END "
-            "FROM cash_journal ORDER BY id"));
+        return Lines(u"SELECT CASE WHEN replace(note, salesnumber, '') = '' AND vdate || tax || category || "
+                     "cashbookID || bdate || account > '' THEN salesnumber || '|' || type || '|' || "
+                     "printf('%.2f', amount) || '|' || input || '|' || length(note) ELSE 'half' END "
+                     "FROM cash_journal ORDER BY id"_s);
     }
     static QString Line(const QString &number, const QString &amount, int times) {
-        return QStringLiteral("%1|E|%2|%2|%3").arg(number, amount).arg(number.size() * times);
+        return u"%1|E|%2|%2|%3"_s.arg(number, amount).arg(number.size() * times);
     }
     /// Whether the engine finds the whole file in order; SQLCipher 4 names each page that is not.
     bool IsSound() const {
-        return Lines(QStringLiteral("PRAGMA integrity_check")).join(u' ') == u"ok" &&
-               Lines(QStringLiteral("PRAGMA cipher_integrity_check")).isEmpty();
+        return Lines(u"PRAGMA integrity_check"_s).join(u' ') == u"ok" &&
+               Lines(u"PRAGMA cipher_integrity_check"_s).isEmpty();
     }
 
     App app;
     WelcomeWindow welcome{app};
-    /// There is none while the book could not be made.
     std::optional<MainWindow> window;
 
 private:
     QStringList Lines(const QString &sql) const {
         QStringList lines;
         const auto records = app.kvoDB().SQLSelect(sql);
-        for (; records && !records->AtEnd(); records->MoveNext()) {
-            lines.append(records->IdxField(1).StringValue());
-        }
+        for (; records && !records->AtEnd(); records->MoveNext()) { lines.append(records->IdxField(1).StringValue()); }
         EXPECT_EQ(app.kvoDB().ErrorMessage(), QString());
         return lines;
     }

@@ -1,10 +1,6 @@
-#include "support/BookTest.h"
+#include "platform/controls/MenuItem.h"
+#include "support/Book.h"
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The entry row of the main window on a book.
 class EntryRowTest : public BookTest {
 protected:
     EntryRowTest() : BookTest(Book::Place::File) { window.Event_Open(); }
@@ -20,8 +16,8 @@ protected:
     }
     /// Columns of the last booking, one after the other.
     QString Columns(const QString &columns) const {
-        return book.Value(u"SELECT %1 FROM cash_journal ORDER BY id DESC LIMIT 1"_s.arg(
-            columns.split(u' ').join(u" || '|' || "_s)));
+        return book.Value(
+            u"SELECT %1 FROM cash_journal ORDER BY id DESC LIMIT 1"_s.arg(columns.split(u' ').join(u" || '|' || "_s)));
     }
 
     EntryRow &row = window.entryRow;
@@ -31,48 +27,56 @@ protected:
 
 TEST_F(EntryRowTest, WritesEveryColumnOfAReceiptAndOfAnExpense) {
     row.SaleNumberField.SetText(u"R-1"_s);
-    row.NoteField.SetText(u"Barverkauf"_s);
+    row.NoteField.SetText(u"'); DROP TABLE cash_journal; -- %1 \"\u202e\U0001F469\u200D"_s);
     Submit(u"12,50"_s);
     row.DateField.SetDateValue(Date(QDate(2026, 3, 16)));
     TypeExpense(u"3"_s);
     row.SubmitButton.Press();
     EXPECT_EQ(ReadWithShell(book.app, u".nullvalue NULL\nSELECT *, typeof(amount), typeof(input), "
                                       "typeof(cashbookID), typeof(bdate) FROM cash_journal"_s),
-              u"1|2026-03-15|E|12.50|NULL|12.5|3|Erlöse 19% USt|R-1|Barverkauf|1|"
-              "2026-03-15 12:00:00|8400|real|text|integer|text\n"
-              "2|2026-03-16|A|NULL|3|3.0|9|Porto|||1|"
-              "2026-03-15 12:00:00|4910|real|null|integer|text"_s);
+              u"1|2026-03-15|E|12.50|NULL|12.5|3|Erlöse 19% USt|R-1|'); DROP TABLE cash_journal; "
+              u"-- %1 \"\u202e\U0001F469\u200D|1|2026-03-15 12:00:00|8400|real|text|integer|text\n"
+              "2|2026-03-16|A|NULL|3|3.0|9|Porto|||1|2026-03-15 12:00:00|4910|real|null|integer|text"_s);
 }
 
 TEST_F(EntryRowTest, KeepsAnyAmountAsTypedAndShowsTheNumberAtItsStart) {
-    const QString cases = u"12.50=12.50|real=12,50 112,50;-5=-5|real=-5,00 95,00;"
-                          "1.234,56=1.234.56|text=1,23 101,23;zwölf=zwölf|text=0,00 100,00;"
-                          " 7 EUR= 7 EUR|text=7,00 107,00"_s;
-    for (const QString &each : cases.split(u';')) {
-        const QStringList texts = each.split(u'=');
-        Submit(texts[0]);
-        EXPECT_EQ(Columns(u"input typeof(amount)"_s), texts[1]);
-        EXPECT_EQ(bookings.Cell(-1, Journal::Input) + u' ' + bookings.Cell(-1, Journal::Balance),
-                  texts[2]);
+    struct Case {
+        QString typed, stored, type, shown, balance;
+    };
+    const Case cases[] = {{u"12.50"_s, u"12.50"_s, u"real"_s, u"12,50"_s, u"112,50"_s},
+                          {u"-5"_s, u"-5"_s, u"real"_s, u"-5,00"_s, u"95,00"_s},
+                          {u"1.234,56"_s, u"1.234.56"_s, u"text"_s, u"1,23"_s, u"101,23"_s},
+                          {u"zwölf"_s, u"zwölf"_s, u"text"_s, u"0,00"_s, u"100,00"_s},
+                          {u" 7 EUR"_s, u" 7 EUR"_s, u"text"_s, u"7,00"_s, u"107,00"_s}};
+    for (const Case &each : cases) {
+        Submit(each.typed);
+        EXPECT_EQ(Columns(u"input"_s), each.stored);
+        EXPECT_EQ(Columns(u"typeof(amount)"_s), each.type) << qPrintable(each.typed);
+        EXPECT_EQ(bookings.Cell(-1, Journal::Input), each.shown);
+        EXPECT_EQ(bookings.Cell(-1, Journal::Balance), each.balance) << qPrintable(each.typed);
         book.Run(u"DELETE FROM cash_journal"_s);
     }
 }
 
 TEST_F(EntryRowTest, SaysTheLastThingThatIsMissingAndSavesNothing) {
-    const std::tuple<QString, QString, QString, QString, QString> cases[] = {
-        {u"15.03."_s, {}, {}, {}, u"Bitte einen Betrag bei Einnahme oder Ausgabe eintragen!"_s},
+    struct Case {
+        QString date, amount, tax, category, message;
+    };
+    const Case cases[] = {
+        {u"15.03."_s, {}, {}, u"Porto"_s, u"Bitte einen Betrag bei Einnahme oder Ausgabe eintragen!"_s},
         {u"31.12.2025"_s, u"1"_s, u"keine"_s, u"Porto"_s,
          u"Buchungsdatum darf nicht unter dem Eröffnungsdatum liegen!"_s},
         {u"15.03.2026"_s, u"1"_s, u"nirgends"_s, {}, u"Bitte eine Steuer auswählen!"_s},
         {u"1.1."_s, u"1"_s, u"KEINE"_s, {}, u"Bitte Art der Einnahme/Ausgabe auswählen!"_s},
         {u"31.02."_s, u"1"_s, u"KEINE"_s, u"frei"_s, u"Bitte das Datum prüfen!"_s}};
-    for (const auto &[date, amount, taxText, account, message] : cases) {
-        EXPECT_EQ(row.DateField.SetTyped(date), date != u"31.02."_s);
-        row.InputField.SetText(amount);
-        tax.SetText(taxText);
-        category.SetText(account);
+    for (const Case &each : cases) {
+        EXPECT_EQ(row.DateField.SetTyped(each.date), each.date != u"31.02."_s);
+        row.InputField.SetText(each.amount);
+        tax.SetText(each.tax);
+        category.SetText(each.category);
         row.SubmitButton.Press();
-        EXPECT_EQ(row.ErrorLabel.Text(), message);
+        EXPECT_EQ(row.ErrorLabel.Text(), each.message);
+        EXPECT_EQ(category.Text(), each.category);
         EXPECT_TRUE(row.ErrorRect.Visible());
     }
     row.SubmitButton.Press(); // A refused day is asked for once; the day before it is the first.
@@ -97,49 +101,48 @@ TEST_F(EntryRowTest, BooksIntoTheCashBookThatWasMeantOrNowhere) {
     book.Run(u"INSERT INTO cash_book (name, account) VALUES ('Laden', '1010')"_s);
     row.NewSale();
     window.selectors.CashbookPopup.SetListIndex(1);
-    const auto hide = [this](bool hidden) {
-        for (const auto &table : {u"cash_book"_s, u"cash_journal"_s}) {
-            book.Hide(table, hidden);
-        }
-    };
-    for (PushButton *button : {&row.SubmitButton, &row.ChangeButton}) {
-        hide(true);
+    const QStringList tables = {u"cash_book"_s, u"cash_journal"_s};
+    const auto failToLoad = [&] {
+        book.Hide({tables[1]});
+        book.Break(tables[0]);
         row.NewSale();
         bookings.SetListIndex(0);
         row.EditSale(EntryRow::EditMode::Change); // Of the booking from the first time.
-        row.InputField.SetText(button == &row.SubmitButton ? u"5"_s : u"7"_s);
+        EXPECT_EQ(book.desktop.TakeMessages(), u"DB Error: no such table: cash_journal"_s);
+    };
+    QString typed = u"5"_s;
+    for (PushButton *button : {&row.SubmitButton, &row.ChangeButton}) {
+        failToLoad();
+        row.InputField.SetText(typed);
         category.SetText(u"frei"_s);
-        const QString typed = row.InputField.Text();
         button->Press();
-        EXPECT_EQ(row.ErrorLabel.Text() + row.InputField.Text(),
-                  u"Bitte eine Kasse auswählen!"_s + typed);
-        hide(false);
+        EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Kasse auswählen!"_s);
+        EXPECT_EQ(row.InputField.Text(), typed);
+        book.Show(tables);
         button->Press();
         EXPECT_EQ(Columns(u"id cashbookID amount"_s), u"1|2|%1.0"_s.arg(typed));
+        typed = u"7"_s;
     }
     for (const auto &word : {u"print"_s, u"export"_s}) {
-        hide(true);
-        row.NewSale();
-        hide(false);
+        failToLoad();
+        book.Show(tables);
         window.MenuAction(word);
-        EXPECT_EQ(window.selectors.CashbookPopup.Text() + window.selectors.YearPopup.Text(),
-                  u"1010:Laden2026"_s);
+        EXPECT_EQ(window.selectors.CashbookPopup.Text() + window.selectors.YearPopup.Text(), u"1010:Laden2026"_s);
     }
 }
 
 TEST_F(EntryRowTest, OffersNothingOfTheOtherSideWhenTheListsCannotBeRead) {
+    const QStringList tables = {u"cash_tax"_s, u"cash_accounts"_s};
     row.InputField.SetText(u"1"_s);
     category.SetText(u"Erlöse 7% USt"_s);
     row.InputField.SetText({});
-    book.Hide(u"cash_tax"_s);
-    book.Hide(u"cash_accounts"_s);
+    book.Hide(tables);
     row.OutputField.SetText(u"3"_s);
     EXPECT_EQ(tax.ListCount() + category.ListCount(), 0);
     EXPECT_EQ(tax.Text() + category.Text(), QString());
     row.SubmitButton.Press();
     EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Steuer auswählen!"_s);
-    book.Hide(u"cash_tax"_s, false);
-    book.Hide(u"cash_accounts"_s, false);
+    book.Show(tables);
     category.SetText(u"Porto"_s);
     row.SubmitButton.Press();
     EXPECT_EQ(Columns(u"type tax category account"_s), u"A|9|Porto|4910"_s);
@@ -151,68 +154,51 @@ TEST_F(EntryRowTest, TakesTheViewToTheFirstBookingOfANewYear) {
     Submit(u"2"_s);
     EXPECT_EQ(window.selectors.PeriodStartSQL(), u"2027-02-01"_s);
     EXPECT_EQ(bookings.Cell(-1, Journal::Balance), u"103,00"_s);
-    EXPECT_EQ(row.DateField.DateValue().SQLDate() + row.InputField.Text(), u"2027-02-03"_s);
 }
 
-/// The entry row with a booking selected, half a month after its entry.
+/// The entry row on another day than the selected booking, and some time after its entry.
 class ChangeTest : public EntryRowTest {
 protected:
     ChangeTest() {
         row.NoteField.SetText(u"alt"_s);
         Submit(u"10"_s);
         bookings.SetListIndex(0);
+        row.DateField.SetDateValue(Date(QDate(2027, 1, 9)));
         book.desktop.now = Date(QDateTime(QDate(2026, 4, 1), QTime(8, 0)));
+    }
+    void Change() {
+        bookings.SetListIndex(0);
+        row.EditSale(EntryRow::EditMode::Change);
+        row.ChangeButton.Press();
     }
 };
 
-TEST_F(ChangeTest, RewritesTheBookingAndKeepsItsEntryTimeAndItsOldSide) {
+TEST_F(ChangeTest, RewritesTheBookingAndKeepsItsDayItsEntryTimeAndItsOldSide) {
     Q_EMIT bookings.DoubleClick();
     EXPECT_EQ(row.InputField.Text(), u"10,00"_s);
     row.InputField.SetText({});
     TypeExpense(u"20,5"_s);
     row.ChangeButton.Press();
-    EXPECT_EQ(Columns(u"id type input output amount tax category note bdate account"_s),
-              u"1|A|10|20.5|20.5|9|Porto|alt|2026-03-15 12:00:00|4910"_s);
+    EXPECT_EQ(Columns(u"id vdate type input output amount tax category note bdate account"_s),
+              u"1|2026-03-15|A|10|20.5|20.5|9|Porto|alt|2026-03-15 12:00:00|4910"_s);
     EXPECT_EQ(bookings.Cell(-1, Journal::Balance), u"79,50"_s);
 }
 
-TEST_F(ChangeTest, ACopyBecomesANewBooking) {
-    row.EditSale(EntryRow::EditMode::Copy);
+TEST_F(ChangeTest, ACopyFromTheMenuBecomesANewBooking) {
+    MenuItem menu;
+    Q_EMIT bookings.ConstructContextualMenu(menu);
+    EXPECT_EQ(menu.Item(0).Text() + menu.Item(2).Text(), u"BearbeitenLöschen"_s);
+    Q_EMIT bookings.ContextualMenuAction(MenuItem(u"Duplizieren"_s));
     row.SubmitButton.Press();
-    EXPECT_EQ(Columns(u"id input note category bdate"_s),
-              u"2|10.00|alt|Erlöse 19% USt|2026-04-01 08:00:00"_s);
+    EXPECT_EQ(Columns(u"id vdate input note category bdate"_s),
+              u"2|2026-03-15|10.00|alt|Erlöse 19% USt|2026-04-01 08:00:00"_s);
 }
 
 TEST_F(ChangeTest, KeepsTheNameOfASwitchedOffAccountAndAsksForASwitchedOffTax) {
     book.Run(u"UPDATE cash_accounts SET active = 0 WHERE account = '8400'"_s);
-    row.EditSale(EntryRow::EditMode::Change);
-    row.ChangeButton.Press();
+    Change();
     EXPECT_EQ(Columns(u"category account"_s), u"Erlöse 19% USt|"_s);
     book.Run(u"UPDATE cash_tax SET active = 0 WHERE id = 3"_s);
-    bookings.SetListIndex(0);
-    row.EditSale(EntryRow::EditMode::Change);
-    row.ChangeButton.Press();
+    Change();
     EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Steuer auswählen!"_s);
 }
-
-TEST_F(ChangeTest, KeepsTheTaxThoughTheTaxesCouldNotBeRead) {
-    book.Run(u"UPDATE cash_journal SET tax = '2'"_s);
-    row.NewSale();
-    TypeExpense(u"1"_s); // The lists hold the other side.
-    bookings.SetListIndex(0);
-    book.Hide(u"cash_tax"_s);
-    row.EditSale(EntryRow::EditMode::Change);
-    book.Hide(u"cash_tax"_s, false);
-    row.ChangeButton.Press();
-    EXPECT_EQ(Columns(u"tax category account"_s), u"2|Erlöse 19% USt|8400"_s);
-}
-
-TEST_F(ChangeTest, TellsThatTheBookingHasGone) {
-    row.EditSale(EntryRow::EditMode::Change);
-    book.Run(u"DELETE FROM cash_journal"_s); // By another program.
-    row.ChangeButton.Press();
-    EXPECT_EQ(book.desktop.TakeMessages(), u"DB Error: Der Datensatz ist nicht mehr vorhanden."_s);
-    EXPECT_EQ(bookings.ListCount(), 0);
-}
-
-} // namespace

@@ -4,8 +4,6 @@
 
 #include <QProcess>
 
-using namespace Qt::StringLiterals;
-
 Book::Book(Place place) : app(desktop, UserLocale(QLocale(QLocale::German, QLocale::Germany))) {
     SQLiteDatabase &database = app.NewDatabase();
     if (place == Place::File) {
@@ -28,8 +26,8 @@ Book::Book(Place place) : app(desktop, UserLocale(QLocale(QLocale::German, QLoca
 void Book::Add(const Booking &booking) const {
     Run(u"INSERT INTO cash_journal (vdate, type, amount, tax, category, salesnumber, note, "
         "cashbookID, account) VALUES ('%1', '%2', '%3', '%4', '%5', '%6', '%7', '%8', '%9')"_s.arg(
-            booking.date, booking.type, booking.amount, booking.tax, booking.category,
-            booking.number, booking.note, booking.cashbook, booking.account));
+            booking.date, booking.type, booking.amount, booking.tax, booking.category, booking.number, booking.note,
+            booking.cashbook, booking.account));
 }
 
 void Book::Run(const QString &sql) const {

@@ -3,61 +3,52 @@
 #include "platform/outside/Desktop.h"
 #include "platform/outside/SaveAsDialog.h"
 #include "support/DrawingRecorder.h"
-#include "support/GoogleTest.h"
 
 #include <QStringList>
 #include <QTemporaryDir>
 
-#include <utility>
-
-/// A desktop for tests: it records the messages, holds the answers of dialogs, and has a clock and
-/// folders of its own. A message that the test does not take is a failure.
+/// A desktop for tests: it records the messages, holds the answers of dialogs, and has a clock and folders of its
+/// own. A message that the test does not take is a failure.
 class FakeDesktop : public Desktop {
 public:
     FakeDesktop() = default;
-    FakeDesktop(const FakeDesktop &) = delete;
-    FakeDesktop &operator=(const FakeDesktop &) = delete;
+    Q_DISABLE_COPY_MOVE(FakeDesktop)
     ~FakeDesktop() override { EXPECT_EQ(TakeMessages(), QString()); }
 
     /// The clock stands still at noon of this day, until a test sets it.
     Date now = Date(QDateTime(QDate(2026, 3, 15), QTime(12, 0)));
     std::optional<FolderItem> fileToOpen;
     std::optional<int> menuChoice;
-    /// The answer to the dialog for a new file, and the last one that was shown.
     std::optional<FolderItem> fileToSave;
-    std::optional<SaveAsDialog> saveDialog;
     /// What was printed; nothing while the user cancels the dialog.
     std::optional<QStringList> paper;
     std::optional<FolderItem> notToPrintInto;
-    /// What was shown or opened: "about", the names of files, and addresses.
+    /// What was asked for and opened: "about", documents to print, names of files, addresses.
     QStringList opened;
 
     Date Now() const override { return now; }
-    FolderItem ApplicationData() const override { return FolderItem(Path(QStringLiteral("data"))); }
-    FolderItem DesktopFolder() const override { return FolderItem(Path(QStringLiteral("desk"))); }
+    FolderItem ApplicationData() const override { return FolderItem(Path(u"data"_s)); }
+    FolderItem DesktopFolder() const override { return FolderItem(Path(u"desk"_s)); }
     void MsgBox(const QString &message) override { messages_.append(message); }
-    FolderItem ExecutableFile() const override {
-        return FolderItem(Path(QStringLiteral("bin/zolmark")));
-    }
+    FolderItem ExecutableFile() const override { return FolderItem(Path(u"bin/zolmark"_s)); }
     std::optional<FolderItem> GetOpenFolderItem() override { return fileToOpen; }
     std::optional<FolderItem> ShowModal(const SaveAsDialog &dialog) override {
-        saveDialog = dialog;
+        opened.append(dialog.suggestedFileName);
         return fileToSave;
     }
-    std::unique_ptr<PrinterGraphics>
-    OpenPrinterDialog(const QString & /*document*/,
-                      const std::optional<FolderItem> &openBook) override {
+    std::unique_ptr<PrinterGraphics> OpenPrinterDialog(const QString &document,
+                                                       const std::optional<FolderItem> &openBook) override {
         notToPrintInto = openBook;
+        opened.append(document);
         return paper ? std::make_unique<DrawingRecorder>(*paper) : nullptr;
     }
     std::optional<int> PopUp(const MenuItem & /*base*/) override { return menuChoice; }
-    void ShowAboutPanel() override { opened.append(QStringLiteral("about")); }
+    void ShowAboutPanel() override { opened.append(u"about"_s); }
     void ShowURL(const QString &address) override { opened.append(address); }
     void Launch(const FolderItem &file) override { opened.append(file.Path()); }
 
     /// The messages since the last time, with a bar between them.
-    QString TakeMessages() { return std::exchange(messages_, {}).join(QLatin1Char('|')); }
-    /// A path in a folder that goes with this desktop.
+    QString TakeMessages() { return std::exchange(messages_, {}).join(u'|'); }
     QString Path(const QString &name) const { return folder_.filePath(name); }
 
 private:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 #include <csignal>
 #include <sys/resource.h>
 
@@ -15,8 +17,7 @@ public:
         setrlimit(RLIMIT_FSIZE, &before_);
         std::signal(SIGXFSZ, handler_);
     }
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
+    Q_DISABLE_COPY_MOVE(FullDisk)
 
 private:
     rlimit before_{};

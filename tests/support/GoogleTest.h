@@ -3,9 +3,8 @@
 #include <QString>
 #include <gtest/gtest.h>
 
-#include <ostream>
+using namespace Qt::StringLiterals;
 
-/// How a failed expectation shows a text.
 inline void PrintTo(const QString &text, std::ostream *out) {
     *out << '"' << qUtf8Printable(text) << '"';
 }

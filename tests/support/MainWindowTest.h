@@ -1,21 +1,20 @@
 #pragma once
 
 #include "desktop/windows/MainWindowView.h"
-#include "support/BookTest.h"
+#include "support/Book.h"
 
-#include <QApplication>
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QTableView>
 #include <QTest>
 
-/// Presses the keys of a text: its letters, \t, \r and \x1b for Tab, Return and Escape, and any key
-/// by its name, as in "{Ctrl+N}" and "{Down}". They go to a widget; or, if a window is given, to
-/// wherever its focus is, or to its pop-up.
+/// Presses the keys of a text, \t, \r and \x1b for Tab, Return and Escape, and any key by its name, as in "{Ctrl+N}".
+/// They go to a widget; or, if a window is given, to wherever its focus is, or to its pop-up.
 template <class Target>
 void Type(Target *target, const QString &text) {
-    static const QRegularExpression each(QStringLiteral("\\{([^}]+)\\}|[^{]"));
+    static const QRegularExpression each(u"\\{([^}]+)\\}|[^{]"_s);
     for (const QRegularExpressionMatch &key : each.globalMatch(text)) {
         if (key.hasCaptured(1)) {
             const QKeyCombination named = QKeySequence(key.captured(1))[0];
@@ -26,8 +25,8 @@ void Type(Target *target, const QString &text) {
     }
 }
 
-/// The real main window on a book, driven by keys and clicks as by its user. A test fills the book
-/// and opens the window.
+/// The real main window on a book, driven by keys and clicks as by its user. A test fills the book and opens the
+/// window.
 class MainWindowTest : public BookTest {
 protected:
     void Open() {
@@ -46,12 +45,20 @@ protected:
     void Click(const QWidget *widget, QPoint place) {
         QTest::mouseClick(view.windowHandle(), Qt::LeftButton, {}, widget->mapTo(&view, place));
     }
-    void Click(const QTableView &list, int row, int column) {
-        Click(list.viewport(), Centre(list, row, column));
-    }
+    void Click(const QTableView &list, int row, int column) { Click(list.viewport(), Centre(list, row, column)); }
     void DoubleClick(const QTableView &list, int row, int column) {
         Click(list, row, column);
         QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, Centre(list, row, column));
+    }
+
+    void Choose(const QString &name, int row) {
+        auto &box = Find<QComboBox>(name);
+        Click(&box, box.rect().center() + QPoint(box.width() / 2 - 8, 0));
+        QApplication::processEvents(); // So far the release of the button could belong to a drag.
+        const QAbstractItemView &rows = *box.view();
+        const QPoint place = rows.visualRect(box.model()->index(row, 0)).center();
+        QTest::mouseMove(rows.viewport(), place);
+        QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, place);
     }
 
     MainWindowView view{window, book.app};

@@ -1,45 +1,61 @@
 #include "support/Book.h"
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
 TEST(RecordSet, WritesOnlyTheFieldsThatWereSetAndTellsThatItsRowHasGone) {
     Book book;
+    SQLiteDatabase &database = book.app.kvoDB();
     book.Add({u"2026-01-01"_s, u"E"_s, u"1"_s});
     book.Add({u"2026-01-02"_s, u"E"_s, u"2"_s});
     const QString second = u"SELECT * FROM cash_journal WHERE id = 2"_s;
-    const auto records = book.app.kvoDB().SQLSelect(second);
-    const auto late = book.app.kvoDB().SQLSelect(second);
+    const auto records = database.SQLSelect(second);
+    const auto late = database.SQLSelect(second);
     records->Edit();
+    records->Field("type"_L1).SetStringValue(u"A"_s);
+    records->Edit(); // Begins anew.
     records->Field("NOTE"_L1).SetStringValue(u"it's; 'new'"_s);
     records->Field("amount"_L1).SetStringValue(u"12.50"_s);
     book.Run(u"UPDATE cash_journal SET category = 'meanwhile', note = 'old'"_s);
     records->Update();
-    EXPECT_EQ(book.app.kvoDB().ErrorMessage(), QString());
-    EXPECT_EQ(book.Value(u"SELECT group_concat(category || note || amount) FROM cash_journal"_s),
-              u"meanwhileold1.0,meanwhileit's; 'new'12.5"_s);
+    EXPECT_EQ(database.ErrorMessage(), QString());
+    EXPECT_EQ(book.Value(u"SELECT group_concat(category || type || note || amount) FROM cash_journal"_s),
+              u"meanwhileEold1.0,meanwhileEit's; 'new'12.5"_s);
+    late->Edit();
+    late->Field("fehlt"_L1).SetStringValue(u"x"_s);
+    late->Update();
+    EXPECT_EQ(database.ErrorMessage(), u"In der Datenbank fehlt eine Spalte."_s);
     book.Run(u"DELETE FROM cash_journal"_s); // By another program.
     late->Edit();
     late->Field("note"_L1).SetStringValue(u"x"_s);
     late->Update();
-    EXPECT_EQ(book.app.kvoDB().ErrorMessage(), u"Der Datensatz ist nicht mehr vorhanden."_s);
+    EXPECT_EQ(database.ErrorMessage(), u"Der Datensatz ist nicht mehr vorhanden."_s);
+    database.SQLSelect(second)->Edit();
+    EXPECT_EQ(database.ErrorMessage(), u"Der Datensatz ist nicht mehr vorhanden."_s);
 }
 
 TEST(RecordSet, ReadsEveryKindOfValue) {
-    Book book;
+    struct Row {
+        const char *values;
+        QString flag;
+        double amount;
+        std::optional<Date> day;
+    };
+    const Row rows[] = {{"'1', '12.50', '2026-02-28'", u"True"_s, 12.5, Date(QDate(2026, 2, 28))},
+                        {"'0', '12,50', '2026-02-30'", u"False"_s, 12.5, std::nullopt},
+                        {"1, 1, '2026-02-28T10:00:00'", u"True"_s, 1, Date(QDate(2026, 2, 28))},
+                        {"1, 1, '2026-02-281'", u"True"_s, 1, std::nullopt},
+                        {"NULL, NULL, NULL", u""_s, 0, std::nullopt},
+                        {"2, 'abc', 7", u"True"_s, 0, std::nullopt}};
+    const Book book;
     book.Run(u"CREATE TABLE t (flag boolean, amount double, day date)"_s);
-    book.Run(u"INSERT INTO t VALUES ('1', '12.50', '2026-02-28 10:00:00'), "
-             "('0', '12,50', '2026-02-30'), (NULL, NULL, NULL), (2, 'abc', '2026-02-281')"_s);
-    QStringList read;
-    for (const auto records = book.app.kvoDB().SQLSelect(u"SELECT * FROM t"_s); !records->AtEnd();
-         records->MoveNext()) {
-        const auto day = records->Field("day"_L1).DateValue();
-        read.append(u"%1 %2 %3"_s.arg(records->Field("flag"_L1).StringValue(),
-                                      QString::number(records->IdxField(2).DoubleValue()),
-                                      day ? day->SQLDate() : u"-"_s));
+    for (const Row &each : rows) { book.Run(u"INSERT INTO t VALUES (%1)"_s.arg(QString::fromUtf8(each.values))); }
+    const auto records = book.app.kvoDB().SQLSelect(u"SELECT * FROM t"_s);
+    for (const Row &each : rows) {
+        EXPECT_EQ(records->Field("FLAG"_L1).StringValue(), each.flag) << each.values;
+        EXPECT_EQ(records->IdxField(2).DoubleValue(), each.amount) << each.values;
+        EXPECT_EQ(records->Field("day"_L1).DateValue(), each.day) << each.values;
+        EXPECT_EQ(records->Field("fehlt"_L1).StringValue(), u""_s);
+        records->MoveNext();
     }
-    EXPECT_EQ(read.join(u", "_s), u"True 12.5 2026-02-28, False 12.5 -,  0 -, True 0 -"_s);
+    records->MoveNext(); // Beyond the end there is no other beginning.
+    EXPECT_TRUE(records->AtEnd() && records->IdxField(1).StringValue().isEmpty() &&
+                !records->IdxField(2).DoubleValue());
 }
-
-} // namespace

@@ -1,70 +1,72 @@
 #include "support/Book.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 
-#include <chrono>
-#include <thread>
+using namespace std::chrono_literals;
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
-QByteArray Bytes(const QString &path) {
+static QByteArray Bytes(const QString &path) {
     QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : "unreadable";
 }
 
-/// What Connect answers on a file; a refusal comes with a message.
-bool Connects(const QString &path, const QByteArray &key) {
-    SQLiteDatabase database;
-    database.SetDatabaseFile(FolderItem(path));
-    database.SetEncryptionKey(key);
-    const bool connected = database.Connect();
-    EXPECT_EQ(database.ErrorMessage().isEmpty(), connected);
-    return connected;
-}
-
-TEST(SQLiteDatabase, WritesNoPlainText) {
-    Book book(Book::Place::File);
+TEST(SQLiteDatabase, KeepsTheFormatTheDurabilityAndThePrivacyOfTheFile) {
+    struct Case {
+        QString pragma, value;
+    };
+    const Case cases[] = {{u"cipher_page_size"_s, u"1024"_s}, {u"kdf_iter"_s, u"64000"_s},
+                          {u"journal_mode"_s, u"delete"_s},   {u"synchronous"_s, u"2"_s},
+                          {u"temp_store"_s, u"2"_s},          {u"cache_size"_s, u"-65536"_s}};
+    const Book book(Book::Place::File);
+    for (const Case &each : cases) {
+        EXPECT_EQ(book.Value(u"PRAGMA "_s + each.pragma), each.value) << qPrintable(each.pragma);
+    }
     const QByteArray bytes = Bytes(book.app.DefaultDatabaseFile().Path());
     EXPECT_FALSE(bytes.contains("SQLite format") || bytes.contains("Kasse"));
 }
 
 TEST(SQLiteDatabase, LeavesAFileThatItCannotReadAsItIs) {
-    Book book(Book::Place::File);
+    struct Case {
+        QByteArray content, key;
+        bool opens;
+    };
+    const Book book(Book::Place::File);
     const QByteArray keyed = Bytes(book.app.DefaultDatabaseFile().Path());
     const QByteArray text = QByteArray("Kein Kassenbuch. ").repeated(200);
-    const std::tuple<QByteArray, QByteArray, bool> cases[] = {
-        {keyed, fixedKey, true}, {"", fixedKey, true}, {text, fixedKey, false},
-        {text, "", false},       {keyed, "rk", false}, {keyed, "", false}};
+    const Case cases[] = {{keyed, fixedKey, true}, {"", fixedKey, true}, {text, fixedKey, false},
+                          {text, "", false},       {keyed, "rk", false}, {keyed, "", false}};
     const QDir folder(book.desktop.Path(u"files"_s));
     ASSERT_TRUE(folder.mkpath(u"."_s));
-    EXPECT_FALSE(Connects(folder.filePath(u"nichts"_s), fixedKey));
-    for (const auto &[content, key, opens] : cases) {
-        QFile file(folder.filePath(u"Zolmark.sdb"_s));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+    const QString path = folder.filePath(u"Zolmark.sdb"_s);
+    SQLiteDatabase database;
+    database.SetDatabaseFile(FolderItem(path));
+    EXPECT_FALSE(database.Connect()) << "there is none";
+    for (const Case &each : cases) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(each.content) >= 0);
         file.close();
-        EXPECT_EQ(Connects(file.fileName(), key), opens) << key.data() << content.data();
-        EXPECT_EQ(Bytes(file.fileName()), content);
+        database.SetEncryptionKey(each.key);
+        EXPECT_EQ(database.Connect(), each.opens) << each.content.left(9).data();
+        EXPECT_EQ(database.ErrorMessage().isEmpty(), each.opens);
+        EXPECT_EQ(Bytes(path), each.content);
         EXPECT_EQ(folder.entryList(QDir::Files).size(), 1);
     }
 }
 
 TEST(SQLiteDatabase, WaitsOnceForALockedFile) {
-    Book book(Book::Place::File);
+    const Book book(Book::Place::File);
     SQLiteDatabase other;
     App::UseFile(other, book.app.DefaultDatabaseFile());
+    other.SetPatience(100ms);
     ASSERT_TRUE(other.Connect());
-    other.SQLExecute(u"BEGIN EXCLUSIVE"_s);
-    book.app.kvoDB().SQLExecute(u"DELETE FROM cash_book"_s);
-    // Another wait would outlast the lock.
-    const std::jthread release([&other] {
-        std::this_thread::sleep_for(std::chrono::milliseconds(300));
-        other.Commit();
-    });
-    book.app.kvoDB().SQLExecute(u"DELETE FROM cash_book"_s);
-    EXPECT_EQ(book.app.kvoDB().ErrorMessage(), u"database is locked"_s);
+    book.Run(u"BEGIN EXCLUSIVE"_s);
+    QElapsedTimer timer;
+    timer.start();
+    other.SQLExecute(u"DELETE FROM cash_book"_s);
+    EXPECT_GE(timer.elapsed(), 100);
+    for (int i = 0; i < 50; ++i) {
+        other.SQLExecute(u"DELETE FROM cash_book"_s);
+        EXPECT_EQ(other.ErrorMessage(), u"database is locked"_s);
+    }
+    EXPECT_LT(timer.elapsed(), 2500) << "not each of them waits";
 }
-
-} // namespace

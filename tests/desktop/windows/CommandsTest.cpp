@@ -1,69 +1,123 @@
 #include "desktop/TerminationSignals.h"
 #include "desktop/ZolmarkApplication.h"
 #include "support/MainWindowTest.h"
+#include "support/ModalWindows.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QMenu>
 #include <QTimer>
 
 #include <csignal>
-
-using namespace Qt::StringLiterals;
-
-namespace {
 
 class CommandsTest : public MainWindowTest {
 protected:
     CommandsTest() { Open(); }
 
     void Choose(const QString &action) { Find<QAction>(action).trigger(); }
-    /// Which commands on a row are open, in the tool bar and in the menu.
     QString RowCommands() {
         QString open;
-        for (const auto &name : {u"EditButton"_s, u"CopyButton"_s, u"DeleteItem"_s}) {
+        for (const auto &name : {u"EditButton"_s, u"CopyItem"_s, u"CopyButton"_s, u"DeleteItem"_s, u"DeleteButton"_s}) {
             open += Find<QAction>(name).isEnabled() ? u'+' : u'-';
         }
         return open;
     }
 
+    QString Opened() { return std::exchange(book.desktop.opened, {}).join(u' '); }
+    QStringList Shown(const QString &menu) {
+        QStringList shown;
+        for (const QAction *each : Find<QMenu>(menu).actions()) {
+            if (each->isVisible()) {
+                const QString text = each->text() + u' ' + each->shortcut().toString();
+                shown.append(each->isSeparator() ? u"-"_s : text.trimmed());
+            }
+        }
+        return shown;
+    }
+
     QTableView &list = Find<QTableView>(u"CashList"_s);
 };
 
-TEST_F(CommandsTest, AreReachedByTheEntriesOfTheMenusOnEitherPage) {
-    book.desktop.paper.emplace();
-    for (const auto &[page, print] : {std::pair(0, u"{Alt+D}d"_s), std::pair(1, u"{Ctrl+P}"_s)}) {
-        window.PagePanel1.SetValue(page);
-        Type(print + u"{Alt+D}x"_s);
-        EXPECT_FALSE(std::exchange(book.desktop.paper, QStringList())->isEmpty());
-        EXPECT_TRUE(std::exchange(book.desktop.saveDialog, std::nullopt));
-        window.entryRow.NoteField.SetText(u"half typed"_s);
-        Type(u"{Ctrl+N}"_s);
-        EXPECT_EQ(window.entryRow.NoteField.Text(), u""_s);
-        EXPECT_EQ(window.PagePanel1.Value(), page);
+TEST_F(CommandsTest, StandInTheMenusAsGiven) {
+    EXPECT_EQ(Shown(u"FileMenu"_s), QStringList({u"Über Zolmark"_s, u"E&xport..."_s, u"-"_s, u"&Drucken... Ctrl+P"_s,
+                                                 u"&Einstellungen ..."_s, u"-"_s, u"&Quit Ctrl+Q"_s}));
+    EXPECT_EQ(Shown(u"EditMenu"_s),
+              QStringList({u"&Undo Ctrl+Z"_s, u"&Ausschneiden Ctrl+X"_s, u"&Kopieren Ctrl+C"_s, u"E&infügen Ctrl+V"_s,
+                           u"&Löschen"_s, u"-"_s, u"Alles &markieren Ctrl+A"_s}));
+    EXPECT_EQ(Shown(u"DataMenu"_s), QStringList({u"&Neu Ctrl+N"_s, u"&Duplizieren Ctrl+D"_s, u"&Löschen Ctrl+L"_s}));
+    EXPECT_EQ(Shown(u"HilfeMenu"_s),
+              QStringList({u"Kurzanleitung"_s, u"-"_s, u"Support-Anfrage"_s, u"Hersteller-Homepage"_s}));
+}
+
+TEST_F(CommandsTest, AreRunByTheEntriesOfTheMenusAndTheToolBar) {
+    struct Case {
+        QString entry;
+        QString opened = {};
+        QString row = u"typed"_s;
+        bool changes = false;
+        int bookings = 1;
+        int page = MainWindow::JournalPage;
+    };
+    const QString homepage = QStringLiteral(ZOLMARK_HOMEPAGE);
+    const int preferences = MainWindow::PreferencesPage;
+    const Case cases[] = {{u"AboutItem"_s, u"about"_s},
+                          {u"FileExport"_s, u"export.txt"_s},
+                          {u"FilePrint"_s, u"Kassenbericht"_s},
+                          {u"PrintButton"_s, u"Kassenbericht"_s},
+                          {u"QuickReferenceItem"_s, book.app.Resource(u"Zolmark.pdf"_s).Path()},
+                          {u"SupportItem"_s, homepage + u"service-support/"_s},
+                          {u"HomepageItem"_s, homepage},
+                          {u"NewSaleItem"_s, {}, u""_s},
+                          {u"NewButton"_s, {}, u""_s},
+                          {u"EditItem"_s, {}, u"7,00"_s, true},
+                          {u"EditButton"_s, {}, u"7,00"_s, true},
+                          {u"CopyItem"_s, {}, u"7,00"_s},
+                          {u"CopyButton"_s, {}, u"7,00"_s},
+                          {.entry = u"DeleteItem"_s, .bookings = 0},
+                          {.entry = u"DeleteButton"_s, .bookings = 0},
+                          {.entry = u"FilePreferences"_s, .page = preferences},
+                          {u"PreferencesButton"_s}, // It leads back too.
+                          {.entry = u"PreferencesButton"_s, .page = preferences}};
+    const EntryRow &row = window.entryRow;
+    for (const Case &each : cases) {
+        book.Run(u"DELETE FROM cash_journal"_s);
+        book.Add({u"2026-01-02"_s, u"E"_s, u"7"_s});
+        window.MenuAction(u"new"_s);
+        bookings.SetListIndex(0);
+        Q_EMIT bookings.KeyDown();
+        window.entryRow.NoteField.SetText(u"typed"_s);
+        Choose(each.entry);
+        EXPECT_EQ(Opened(), each.opened) << qPrintable(each.entry);
+        EXPECT_EQ(row.InputField.Text() + row.NoteField.Text(), each.row) << qPrintable(each.entry);
+        EXPECT_EQ(row.ChangeButton.Visible(), each.changes) << qPrintable(each.entry);
+        EXPECT_EQ(bookings.ListCount(), each.bookings) << qPrintable(each.entry);
+        EXPECT_EQ(window.PagePanel1.Value(), each.page) << qPrintable(each.entry);
+        EXPECT_EQ(Find<QAction>(u"PreferencesButton"_s).text(),
+                  each.page == preferences ? u"Kassenbuch"_s : u"Einstellungen"_s);
     }
 }
 
 TEST_F(CommandsTest, OnARowAreOpenFromAClickInItUntilTheFocusLeavesTheList) {
     Click(list.viewport(), {100, 9});
-    EXPECT_EQ(RowCommands(), u"---"_s) << "an empty list has no row";
+    EXPECT_EQ(RowCommands(), u"-----"_s) << "an empty list has no row";
     book.Add({u"2026-01-02"_s, u"E"_s, u"7"_s});
     book.Add({u"2026-01-03"_s, u"A"_s, u"4"_s});
     Choose(u"NewSaleItem"_s);
     Click(list, 1, 2);
-    EXPECT_EQ(RowCommands(), u"+++"_s);
+    EXPECT_EQ(RowCommands(), u"+++++"_s);
     Choose(u"CopyButton"_s);
-    EXPECT_EQ(RowCommands(), u"---"_s);
+    EXPECT_EQ(RowCommands(), u"-----"_s);
     list.setFocus();
-    EXPECT_EQ(RowCommands(), u"---"_s);
+    EXPECT_EQ(RowCommands(), u"-----"_s);
     Type(u"{Up}"_s);
-    EXPECT_EQ(RowCommands(), u"+++"_s) << "of the row that the key has chosen";
+    EXPECT_EQ(RowCommands(), u"+++++"_s) << "of the row that the key has chosen";
     window.entryRow.DateField.SetFocus();
     Type(u"{Ctrl+L}"_s);
     EXPECT_EQ(bookings.ListCount(), 2);
     Click(list, 0, 2);
     Type(u"{Ctrl+L}{Ctrl+L}"_s);
     EXPECT_EQ(bookings.Cell(-1, Journal::Output), u"4,00"_s);
-    EXPECT_EQ(RowCommands(), u"+++"_s);
+    EXPECT_EQ(RowCommands(), u"+++++"_s);
 }
 
 TEST_F(CommandsTest, OfTheEditMenuActOnTheFocusedField) {
@@ -71,8 +125,8 @@ TEST_F(CommandsTest, OfTheEditMenuActOnTheFocusedField) {
     Click(&field, {5, 5});
     Type(u"ab"_s);
     QString texts;
-    for (const auto &entry : {u"EditSelectAll"_s, u"EditCut"_s, u"EditPaste"_s, u"EditPaste"_s,
-                              u"EditUndo"_s, u"EditSelectAll"_s, u"EditCopy"_s, u"EditClear"_s}) {
+    for (const auto &entry : {u"EditSelectAll"_s, u"EditCut"_s, u"EditPaste"_s, u"EditPaste"_s, u"EditUndo"_s,
+                              u"EditSelectAll"_s, u"EditCopy"_s, u"EditClear"_s}) {
         Type(u"{Alt+B}"_s);
         Choose(entry); // Does nothing while it is disabled.
         QApplication::activePopupWidget()->close();
@@ -82,18 +136,28 @@ TEST_F(CommandsTest, OfTheEditMenuActOnTheFocusedField) {
     field.setFocus();
     Type(u"c{Ctrl+V}{Ctrl+Z}"_s);
     EXPECT_EQ(field.text(), u"c"_s) << "what was typed before is a step of its own";
-    list.setFocus();
-    EXPECT_FALSE(Find<QAction>(u"EditPaste"_s).isEnabled());
 }
 
 TEST(MainWindowView, SavesWhatIsTypedHoweverTheProgramEnds) {
+    struct Case {
+        const char *end;
+        std::function<void(MainWindowView &)> run;
+    };
+    const Case cases[] = {{"the menu", [](auto &view) { Type(view.windowHandle(), u"{Ctrl+Q}"_s); }},
+                          {"the window's button", [](auto &view) { view.close(); }},
+                          {"the session, that may go on after all",
+                           [](auto &view) {
+                               // There is none in a test.
+                               QMetaObject::invokeMethod(qApp, "commitDataRequest",
+                                                         QGenericArgument("QSessionManager&", &view));
+                               view.hide();
+                           }},
+                          {"SIGTERM", [](auto & /*view*/) { std::raise(SIGTERM); }},
+                          {"SIGINT", [](auto & /*view*/) { std::raise(SIGINT); }},
+                          {"SIGHUP", [](auto & /*view*/) { std::raise(SIGHUP); }}};
     const TerminationSignals endOfSession;
-    QObject::connect(&endOfSession, &TerminationSignals::Raised, qApp,
-                     &QApplication::closeAllWindows);
-    const std::function<void(MainWindowView &)> ends[] = {
-        [](MainWindowView &view) { Type(view.windowHandle(), u"{Ctrl+Q}"_s); },
-        [](MainWindowView & /*view*/) { std::raise(SIGTERM); }};
-    for (const auto &end : ends) {
+    QObject::connect(&endOfSession, &TerminationSignals::Raised, qApp, &QApplication::closeAllWindows);
+    for (const Case &each : cases) {
         Book book;
         MainWindow window(book.app);
         MainWindowView view(window, book.app);
@@ -104,19 +168,28 @@ TEST(MainWindowView, SavesWhatIsTypedHoweverTheProgramEnds) {
         window.companyProfile.CompanyField.SetText(u"Neu"_s);
         window.cashBooks.CashbookList.EditCell(0, CashBooks::Name);
         window.cashBooks.CashbookList.SetEditText(u"Laden"_s);
-        end(view);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !view.isVisible(); }));
-        EXPECT_EQ(book.Value(u"SELECT company || name FROM core_company, cash_book"_s),
-                  u"NeuLaden"_s);
+        each.run(view);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !view.isVisible(); })) << each.end;
+        EXPECT_EQ(book.Value(u"SELECT company || name FROM core_company, cash_book"_s), u"NeuLaden"_s) << each.end;
     }
 }
 
-TEST(ZolmarkApplication, EndsAfterAnExceptionThatLeftNoWindow) {
+TEST(ZolmarkApplication, TellsAnExceptionAndEndsIfItHasLeftNoWindow) {
+    const auto fail = [] { throw std::runtime_error("Meldung"); };
+    QWidget window;
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const QStringList texts = Press(Qt::Key_Return, [&] {
+        QMetaObject::invokeMethod(&window, fail, Qt::QueuedConnection);
+        QApplication::processEvents();
+    });
+    EXPECT_TRUE(texts.contains(u"Meldung"_s) && window.isVisible());
+    window.close();
     QTimer close;
     QObject::connect(&close, &QTimer::timeout, &close, &QApplication::closeAllWindows);
-    close.start(10);
-    QTimer::singleShot(0, &close, [] { throw std::runtime_error("Meldung"); });
-    EXPECT_EQ(QApplication::exec(), EXIT_FAILURE);
+    close.start(1);
+    QTimer::singleShot(0, &close, fail);
+    EXPECT_EQ(RunToTheEnd(), EXIT_FAILURE);
 }
 
 TEST(ZolmarkApplication, EndsBehindAMessageAndOpensNoOther) {
@@ -132,17 +205,12 @@ TEST(ZolmarkApplication, EndsBehindAMessageAndOpensNoOther) {
             application.End();
         }
     });
-    look.start(10);
+    look.start(1);
     QTimer::singleShot(0, &look, [&] {
-        for (int i = 0; i < 3; ++i) {
-            application.Tell(std::runtime_error("Meldung"));
-        }
+        for (int i = 0; i < 3; ++i) { application.Tell(std::runtime_error("Meldung")); }
         after.show(); // As the main window does after the message of the sample book.
     });
-    QTimer::singleShot(10'000, &look, [] { QApplication::exit(EXIT_FAILURE); });
-    EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);
+    EXPECT_EQ(RunToTheEnd(), EXIT_SUCCESS);
     EXPECT_EQ(messages, 1);
     EXPECT_FALSE(before.isVisible() || after.isVisible());
 }
-
-} // namespace

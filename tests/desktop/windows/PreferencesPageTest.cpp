@@ -6,10 +6,6 @@
 #include <QClipboard>
 #include <QHeaderView>
 
-using namespace Qt::StringLiterals;
-
-namespace {
-
 /// The preferences, with the accounts b (E, active), c (A, not active).
 class PreferencesPageTest : public MainWindowTest {
 protected:
@@ -32,8 +28,7 @@ protected:
                           "FROM (SELECT * FROM cash_accounts ORDER BY id)"_s);
     }
     QString CashBooks() const {
-        return book.Value(u"SELECT group_concat(name || account || '=' || opening_balance, ' ') "
-                          "FROM cash_book"_s);
+        return book.Value(u"SELECT group_concat(name || account || '=' || opening_balance, ' ') FROM cash_book"_s);
     }
 
     QTableView &books = Find<QTableView>(u"CashbookList"_s);
@@ -152,5 +147,3 @@ TEST_F(PreferencesPageTest, WorksByTheKeysAloneAndIsReadByAssistiveTools) {
     FlipPage();
     EXPECT_EQ(book.Value(u"SELECT company FROM core_company"_s), u"!Muster"_s);
 }
-
-} // namespace

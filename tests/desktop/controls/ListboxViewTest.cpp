@@ -1,0 +1,66 @@
+#include "support/MainWindowTest.h"
+
+#include <QAccessible>
+#include <QHeaderView>
+
+class ListboxViewTest : public MainWindowTest {
+protected:
+    static QImage Drawn(QTableView &list, int row, int column) {
+        return list.viewport()->grab(list.visualRect(list.model()->index(row, column))).toImage();
+    }
+    /// What assistive tools tell of the columns, and how wide they are.
+    static QStringList Columns(QTableView &list) {
+        auto &table = *QAccessible::queryAccessibleInterface(&list)->tableInterface();
+        QStringList columns;
+        for (int column = 0; column < table.columnCount(); ++column) {
+            columns.append(u"%1 %2"_s.arg(table.columnDescription(column)).arg(list.columnWidth(column)));
+        }
+        return columns;
+    }
+    /// Where a cell differs from its background.
+    static QRect Ink(const QImage &cell) {
+        return QRegion(QPixmap::fromImage(cell).createMaskFromColor(cell.pixelColor(0, 0))).boundingRect();
+    }
+};
+
+TEST_F(ListboxViewTest, ShowsTheJournalInColumnsAndBands) {
+    book.Add({u"2026-01-02"_s, u"E"_s, u"7"_s});
+    book.Add({u"2026-01-03"_s, u"A"_s, u"4"_s});
+    Open();
+    view.resize(view.size() + QSize(1080, 770) - view.centralWidget()->size());
+    QApplication::processEvents();
+    auto &list = Find<QTableView>(u"CashList"_s);
+    EXPECT_EQ(Columns(list), QStringList({u"Belegdatum 115"_s, u"Einnahmen 70"_s, u"Ausgaben 72"_s, u"Steuer 90"_s,
+                                          u"Buchungstext 185"_s, u"Bel.Nr. 70"_s, u"Notiz 160"_s, u"Bestand 276"_s}));
+    EXPECT_FALSE(list.horizontalHeader()->isVisible());
+    const QImage rows = list.viewport()->grab().toImage();
+    for (int row = 0; row < 5; ++row) {
+        EXPECT_EQ(rows.pixel(2, 18 * row + 2), row % 2 == 0 ? 0xffffffff : 0xffd2edf5);
+    }
+    for (const int left : {0, 3, 4}) { EXPECT_LT(Ink(Drawn(list, 0, left)).left(), 8) << left; }
+    for (const int right : {2, 7}) {
+        EXPECT_GT(Ink(Drawn(list, 1, right)).right(), list.columnWidth(right) - 8) << right;
+    }
+    EXPECT_GT(Ink(Drawn(list, 0, Journal::Input)).right(), 62);
+    Click(list, 1, 4);
+    EXPECT_EQ(Drawn(list, 1, 6).pixel(5, 5), 0xff1f6aa5) << "the selected row";
+}
+
+TEST_F(ListboxViewTest, ShowsTheAccountsWithAMarkInTheMiddleOfActiveOnes) {
+    book.Run(u"UPDATE cash_accounts SET active = 0 WHERE id > 1"_s);
+    Open();
+    window.MenuAction(u"preferences"_s);
+    QApplication::processEvents();
+    auto &list = Find<QTableView>(u"CashaccountList"_s);
+    EXPECT_EQ(Columns(list).mid(1), QStringList({u"Kontonummer 100"_s, u"Art 50"_s, u"Aktiv 50"_s}));
+    EXPECT_EQ(Columns(Find<QTableView>(u"CashbookList"_s)).mid(0, 2), QStringList({u"Kassen 110"_s, u"Konto 45"_s}));
+    const int row = window.bookingAccounts.CashaccountList.FindRow(u"1"_s);
+    list.scrollTo(list.model()->index(row, 0));
+    const QImage box = Drawn(list, row, BookingAccounts::Active);
+    EXPECT_NEAR(2 * Ink(box).center().x(), box.width(), 4);
+    const QImage other = Drawn(list, row > 1 ? row - 2 : row + 2, BookingAccounts::Active); // In the same band.
+    const auto brightness = [](const QImage &cell) {
+        return qGray(cell.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixel(0, 0));
+    };
+    EXPECT_LT(brightness(box), brightness(other)) << "the mark is dark";
+}

@@ -1,0 +1,66 @@
+#include "platform/controls/TLXCanvasButton.h"
+#include "platform/controls/TLXPlusMinusButton.h"
+#include "support/DrawingRecorder.h"
+#include "support/EventLog.h"
+#include "support/GoogleTest.h"
+
+/// What a button paints, and behind that its backdrop if it has one.
+static QStringList Drawn(Canvas &button) {
+    QStringList drawn;
+    DrawingRecorder paper(drawn);
+    Q_EMIT button.Paint(paper);
+    if (button.Backdrop()) { button.Backdrop()->DrawOn(paper); }
+    return drawn;
+}
+
+TEST(TLXPlusMinusButton, DrawsBothSignsAndTheHalfThatIsHeld) {
+    TLXPlusMinusButton button(u""_s);
+    const QStringList free = {u"cccccc rect 0 0 28 29"_s, u"rect 30 0 29 29"_s, u"333333 line 9 14 19 14"_s,
+                              u"line 14 9 14 19"_s, u"line 38 14 48 14"_s};
+    button.SetSize(60, 29);
+    EXPECT_EQ(Drawn(button), free);
+    Q_EMIT button.MouseDown(28, 5);
+    EXPECT_EQ(Drawn(button).value(0), u"cccccc fill 0 0 29 29"_s);
+    Q_EMIT button.MouseDown(29, 5);
+    EXPECT_EQ(Drawn(button).value(0), u"cccccc fill 29 0 29 29"_s);
+    Q_EMIT button.MouseUp(-1, 5);
+    EXPECT_EQ(Drawn(button), free);
+    button.SetSize(30, 29); // Two squares have their place.
+    EXPECT_EQ(Drawn(button).value(0), u"cccccc rect 0 0 14 15"_s);
+}
+
+TEST(TLXPlusMinusButton, CountsAPressInTheHalfWhereItIsReleased) {
+    struct Case {
+        int x, y;
+        QString pressed;
+    };
+    const QString plus = u"PlusPressed Updated MouseUp"_s;
+    const QString minus = u"MinusPressed Updated MouseUp"_s;
+    const QString none = u"Updated MouseUp"_s;
+    const Case cases[] = {{0, 0, plus},  {28, 29, plus}, {29, 5, none}, {30, 5, minus}, {58, 29, minus},
+                          {59, 5, none}, {-1, 5, none},  {5, -1, none}, {5, 30, none}};
+    TLXPlusMinusButton button(u""_s);
+    button.SetSize(60, 29);
+    Drawn(button);
+    EventLog log(button);
+    for (const Case &each : cases) {
+        Q_EMIT button.MouseUp(each.x, each.y);
+        EXPECT_EQ(log.Take(), each.pressed) << each.x << ' ' << each.y;
+    }
+    Q_EMIT button.MouseDown(1, 1);
+    EXPECT_EQ(log.Take(), u"Updated MouseDown"_s);
+}
+
+TEST(TLXCanvasButton, IsDrawnAnewWhenThePointerComesAndGoes) {
+    TLXCanvasButton button(u""_s);
+    button.SetSize(245, 100);
+    const QStringList borders = {u"ffffff line 0 0 245 0"_s, u"cccccc line 0 99 245 99"_s};
+    EventLog log(button);
+    Q_EMIT button.Open();
+    EXPECT_EQ(Drawn(button), QStringList(u"f1f1f1 fill 0 1 245 99"_s) + borders);
+    Q_EMIT button.MouseEnter();
+    EXPECT_EQ(Drawn(button), QStringList(u"e6e6e6 fill 0 1 245 99"_s) + borders);
+    Q_EMIT button.MouseExit();
+    EXPECT_EQ(Drawn(button), QStringList(u"f1f1f1 fill 0 1 245 99"_s) + borders);
+    EXPECT_EQ(log.Take().count(u"Updated"_s), 3);
+}
