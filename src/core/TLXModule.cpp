@@ -1,6 +1,9 @@
 #include "core/TLXModule.h"
 
 #include "platform/values/Text.h"
+#include "platform/values/UserLocale.h"
+
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -28,6 +31,14 @@ QString AmountText2SQL(const QString &text) {
 
 double AmountText2Value(const QString &text) {
     return Val(AmountText2SQL(text));
+}
+
+QString AmountHint(const QString &text, const UserLocale &locale) {
+    // More digits than that and a number loses its cents.
+    static const QRegularExpression plain(u"^[-+]?\\d{0,13}([.,]\\d{0,2})?$"_s);
+    return plain.match(text.trimmed()).hasMatch()
+               ? QString()
+               : u"wird als %1 gelesen"_s.arg(locale.FormatAmount(AmountText2Value(text)));
 }
 
 QString PadAmount8(const QString &text) {

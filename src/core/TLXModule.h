@@ -4,6 +4,8 @@
 
 #include <array>
 
+class UserLocale;
+
 /// Functions that all rooms share: conversions of amounts and dates. None of them reports anything.
 namespace TLXModule {
 
@@ -11,6 +13,9 @@ namespace TLXModule {
 QString AmountText2SQL(const QString &text);
 /// The number at the start of a typed or shown amount, comma or dot as decimal mark.
 double AmountText2Value(const QString &text);
+/// What to say about a typed amount that is read otherwise than it was meant, as with a dot for
+/// thousands; empty when all is well. Nothing refuses such a text.
+QString AmountHint(const QString &text, const UserLocale &locale);
 /// Right-aligned in eight characters; a longer text loses its left end.
 QString PadAmount8(const QString &text);
 

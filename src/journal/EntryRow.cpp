@@ -1,6 +1,7 @@
 #include "journal/EntryRow.h"
 
 #include "core/App.h"
+#include "core/TLXLists.h"
 #include "core/TLXModule.h"
 #include "journal/Balances.h"
 #include "journal/Journal.h"
@@ -11,11 +12,18 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+const auto nameOfReceipts = u"Art der Einnahme"_s;
+const auto nameOfExpenses = u"Art der Ausgabe"_s;
+
+} // namespace
+
 EntryRow::EntryRow(const App &app, Selectors &selectors, Journal &journal, const Balances &balances)
     : DateField(u"DateField"_s, app.GetDesktop().Now(), [&app] { return app.GetDesktop().Now(); }),
       InputField(u"InputField"_s), OutputField(u"OutputField"_s), pickLists(app),
-      CategoryLabel(u"CategoryLabel"_s, u"Art der Einnahme"_s),
-      SaleNumberField(u"SaleNumberField"_s), NoteField(u"NoteField"_s),
+      CategoryLabel(u"CategoryLabel"_s, nameOfReceipts), SaleNumberField(u"SaleNumberField"_s),
+      NoteField(u"NoteField"_s),
       SubmitButton(u"SubmitButton"_s, u"Eintragen"_s, PushButton::Role::Default),
       ChangeButton(u"ChangeButton"_s, u"Ändern"_s, PushButton::Role::Default),
       CancelButton(u"CancelButton"_s, u"Abbrechen"_s, PushButton::Role::Cancel),
@@ -25,10 +33,10 @@ EntryRow::EntryRow(const App &app, Selectors &selectors, Journal &journal, const
     ErrorRect.SetVisible(false);
     connect(&InputField, &TextField::TextChange, this, &EntryRow::InputField_TextChange);
     connect(&OutputField, &TextField::TextChange, this, &EntryRow::OutputField_TextChange);
-    connect(&InputField, &Control::GotFocus, this,
-            [this] { CategoryLabel.SetText(u"Art der Einnahme"_s); });
-    connect(&OutputField, &Control::GotFocus, this,
-            [this] { CategoryLabel.SetText(u"Art der Ausgabe"_s); });
+    connect(&InputField, &Control::GotFocus, this, [this] { NameCategory(nameOfReceipts); });
+    connect(&OutputField, &Control::GotFocus, this, [this] { NameCategory(nameOfExpenses); });
+    connect(&pickLists.CategoryCombo, &ComboBox::TextChanged, this, &EntryRow::TellCategory);
+    connect(&ErrorLabel, &Label::Updated, this, &EntryRow::ErrorLabel_Updated);
     connect(&SubmitButton, &PushButton::Action, this, &EntryRow::SubmitButton_Action);
     connect(&ChangeButton, &PushButton::Action, this, &EntryRow::ChangeButton_Action);
     connect(&CancelButton, &PushButton::Action, this, &EntryRow::NewSale);
@@ -71,11 +79,37 @@ void EntryRow::OutputField_TextChange() {
     AmountTyped(OutputField, InputField, u"A"_s);
 }
 
-void EntryRow::AmountTyped(const TextField &field, Control &other, const QString &type) {
+void EntryRow::AmountTyped(TextField &field, Control &other, const QString &type) {
+    field.SetHint(TLXModule::AmountHint(field.Text(), app_.Locale()));
     other.SetEnabled(field.Text().isEmpty());
     if (!field.Text().isEmpty()) {
         pickLists.LoadTax(type);
         pickLists.LoadAccounts(type);
+    }
+    TellCategory();
+}
+
+void EntryRow::NameCategory(const QString &caption) {
+    CategoryLabel.SetText(caption);
+    TellCategory();
+}
+
+void EntryRow::TellCategory() {
+    const QString side = Side();
+    CategoryLabel.SetSpokenText(side == u'E'   ? nameOfReceipts
+                                : side == u'A' ? nameOfExpenses
+                                               : CategoryLabel.Text());
+    ComboBox &category = pickLists.CategoryCombo;
+    const bool unknown = !side.isEmpty() && !category.Text().isEmpty() &&
+                         TLXModule::FindText(category, category.Text()) < 0;
+    category.SetHint(unknown ? u"ohne Konto"_s : QString());
+}
+
+void EntryRow::ErrorLabel_Updated() {
+    for (Control *each : std::initializer_list<Control *>{
+             &DateField, &InputField, &OutputField, &pickLists.TaxCombo, &pickLists.CategoryCombo,
+             &SaleNumberField, &NoteField, &SubmitButton, &ChangeButton, &CancelButton}) {
+        each->SetComplaint(ErrorLabel.Text());
     }
 }
 
@@ -103,8 +137,9 @@ bool EntryRow::CheckFields() {
     if (DateField.TakeRefusal()) {
         message = u"Bitte das Datum prüfen!"_s;
     }
-    ErrorLabel.SetText(message);
+    // The bar first: a hint that stands there makes room when its field is told.
     ErrorRect.SetVisible(!message.isEmpty());
+    ErrorLabel.SetText(message);
     return message.isEmpty();
 }
 

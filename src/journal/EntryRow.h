@@ -50,6 +50,7 @@ public:
     void DeleteSale();
 
 private:
+    void NameCategory(const QString &caption);
     void InputField_TextChange();
     void OutputField_TextChange();
     void CashList_ConstructContextualMenu(MenuItem &base) const;
@@ -62,7 +63,11 @@ private:
     /// "E" with a receipt in the row, "A" with an expense, empty without an amount.
     QString Side() const;
     void ShowButtons(bool changing);
-    void AmountTyped(const TextField &field, Control &other, const QString &type);
+    void AmountTyped(TextField &field, Control &other, const QString &type);
+    /// Says which kind of category is wanted, and whether the typed one is an account.
+    void TellCategory();
+    /// Has every field say what the red bar says.
+    void ErrorLabel_Updated();
     /// What the row holds, as the columns that a new and a changed booking share.
     DatabaseRecord Entry() const;
     /// Writes the row into the booking; the database's Error tells how that went.

@@ -1,6 +1,7 @@
 #include "masterdata/CashBooks.h"
 
 #include "core/App.h"
+#include "core/TLXModule.h"
 #include "platform/values/Text.h"
 
 #include <array>
@@ -31,6 +32,11 @@ CashBooks::CashBooks(const App &app)
     connect(&CashbookList, &Listbox::CellAction, this, &CashBooks::CashbookList_CellAction);
     connect(&CashbookList, &Listbox::DoubleClick, this, &CashBooks::CashbookList_DoubleClick);
     connect(&CashbookList, &Listbox::CellKeyDown, this, &CashBooks::CashbookList_CellKeyDown);
+    connect(&CashbookList, &Listbox::AskHint, this,
+            [this](int column, const QString &text, QString &hint) {
+                hint = column == OpeningBalance ? TLXModule::AmountHint(text, app_.Locale())
+                                                : QString();
+            });
     connect(&CashBookAdd, &TLXPlusMinusButton::PlusPressed, this,
             &CashBooks::CashBookAdd_PlusPressed);
     connect(&CashBookAdd, &TLXPlusMinusButton::MinusPressed, this,

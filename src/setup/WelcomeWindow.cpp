@@ -57,6 +57,10 @@ void WelcomeWindow::ConnectEvents() {
     connect(&ForwardButton, &PushButton::Action, this, &WelcomeWindow::ForwardButton_Action);
     connect(&BackButton, &PushButton::Action, this, &WelcomeWindow::BackButton_Action);
     connect(&SaveButton, &PushButton::Action, this, &WelcomeWindow::SaveButton_Action);
+    connect(&OpeningBalanceField, &TextField::TextChange, this, [this] {
+        OpeningBalanceField.SetHint(
+            TLXModule::AmountHint(OpeningBalanceField.Text(), app_.Locale()));
+    });
     connect(&AccountsPopup, &PopupMenu::Change, this, &WelcomeWindow::AccountsPopup_Change);
 }
 

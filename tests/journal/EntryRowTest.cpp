@@ -41,15 +41,20 @@ TEST_F(EntryRowTest, WritesEveryColumnOfAReceiptAndOfAnExpense) {
 
 TEST_F(EntryRowTest, KeepsAnyAmountAsTypedAndShowsTheNumberAtItsStart) {
     struct Case {
-        QString typed, stored, type, shown, balance;
+        QString typed, stored, type, shown, balance, hint;
     };
-    const Case cases[] = {{u"12.50"_s, u"12.50"_s, u"real"_s, u"12,50"_s, u"112,50"_s},
-                          {u"-5"_s, u"-5"_s, u"real"_s, u"-5,00"_s, u"95,00"_s},
-                          {u"1.234,56"_s, u"1.234.56"_s, u"text"_s, u"1,23"_s, u"101,23"_s},
-                          {u"zwölf"_s, u"zwölf"_s, u"text"_s, u"0,00"_s, u"100,00"_s},
-                          {u" 7 EUR"_s, u" 7 EUR"_s, u"text"_s, u"7,00"_s, u"107,00"_s}};
+    const Case cases[] = {{u"12.50"_s, u"12.50"_s, u"real"_s, u"12,50"_s, u"112,50"_s, {}},
+                          {u" -5,"_s, u" -5."_s, u"real"_s, u"-5,00"_s, u"95,00"_s, {}},
+                          {u"1.234,56"_s, u"1.234.56"_s, u"text"_s, u"1,23"_s, u"101,23"_s, u"wird als 1,23 gelesen"_s},
+                          {u"1.234"_s, u"1.234"_s, u"real"_s, u"1,23"_s, u"101,23"_s, u"wird als 1,23 gelesen"_s},
+                          {u"12,5O"_s, u"12.5O"_s, u"text"_s, u"12,50"_s, u"112,50"_s, u"wird als 12,50 gelesen"_s},
+                          {u"zwölf"_s, u"zwölf"_s, u"text"_s, u"0,00"_s, u"100,00"_s, u"wird als 0,00 gelesen"_s},
+                          {u" 7 EUR"_s, u" 7 EUR"_s, u"text"_s, u"7,00"_s, u"107,00"_s, u"wird als 7,00 gelesen"_s}};
     for (const Case &each : cases) {
+        row.InputField.SetText(each.typed);
+        EXPECT_EQ(row.InputField.Hint(), each.hint);
         Submit(each.typed);
+        EXPECT_EQ(row.InputField.Hint(), QString()) << "of the emptied row";
         EXPECT_EQ(Columns(u"input"_s), each.stored);
         EXPECT_EQ(Columns(u"typeof(amount)"_s), each.type) << qPrintable(each.typed);
         EXPECT_EQ(bookings.Cell(-1, Journal::Input), each.shown);
@@ -76,12 +81,30 @@ TEST_F(EntryRowTest, SaysTheLastThingThatIsMissingAndSavesNothing) {
         category.SetText(each.category);
         row.SubmitButton.Press();
         EXPECT_EQ(row.ErrorLabel.Text(), each.message);
+        EXPECT_EQ(row.DateField.Complaint() + row.NoteField.Complaint(), each.message + each.message);
         EXPECT_EQ(category.Text(), each.category);
         EXPECT_TRUE(row.ErrorRect.Visible());
     }
     row.SubmitButton.Press(); // A refused day is asked for once; the day before it is the first.
     EXPECT_EQ(Columns(u"id vdate tax category account"_s), u"1|2026-01-01|0|frei|"_s);
     EXPECT_FALSE(row.ErrorRect.Visible());
+}
+
+TEST_F(EntryRowTest, TellsACategoryWithoutAnAccountAndTheSideThatIsEntered) {
+    category.SetText(u"frei"_s);
+    EXPECT_EQ(category.Hint(), QString()) << "of no side yet";
+    row.InputField.SetText(u"1"_s);
+    EXPECT_EQ(category.Hint(), u"ohne Konto"_s);
+    category.SetText(u"erlöse 19% ust"_s);
+    EXPECT_EQ(category.Hint() + row.CategoryLabel.SpokenText(), u"Art der Einnahme"_s);
+    row.InputField.SetText({});
+    category.SetText(u"frei"_s);
+    Q_EMIT row.OutputField.GotFocus();
+    EXPECT_EQ(category.Hint() + row.CategoryLabel.SpokenText(), u"Art der Ausgabe"_s);
+    Q_EMIT row.InputField.GotFocus();
+    TypeExpense(u"2"_s);
+    EXPECT_EQ(row.CategoryLabel.Text() + category.Hint() + row.CategoryLabel.SpokenText(),
+              u"Art der EinnahmeArt der Ausgabe"_s);
 }
 
 TEST_F(EntryRowTest, LocksTheOtherAmountAndOffersItsSide) {

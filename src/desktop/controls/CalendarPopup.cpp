@@ -1,7 +1,10 @@
 #include "desktop/controls/CalendarPopup.h"
 
+#include "desktop/controls/Frame.h"
+
 #include <QPainter>
 #include <QScreen>
+#include <QTableView>
 #include <QTextCharFormat>
 #include <QToolButton>
 
@@ -31,8 +34,14 @@ CalendarPopup::CalendarPopup(QDate day, const QLocale &locale, QWidget *field)
     setDateEditEnabled(false);
     setSelectedDate(day);
     setAccessibleName(u"Kalender"_s);
+    findChild<QTableView *>()->setAccessibleName(u"Tage"_s);
     findChild<QToolButton *>(u"qt_calendar_prevmonth"_s)->setAccessibleName(u"Voriger Monat"_s);
     findChild<QToolButton *>(u"qt_calendar_nextmonth"_s)->setAccessibleName(u"Nächster Monat"_s);
+    // Its bar is the selection's colour, on which the arrows of most styles are not seen.
+    QPalette bar;
+    bar.setColor(QPalette::Highlight, palette().color(QPalette::Button));
+    bar.setColor(QPalette::HighlightedText, palette().color(QPalette::ButtonText));
+    findChild<QWidget *>(u"qt_calendar_navigationbar"_s)->setPalette(bar);
     QTextCharFormat weekend;
     weekend.setForeground(weekendRed);
     setWeekdayTextFormat(Qt::Saturday, weekend);
@@ -50,8 +59,7 @@ void CalendarPopup::Open() {
 void CalendarPopup::paintEvent(QPaintEvent *event) {
     QCalendarWidget::paintEvent(event);
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    FillFrame(painter, rect(), 1, palette().color(QPalette::Dark));
 }
 
 void CalendarPopup::Choose(QDate day) {

@@ -1,14 +1,14 @@
 #include "desktop/controls/CanvasButton.h"
 
+#include "desktop/controls/Frame.h"
 #include "platform/controls/Canvas.h"
 
 #include <QKeyEvent>
 #include <QPainter>
 
 CanvasButton::CanvasButton(Canvas &canvas, const QString &name, const QRect &place, QWidget *view)
-    : QAbstractButton(view), canvas_(canvas) {
+    : QAbstractButton(view), canvas_(canvas), place_(place) {
     setAccessibleName(name);
-    setGeometry(place);
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     connect(this, &QAbstractButton::clicked, this, &CanvasButton::Press);
@@ -28,13 +28,12 @@ void CanvasButton::keyPressEvent(QKeyEvent *event) {
 void CanvasButton::paintEvent(QPaintEvent * /*event*/) {
     if (hasFocus()) {
         QPainter painter(this);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-        painter.drawRect(rect().adjusted(2, 2, -2, -2));
+        FillFrame(painter, rect().adjusted(1, 1, -1, -1), 2, palette().color(QPalette::Highlight));
     }
 }
 
 void CanvasButton::Press() {
-    const QPoint middle = geometry().center();
+    const QPoint middle = place_.center();
     Q_EMIT canvas_.MouseDown(middle.x(), middle.y());
     Q_EMIT canvas_.MouseUp(middle.x(), middle.y());
 }

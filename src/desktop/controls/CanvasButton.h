@@ -1,17 +1,21 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QRect>
 
 class Canvas;
 
 /// A part of a Canvas that works like a button: for the keys, which reach it with Tab and press it
 /// with Space or Return, and for assistive tools. It draws nothing but the focus. The mouse goes
-/// through it, and never brings it the focus.
+/// through it, and never brings it the focus. Its view puts it into its place.
 class CanvasButton : public QAbstractButton {
     Q_OBJECT
 
 public:
+    /// The place is one on the canvas.
     CanvasButton(Canvas &canvas, const QString &name, const QRect &place, QWidget *view);
+
+    QRect Place() const { return place_; }
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -22,4 +26,5 @@ private:
     void Press();
 
     Canvas &canvas_;
+    QRect place_;
 };

@@ -2,6 +2,7 @@
 
 #include "desktop/controls/CanvasButton.h"
 #include "desktop/controls/ControlBinding.h"
+#include "desktop/controls/Letters.h"
 #include "desktop/controls/PainterGraphics.h"
 #include "platform/controls/Canvas.h"
 
@@ -27,13 +28,19 @@ void CanvasView::showEvent(QShowEvent *event) {
 
 void CanvasView::resizeEvent(QResizeEvent *event) {
     QWidget::resizeEvent(event);
-    canvas_.SetSize(width(), height());
+    const double growth = Growth(*this);
+    canvas_.SetSize(qRound(width() / growth), qRound(height() / growth));
+    for (CanvasButton *button : findChildren<CanvasButton *>()) {
+        button->setGeometry(Grown(button->Place(), growth));
+    }
 }
 
 void CanvasView::paintEvent(QPaintEvent *event) {
     QWidget::paintEvent(event);
     QPainter painter(this);
-    PainterGraphics graphics(painter, rect());
+    const double growth = Growth(*this);
+    painter.scale(growth, growth);
+    PainterGraphics graphics(painter, QRectF(0, 0, width() / growth, height() / growth));
     if (const Picture *backdrop = canvas_.Backdrop()) {
         backdrop->DrawOn(graphics);
     }
@@ -42,16 +49,20 @@ void CanvasView::paintEvent(QPaintEvent *event) {
 
 void CanvasView::mousePressEvent(QMouseEvent *event) {
     if (event->button() == Qt::LeftButton) {
-        const QPoint place = event->position().toPoint();
+        const QPoint place = OnCanvas(*event);
         Q_EMIT canvas_.MouseDown(place.x(), place.y());
     }
 }
 
 void CanvasView::mouseReleaseEvent(QMouseEvent *event) {
     if (event->button() == Qt::LeftButton) {
-        const QPoint place = event->position().toPoint();
+        const QPoint place = OnCanvas(*event);
         Q_EMIT canvas_.MouseUp(place.x(), place.y());
     }
+}
+
+QPoint CanvasView::OnCanvas(const QMouseEvent &event) const {
+    return (event.position() / Growth(*this)).toPoint();
 }
 
 void CanvasView::enterEvent(QEnterEvent *event) {

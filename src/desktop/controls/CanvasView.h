@@ -5,8 +5,8 @@
 class Canvas;
 class CanvasButton;
 
-/// Shows a Canvas and hands it what the mouse does. It does not take the focus; its parts that are
-/// buttons take it from the Tab key.
+/// Shows a Canvas, as much larger as the desktop's letters are, and hands it what the mouse does.
+/// It does not take the focus; its parts that are buttons take it from the Tab key.
 class CanvasView : public QWidget {
     Q_OBJECT
 
@@ -26,6 +26,9 @@ protected:
     void leaveEvent(QEvent *event) override;
 
 private:
+    /// A point of the canvas, which knows no larger letters.
+    QPoint OnCanvas(const QMouseEvent &event) const;
+
     Canvas &canvas_;
     bool opened_ = false;
 };

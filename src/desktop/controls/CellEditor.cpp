@@ -1,6 +1,7 @@
 #include "desktop/controls/CellEditor.h"
 
 #include "desktop/controls/ControlBinding.h"
+#include "desktop/controls/HintView.h"
 #include "desktop/controls/OneLinePaste.h"
 #include "platform/controls/Listbox.h"
 
@@ -11,7 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
-CellEditor::CellEditor(Listbox &list, QWidget *parent) : QLineEdit(parent), list_(list) {
+CellEditor::CellEditor(Listbox &list, QWidget *parent)
+    : QLineEdit(parent), list_(list), hint_(new HintView(*this)) {
     setObjectName(u"CellEditor"_s);
     setAccessibleName(list.Heading(list.EditedColumn()));
     setFrame(false);
@@ -21,8 +23,16 @@ CellEditor::CellEditor(Listbox &list, QWidget *parent) : QLineEdit(parent), list
     selectAll();
     TakeAsOneLine(*this);
     // Only what the user types, for a line edit shows some characters otherwise than they are.
-    connect(this, &QLineEdit::textEdited, &list, &Listbox::SetEditText);
+    connect(this, &QLineEdit::textEdited, this, &CellEditor::Type);
     QCoreApplication::instance()->installEventFilter(this);
+}
+
+void CellEditor::Type(const QString &text) {
+    list_.SetEditText(text);
+    QString hint;
+    Q_EMIT list_.AskHint(list_.EditedColumn(), text, hint);
+    hint_->Tell(hint);
+    setAccessibleDescription(hint);
 }
 
 bool CellEditor::event(QEvent *event) {
@@ -59,6 +69,7 @@ void CellEditor::keyPressEvent(QKeyEvent *event) {
 void CellEditor::focusOutEvent(QFocusEvent *event) {
     QLineEdit::focusOutEvent(event);
     if (LeavesForGood(*event)) {
+        hint_->hide();
         list_.EndEdit();
     }
 }

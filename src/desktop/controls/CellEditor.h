@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 
+class HintView;
 class Listbox;
 
 /// The line edit over the open cell of a Listbox. Return ends the edit, and so does a click
@@ -20,5 +21,8 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    void Type(const QString &text);
+
     Listbox &list_;
+    HintView *hint_;
 };

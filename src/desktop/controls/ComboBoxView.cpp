@@ -2,6 +2,7 @@
 
 #include "core/TLXLists.h"
 #include "desktop/controls/ControlBinding.h"
+#include "desktop/controls/Letters.h"
 #include "desktop/controls/OneLinePaste.h"
 #include "platform/controls/ComboBox.h"
 
@@ -48,6 +49,11 @@ ComboBoxView::ComboBoxView(ComboBox &combo, QWidget *parent) : QComboBox(parent)
     connect(lineEdit(), &QLineEdit::textEdited, &combo, &ComboBox::SetText);
 }
 
+void ComboBoxView::showPopup() {
+    ShowWholeRows(*view());
+    QComboBox::showPopup();
+}
+
 void ComboBoxView::ShowCombo() {
     if (currentIndex() != combo_.ListIndex()) {
         setCurrentIndex(combo_.ListIndex());
@@ -55,9 +61,22 @@ void ComboBoxView::ShowCombo() {
     if (currentText() != combo_.Text()) {
         setEditText(combo_.Text());
     }
+    FitRow();
     ShowBeginning(*lineEdit());
     // In a disabled field nobody can move to the end of a long text.
-    setToolTip(combo_.Enabled() ? QString() : combo_.Text());
+    setToolTip(combo_.Enabled() ? QString() : TipOf(combo_.Text()));
+}
+
+/// A chosen row that is a little too long is shown whole; what is typed stays in its letters.
+void ComboBoxView::FitRow() {
+    QLineEdit &edit = *lineEdit();
+    edit.setFont(FittedFont(font(), {currentIndex() < 0 ? QString() : currentText(),
+                                     edit.rect().adjusted(2, 0, -2, 0)}));
+}
+
+void ComboBoxView::resizeEvent(QResizeEvent *event) {
+    QComboBox::resizeEvent(event);
+    FitRow();
 }
 
 void ComboBoxView::OfferCompletions() {
@@ -77,6 +96,7 @@ void ComboBoxView::changeEvent(QEvent *event) {
     QComboBox::changeEvent(event);
     if (event->type() == QEvent::FontChange && completer() != nullptr) {
         completer()->popup()->setFont(font());
+        FitRow();
     }
 }
 
@@ -99,6 +119,9 @@ bool ComboBoxView::eventFilter(QObject *watched, QEvent *event) {
     if (watched == completer()->popup()) {
         if (event->type() == QEvent::KeyPress) {
             return CompletionKey(static_cast<QKeyEvent *>(event));
+        }
+        if (event->type() == QEvent::Show) {
+            ShowWholeRows(*completer()->popup());
         }
         if (event->type() == QEvent::MouseButtonPress) {
             return ClickBeside(*static_cast<QMouseEvent *>(event));

@@ -15,14 +15,17 @@ class ComboBoxView : public QComboBox {
 public:
     ComboBoxView(ComboBox &combo, QWidget *parent);
 
+    void showPopup() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
     /// The list of completions is a window of its own and has to be given the font.
     void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void ShowCombo();
+    void FitRow();
     void OfferCompletions();
     bool ClickBeside(const QMouseEvent &press);
     bool CompletionKey(QKeyEvent *event);

@@ -2,16 +2,16 @@
 
 #include "desktop/controls/CalendarPopup.h"
 #include "desktop/controls/ControlBinding.h"
+#include "desktop/controls/Frame.h"
+#include "desktop/controls/Letters.h"
 #include "platform/controls/DateControl.h"
 #include "platform/values/UserLocale.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QRegularExpression>
-#include <QTimer>
-#include <QToolTip>
+#include <QStyleOption>
 
 using namespace Qt::StringLiterals;
 
@@ -19,8 +19,6 @@ namespace {
 
 /// What a day in a font of 11 points leaves of a field of 100.
 constexpr int buttonWidth = 11;
-/// Besides the two points that the toolkit leaves on each side, the right ones under the button.
-constexpr QMargins margins(1, 0, buttonWidth - 2, 0);
 constexpr QColor darkRed(0x9c, 0x00, 0x06);
 
 /// Opens the calendar; a small one is drawn on it.
@@ -36,14 +34,15 @@ public:
 protected:
     void paintEvent(QPaintEvent * /*event*/) override {
         QPainter painter(this);
-        const QRect page(1, (height() - 10) / 2, 9, 10);
+        const double growth = Growth(*this);
+        painter.scale(growth, growth);
+        const QRect page(1, (qRound(height() / growth) - 10) / 2, 9, 10);
         const QColor ink = underMouse() ? Qt::black : QColor(0x60, 0x60, 0x60);
-        painter.setPen(ink);
-        painter.drawRect(page.adjusted(0, 0, -1, -1));
+        FillFrame(painter, page, 1, ink);
         painter.fillRect(QRect(page.topLeft(), QSize(page.width(), 3)), ink);
         for (int y = page.top() + 4; y < page.bottom(); y += 2) {
             for (int x = page.left() + 2; x < page.right(); x += 2) {
-                painter.drawPoint(x, y);
+                painter.fillRect(x, y, 1, 1, ink);
             }
         }
     }
@@ -56,14 +55,6 @@ QPalette RefusedColours() {
     palette.setColor(QPalette::Highlight, darkRed);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     return palette;
-}
-
-QString Complaint(const QString &typed) {
-    if (typed.trimmed().isEmpty()) {
-        return u"Das Datum fehlt."_s;
-    }
-    // A tip takes what looks like a tag for markup.
-    return typed.trimmed().replace(u'<', u'‹') + u" ist kein gültiges Datum."_s;
 }
 
 bool IsTab(const QEvent &event) {
@@ -85,12 +76,12 @@ DateControlView::DateControlView(DateControl &control, const UserLocale &locale,
     setAcceptDrops(false);
     setMaxLength(40);
     setFrame(false);
-    setTextMargins(margins);
     ShowDay();
     BindControl(control, *this);
     connect(&control, &Control::Updated, this, &DateControlView::ShowDay);
-    connect(&control, &Control::FocusRequested, this, &DateControlView::ShowDay);
-    connect(this, &QLineEdit::textEdited, this, [this] { ShowRefused(false); });
+    connect(&control, &Control::FocusRequested, this, &DateControlView::Drop);
+    connect(&control, &Control::HintChanged, this, &DateControlView::ShowRefusal);
+    connect(this, &QLineEdit::textEdited, &control, [&control] { control.SetHint({}); });
     connect(button_, &QAbstractButton::clicked, this, &DateControlView::OpenCalendar);
     // After the binding, so that the typed day is taken before the control hears of the lost focus.
     installEventFilter(this);
@@ -98,29 +89,23 @@ DateControlView::DateControlView(DateControl &control, const UserLocale &locale,
 
 void DateControlView::ShowDay() {
     setText(locale_.ShortDate(control_.DateValue()));
-    ShowRefused(false);
     if (window()->focusWidget() == this) {
         selectAll();
     }
 }
 
-void DateControlView::ShowRefused(bool refused) {
-    refused_ = refused;
-    setPalette(refused ? RefusedColours() : QPalette());
-    ShowTip(refused ? Complaint(text()) : QString());
-    if (refused) {
-        selectAll();
-    }
+void DateControlView::Drop() {
+    control_.SetHint({});
+    ShowDay();
 }
 
-void DateControlView::ShowTip(const QString &tip) {
-    setToolTip(tip);
-    QToolTip::showText(mapToGlobal(rect().bottomLeft()), tip, this);
+void DateControlView::ShowRefusal() {
+    setPalette(control_.Hint().isEmpty() ? QPalette() : RefusedColours());
 }
 
 bool DateControlView::TakeTyped() {
     if (!control_.SetTyped(text())) {
-        ShowRefused(true);
+        selectAll();
         return false;
     }
     ShowDay();
@@ -128,19 +113,11 @@ bool DateControlView::TakeTyped() {
 }
 
 void DateControlView::Leave() {
-    const QString typed = text();
-    const bool good = control_.SetTyped(typed);
+    const bool good = control_.SetTyped(text());
     ShowDay();
-    if (good) {
-        return;
+    if (!good) {
+        control_.SetHint(control_.Hint() + u" Es bleibt beim %1."_s.arg(text()));
     }
-    // Later, since the click that took the focus would hide the tip at once.
-    const QString tip = Complaint(typed) + u" Es bleibt beim %1."_s.arg(text());
-    QTimer::singleShot(QApplication::doubleClickInterval(), this, [this, tip] {
-        if (isVisible()) {
-            ShowTip(tip);
-        }
-    });
 }
 
 bool DateControlView::eventFilter(QObject *watched, QEvent *event) {
@@ -161,8 +138,9 @@ void DateControlView::keyPressEvent(QKeyEvent *event) {
         event->setAccepted(!TakeTyped());
         break;
     case Qt::Key_Escape:
-        ShowDay();
-        event->ignore();
+        // It takes back what is half typed; only pressed again it is the window's.
+        event->setAccepted(isModified());
+        Drop();
         break;
     default:
         if (!TakeKey(*event)) {
@@ -233,7 +211,7 @@ void DateControlView::OpenCalendar() {
     setFocus(Qt::OtherFocusReason);
     // What is no day is dropped: the calendar shows the day that it begins from.
     static_cast<void>(control_.SetTyped(text()));
-    ShowDay();
+    Drop();
     auto *calendar = new CalendarPopup(control_.DateValue().Day(), locale_.Locale(), this);
     connect(calendar, &CalendarPopup::Chosen, this,
             [this](QDate day) { control_.SetDateValue(Date(day)); });
@@ -284,14 +262,18 @@ void DateControlView::wheelEvent(QWheelEvent *event) {
 
 void DateControlView::resizeEvent(QResizeEvent *event) {
     QLineEdit::resizeEvent(event);
-    button_->setGeometry(width() - 1 - buttonWidth, 1, buttonWidth, height() - 2);
+    const int side = Grown(buttonWidth, Growth(*this));
+    button_->setGeometry(width() - 1 - side, 1, side, height() - 2);
+    // Besides the two points that the toolkit leaves on each side, the right ones under the button.
+    setTextMargins(1, 0, side - 2, 0);
 }
 
 void DateControlView::paintEvent(QPaintEvent *event) {
     QLineEdit::paintEvent(event);
+    // The frame of any field. One of its own would take the room of the text.
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    option.lineWidth = 1;
     QPainter painter(this);
-    const QColor quiet(0xb0, 0xb0, 0xb0);
-    const QColor focused = palette().color(QPalette::Highlight);
-    painter.setPen(refused_ ? darkRed : hasFocus() ? focused : quiet);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    style()->drawPrimitive(QStyle::PE_FrameLineEdit, &option, &painter, this);
 }

@@ -7,7 +7,8 @@ class QAbstractButton;
 class UserLocale;
 
 /// Shows a DateControl: a day to type over, to step with keys and wheel, or to choose in a
-/// calendar. A text that is no day is refused for all to see and never reaches the control.
+/// calendar. A text that is no day is refused for all to see and never reaches the control: the
+/// field keeps its colour as long as the control has its hint.
 class DateControlView : public QLineEdit {
     Q_OBJECT
 
@@ -28,9 +29,9 @@ protected:
 private:
     /// Shows the control's day in place of what was typed.
     void ShowDay();
-    void ShowRefused(bool refused);
-    /// At once, and whenever the mouse rests on the field; empty for none.
-    void ShowTip(const QString &tip);
+    /// The same, and says no more about what was typed.
+    void Drop();
+    void ShowRefusal();
     /// Hands the typed text to the control; false if it had to be refused.
     [[nodiscard]] bool TakeTyped();
     /// Hands the typed text to the control, or drops it.
@@ -46,7 +47,6 @@ private:
     DateControl &control_;
     const UserLocale &locale_;
     QAbstractButton *button_;
-    bool refused_ = false;
     /// From the press that brought the focus to its release.
     bool focusingClick_ = false;
     /// What the wheel has turned beyond the last whole step, in eighths of a degree.

@@ -12,14 +12,7 @@ LabelView::LabelView(Label &label, QWidget *parent, Qt::Alignment alignment)
     connect(&label, &Label::Updated, this, &LabelView::ShowText);
 }
 
-void LabelView::SetCaption(const QString &caption) {
-    caption_ = caption;
-    ShowText();
-}
-
 void LabelView::ShowText() {
     setText(label_.Text());
-    if (!caption_.isEmpty()) {
-        setAccessibleName(caption_ + u' ' + label_.Text());
-    }
+    setAccessibleName(label_.SpokenText());
 }

@@ -11,12 +11,8 @@ class LabelView : public QLabel {
 public:
     LabelView(Label &label, QWidget *parent, Qt::Alignment alignment = Qt::AlignLeft);
 
-    /// What assistive tools say before the text.
-    void SetCaption(const QString &caption);
-
 private:
     void ShowText();
 
     Label &label_;
-    QString caption_;
 };

@@ -4,20 +4,19 @@
 
 class Listbox;
 
-/// The headings of a Listbox; a click on one sorts. Where a heading would not fit its column, the
-/// font of them all becomes smaller.
+/// The headings of a Listbox; a click on one sorts. A heading that would not fit its column is made
+/// narrower, and only then smaller.
 class ListHeading : public QHeaderView {
     Q_OBJECT
 
 public:
     ListHeading(Listbox &list, QWidget *parent);
 
-    /// To be called when the list's font is another.
-    void Fit();
+protected:
+    void paintSection(QPainter *painter, const QRect &place, int column) const override;
 
 private:
     void ShowOrder();
-    bool HasRoom() const;
 
     Listbox &list_;
 };

@@ -2,6 +2,8 @@
 
 #include "desktop/controls/CellEditor.h"
 #include "desktop/controls/ControlBinding.h"
+#include "desktop/controls/Frame.h"
+#include "desktop/controls/Letters.h"
 #include "desktop/controls/ListHeading.h"
 #include "desktop/controls/PainterGraphics.h"
 #include "desktop/controls/RowDelegate.h"
@@ -24,9 +26,8 @@ constexpr int lineHeight = 18;
 
 } // namespace
 
-ListboxView::ListboxView(Listbox &list, QWidget *parent)
-    : QTableView(parent), list_(list), heading_(new ListHeading(list, this)) {
-    setHorizontalHeader(heading_);
+ListboxView::ListboxView(Listbox &list, QWidget *parent) : QTableView(parent), list_(list) {
+    setHorizontalHeader(new ListHeading(list, this));
     setObjectName(list.objectName());
     setModel(&list);
     setItemDelegate(new RowDelegate(this));
@@ -38,9 +39,9 @@ ListboxView::ListboxView(Listbox &list, QWidget *parent)
     setWordWrap(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     verticalHeader()->hide();
-    verticalHeader()->setMinimumSectionSize(lineHeight);
-    verticalHeader()->setDefaultSectionSize(lineHeight);
+    verticalHeader()->setMinimumSectionSize(0);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    Grow();
     connect(&list, &Listbox::SelectionMoved, this, &ListboxView::ShowSelection);
     connect(&list, &Listbox::EditOpened, this, &ListboxView::OpenEditor);
     connect(&list, &Listbox::EditClosed, this, &ListboxView::CloseEditor);
@@ -54,27 +55,32 @@ ListboxView::ListboxView(Listbox &list, QWidget *parent)
 void ListboxView::changeEvent(QEvent *event) {
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
-        heading_->Fit();
+        Grow();
     }
 }
 
 bool ListboxView::event(QEvent *event) {
     const bool done = QTableView::event(event);
-    if (event->type() == QEvent::Paint && hasFocus()) {
+    if (event->type() == QEvent::Paint) {
         QPainter painter(this);
-        painter.setPen(palette().color(QPalette::Highlight));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+        FillFrame(painter, rect(), frameWidth(), palette().color(QPalette::Dark));
     }
     return done;
 }
 
 void ListboxView::SetColumnWidths(const std::vector<int> &widths) {
-    for (int column = 0; column < list_.ColumnCount(); ++column) {
-        const auto place = static_cast<size_t>(column);
-        const int width = place < widths.size() ? widths[place] : 0;
+    widths_ = widths;
+    widths_.resize(static_cast<size_t>(list_.ColumnCount()));
+    Grow();
+}
+
+void ListboxView::Grow() {
+    const double growth = Growth(*this);
+    verticalHeader()->setDefaultSectionSize(Grown(lineHeight, growth));
+    for (int column = 0; const int width : widths_) {
         horizontalHeader()->setSectionResizeMode(column, width > 0 ? QHeaderView::Fixed
                                                                    : QHeaderView::Stretch);
-        horizontalHeader()->resizeSection(column, width);
+        horizontalHeader()->resizeSection(column++, Grown(width, growth));
     }
 }
 
@@ -128,7 +134,7 @@ void ListboxView::paintEvent(QPaintEvent *event) {
     QPainter painter(viewport());
     int row = std::max(0, rowAt(0));
     int top = row < list_.ListCount() ? rowViewportPosition(row) : 0;
-    for (; top < viewport()->height(); top += lineHeight) {
+    for (; top < viewport()->height(); top += verticalHeader()->defaultSectionSize()) {
         PaintRow(painter, row++, top);
     }
     painter.end();
@@ -137,8 +143,9 @@ void ListboxView::paintEvent(QPaintEvent *event) {
 
 void ListboxView::PaintRow(QPainter &painter, int row, int top) {
     for (int column = 0; column < list_.ColumnCount(); ++column) {
-        PainterGraphics graphics(
-            painter, QRectF(columnViewportPosition(column), top, columnWidth(column), lineHeight));
+        PainterGraphics graphics(painter,
+                                 QRectF(columnViewportPosition(column), top, columnWidth(column),
+                                        verticalHeader()->defaultSectionSize()));
         Q_EMIT list_.CellBackgroundPaint(graphics, row, column);
     }
 }
@@ -263,6 +270,8 @@ void ListboxView::contextMenuEvent(QContextMenuEvent *event) {
     }
     if (const QModelIndex cell = indexAt(event->pos()); cell.isValid()) {
         list_.SetListIndex(cell.row());
+        // The row counts as chosen, as by an arrow key.
+        Q_EMIT list_.KeyDown();
     }
     OpenMenu(event->globalPos());
 }

@@ -4,7 +4,6 @@
 
 #include <vector>
 
-class ListHeading;
 class Listbox;
 
 /// Shows a Listbox and hands it what the user does.
@@ -14,8 +13,8 @@ class ListboxView : public QTableView {
 public:
     ListboxView(Listbox &list, QWidget *parent);
 
-    /// The widths of the first columns, in points. Columns of width 0, and those without one, share
-    /// what is left.
+    /// The widths of the first columns, in points of the design. Columns of width 0, and those
+    /// without one, share what is left.
     void SetColumnWidths(const std::vector<int> &widths);
 
 Q_SIGNALS:
@@ -24,7 +23,6 @@ Q_SIGNALS:
     void RemoveWanted();
 
 protected:
-    /// The frame shows the focus: no row need be selected.
     bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -42,6 +40,7 @@ protected:
     void selectionChanged(const QItemSelection &now, const QItemSelection &before) override;
 
 private:
+    void Grow();
     bool TakeKey(const QKeyEvent &event);
     void FlipCheck(int row);
     void OpenRow(int row);
@@ -55,7 +54,7 @@ private:
     void PaintRow(QPainter &painter, int row, int top);
 
     Listbox &list_;
-    ListHeading *heading_;
+    std::vector<int> widths_;
     QPersistentModelIndex edited_;
     bool showing_ = false;
     bool pressTaken_ = false;

@@ -22,7 +22,7 @@ namespace {
 bool Paste(QLineEdit &edit, QClipboard::Mode mode) {
     const QString text = QApplication::clipboard()->text(mode);
     const QString line = OneLine(text);
-    if (edit.isReadOnly() || line == text) {
+    if (line == text) {
         return false;
     }
     edit.insert(line);

@@ -60,7 +60,7 @@ void PainterGraphics::FillRect(double left, double top, double width, double hei
 }
 
 void PainterGraphics::DrawPicture(const FolderItem &file, double x, double y) {
-    const bool fine = painter_.device()->devicePixelRatioF() > 1;
+    const bool fine = painter_.deviceTransform().m11() > 1;
     QPixmap pixmap = fine ? Load(TwinForFineScreens(file.Path())) : QPixmap();
     if (pixmap.isNull()) {
         pixmap = Load(file.Path());

@@ -7,8 +7,11 @@ PopupMenuView::PopupMenuView(PopupMenu &menu, QWidget *parent) : QComboBox(paren
     setModel(menu.Rows());
     setFocusPolicy(Qt::StrongFocus);
     BindControl(menu, *this);
-    const auto show = [this, &menu] { setCurrentIndex(menu.ListIndex()); };
-    show();
-    connect(&menu, &PopupMenu::Updated, this, show);
+    connect(&menu, &PopupMenu::Updated, this, [this, &menu] { setCurrentIndex(menu.ListIndex()); });
     connect(this, &QComboBox::activated, &menu, &PopupMenu::SetListIndex);
+}
+
+void PopupMenuView::showPopup() {
+    ShowWholeRows(*view());
+    QComboBox::showPopup();
 }

@@ -10,4 +10,6 @@ class PopupMenuView : public QComboBox {
 
 public:
     PopupMenuView(PopupMenu &menu, QWidget *parent);
+
+    void showPopup() override;
 };

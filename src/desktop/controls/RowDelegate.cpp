@@ -1,5 +1,11 @@
 #include "desktop/controls/RowDelegate.h"
 
+#include "desktop/controls/Letters.h"
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QToolTip>
+
 namespace {
 
 /// More than any column shows; laying out more would only cost time.
@@ -36,7 +42,19 @@ void RowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     style.drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, painter, option.widget);
 }
 
+bool RowDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
+                            const QStyleOptionViewItem &option, const QModelIndex &index) {
+    const bool cut = index.isValid() && sizeHint(option, index).width() > option.rect.width();
+    const QString tip = cut ? TipOf(index.data().toString().left(longestShownText)) : QString();
+    QToolTip::showText(event->globalPos(), tip, view->viewport(), option.rect);
+    return true;
+}
+
 void RowDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const {
     QStyledItemDelegate::initStyleOption(option, index);
     option->state &= ~QStyle::State_HasFocus;
+    constexpr int margin = 3;
+    option->font =
+        NarrowedFont(option->font, {option->text, option->rect.adjusted(margin, 0, -margin, 0)});
+    option->fontMetrics = QFontMetrics(option->font);
 }

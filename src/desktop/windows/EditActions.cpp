@@ -24,16 +24,12 @@ bool HasSelection(const QLineEdit &field) {
     return field.hasSelectedText();
 }
 
-bool CanLoseSelection(const QLineEdit &field) {
-    return field.hasSelectedText() && !field.isReadOnly();
-}
-
 bool CanUndo(const QLineEdit &field) {
     return field.isUndoAvailable();
 }
 
-bool CanPaste(const QLineEdit &field) {
-    return !field.isReadOnly() && !QApplication::clipboard()->text().isEmpty();
+bool CanPaste(const QLineEdit & /*field*/) {
+    return !QApplication::clipboard()->text().isEmpty();
 }
 
 bool HasText(const QLineEdit &field) {
@@ -42,10 +38,10 @@ bool HasText(const QLineEdit &field) {
 
 const StandardEdit standardEdits[] = {
     {u"EditUndo", CanUndo, [](QLineEdit &field) { field.undo(); }},
-    {u"EditCut", CanLoseSelection, [](QLineEdit &field) { field.cut(); }},
+    {u"EditCut", HasSelection, [](QLineEdit &field) { field.cut(); }},
     {u"EditCopy", HasSelection, [](QLineEdit &field) { field.copy(); }},
     {u"EditPaste", CanPaste, PasteAsOneLine},
-    {u"EditClear", CanLoseSelection, [](QLineEdit &field) { field.del(); }},
+    {u"EditClear", HasSelection, [](QLineEdit &field) { field.del(); }},
     {u"EditSelectAll", HasText, [](QLineEdit &field) { field.selectAll(); }},
 };
 

@@ -48,6 +48,13 @@ void UseGivenColours(QWidget &window, QRgb background) {
     window.setPalette(palette);
 }
 
+void DarkenFrames(QWidget &pages) {
+    QPalette palette;
+    // A style draws frames in the colour of the background, made a good deal darker.
+    palette.setColor(QPalette::Window, QColor(0xffb0b0b0));
+    pages.setPalette(palette);
+}
+
 void SetTextColour(QWidget &label, QRgb colour) {
     QPalette palette;
     palette.setColor(QPalette::WindowText, QColor(colour));

@@ -13,5 +13,9 @@ QPalette GivenColours(QRgb background);
 /// messages take theirs.
 void UseGivenColours(QWidget &window, QRgb background);
 
+/// Lets the frames of what stands on the pages stand out from what lies behind them. The pages
+/// paint no background of their own.
+void DarkenFrames(QWidget &pages);
+
 /// Gives one label a text colour of its own.
 void SetTextColour(QWidget &label, QRgb colour);

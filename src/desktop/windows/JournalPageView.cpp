@@ -12,7 +12,6 @@
 #include "desktop/windows/MainWindowView.h"
 #include "shell/MainWindow.h"
 
-#include <QAccessible>
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
@@ -75,11 +74,6 @@ void JournalPageView::AddErrorBar(EntryRow &row) {
     auto *message = new LabelView(row.ErrorLabel, bar);
     SetTextColour(*message, 0xffffffff);
     bar->Add(message, {13, 0, 448, 18});
-    // Said at once: the focus stays where it is.
-    connect(&row.ErrorLabel, &Label::Updated, message, [message] {
-        QAccessibleEvent alert(message, QAccessible::Alert);
-        QAccessible::updateAccessibility(&alert);
-    });
     Add(bar, {141, 135, 471, 20});
 }
 
@@ -117,10 +111,9 @@ void JournalPageView::AddBalances(MainWindow &window) {
     frame->setObjectName(u"AmountRect"_s);
     frame->SetFrame(frameOfControls);
     const auto add = [frame](const QString &name, const QString &text, Label &balance, int top) {
-        frame->AddText(name, text, {45, top, 130, 20}, Qt::AlignRight);
-        auto *label = new LabelView(balance, frame, Qt::AlignRight);
-        label->SetCaption(text);
-        frame->Add(label, {187, top, 100, 20});
+        frame->AddText(name, text, {45, top, 130, 20}, Qt::AlignRight)
+            ->setBuddy(
+                frame->Add(new LabelView(balance, frame, Qt::AlignRight), {187, top, 100, 20}));
     };
     add(u"AmountLabel(1)"_s, u"Anfangsbestand:"_s, balances.OpeningBalanceLabel, 5);
     add(u"AmountLabel(0)"_s, u"Aktueller Bestand:"_s, balances.LastAmountLabel, 27);

@@ -1,5 +1,7 @@
 #include "desktop/windows/LockLayout.h"
 
+#include "desktop/controls/Letters.h"
+
 #include <QWidget>
 
 #include <algorithm>
@@ -31,8 +33,15 @@ void LockLayout::Place(QWidget *widget, const QRect &place, Qt::Edges locks) {
     widget->setGeometry(place);
 }
 
+void LockLayout::SetFont(const QWidget &widget, const QFont &font) {
+    const auto item = std::find_if(items_.begin(), items_.end(), [&widget](const Item &each) {
+        return each.item->widget() == &widget;
+    });
+    item->font = font;
+}
+
 void LockLayout::addItem(QLayoutItem *item) {
-    items_.push_back({item, {}, LT});
+    items_.push_back({item, {}, LT, {}});
 }
 
 int LockLayout::count() const {
@@ -51,19 +60,29 @@ QLayoutItem *LockLayout::takeAt(int index) {
     return item;
 }
 
+QSize LockLayout::sizeHint() const {
+    return Grown(QRect({}, design_), Growth(*parentWidget())).size();
+}
+
 void LockLayout::setGeometry(const QRect &area) {
     QLayout::setGeometry(area);
-    const QSize growth = area.size() - design_;
+    const double growth = Growth(*parentWidget());
+    const QSize more = area.size() - sizeHint();
     for (const Item &each : items_) {
-        const QRect &place = each.place;
+        const QRect place = Grown(each.place, growth);
         const auto [left, width] =
-            Follow(place.left(), place.width(), growth.width(), each.locks.testFlag(Qt::LeftEdge),
+            Follow(place.left(), place.width(), more.width(), each.locks.testFlag(Qt::LeftEdge),
                    each.locks.testFlag(Qt::RightEdge));
         const auto [top, height] =
-            Follow(place.top(), place.height(), growth.height(), each.locks.testFlag(Qt::TopEdge),
+            Follow(place.top(), place.height(), more.height(), each.locks.testFlag(Qt::TopEdge),
                    each.locks.testFlag(Qt::BottomEdge));
         // Past the item, which would keep the widget above its minimum size and so out of its
         // place.
         each.item->widget()->setGeometry(left, top, width, height);
+        QFont font = each.font;
+        if (font.pixelSize() > 0) {
+            font.setPixelSize(Grown(font.pixelSize(), growth));
+        }
+        FitText(*each.item->widget(), font);
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QLayout>
 #include <QRect>
 #include <QSize>
@@ -17,22 +18,25 @@ constexpr Qt::Edges LTRB = LTR | Qt::BottomEdge;
 
 /// Puts widgets where a design of fixed size has them, and lets them follow the edges that they are
 /// locked to when the area becomes larger or smaller. Locked to two opposite edges, a widget
-/// stretches.
+/// stretches. With a large font on the area the whole design grows; what a widget always says is
+/// fitted to its place.
 class LockLayout : public QLayout {
     Q_OBJECT
 
 public:
-    /// The size, in points, at which every widget has its design place.
+    /// The size, in points, at which every widget has its design place, unless the font is large.
     LockLayout(QWidget *parent, QSize design);
     ~LockLayout() override;
 
     void Place(QWidget *widget, const QRect &place, Qt::Edges locks);
+    /// A font of its own for a placed widget; a size is in pixels of the design.
+    void SetFont(const QWidget &widget, const QFont &font);
 
     void addItem(QLayoutItem *item) override;
     int count() const override;
     QLayoutItem *itemAt(int index) const override;
     QLayoutItem *takeAt(int index) override;
-    QSize sizeHint() const override { return design_; }
+    QSize sizeHint() const override;
     QSize minimumSize() const override { return {}; }
     void setGeometry(const QRect &area) override;
 
@@ -41,6 +45,7 @@ private:
         QLayoutItem *item;
         QRect place;
         Qt::Edges locks;
+        QFont font;
     };
 
     QSize design_;

@@ -4,6 +4,7 @@
 
 class App;
 class MainWindow;
+class PagePanelView;
 
 /// The main window on the desktop.
 class MainWindowView : public QMainWindow {
@@ -17,8 +18,14 @@ public:
     MainWindowView(MainWindow &window, const App &app);
 
 protected:
+    /// The desktop may get another font.
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    /// Gives the pages the desktop's font and the window the size that goes with it.
+    void Grow();
+
     MainWindow &window_;
+    PagePanelView *pages_;
 };

@@ -32,6 +32,7 @@ QKeySequence KeysOf(const MenuItem &item) {
 
 MenuBarView::MenuBarView(MenuItem &bar, QWidget *parent)
     : QMenuBar(parent), editActions_(new EditActions(this)) {
+    setAccessibleName(u"Menüleiste"_s);
     for (int menu = 0; menu < bar.Count(); ++menu) {
         MenuItem &item = bar.Item(menu);
         QMenu &view = *addMenu(item.Text());

@@ -64,7 +64,7 @@ void PreferencesPageView::AddContact(CompanyProfile &profile) {
 void PreferencesPageView::AddLists(MainWindow &window) {
     CashBooks &books = window.cashBooks;
     ListboxView &bookList = *ListWithKeys(books.CashbookList, books.CashBookAdd);
-    bookList.SetColumnWidths({110, 45, 0, 77});
+    bookList.SetColumnWidths({110, 42, 0, 82});
     AddNamed(u"Kassen"_s, &bookList, {20, 353, 329, 340}, LTB);
     BookingAccounts &accounts = window.bookingAccounts;
     ListboxView &accountList = *ListWithKeys(accounts.CashaccountList, accounts.AccountsAdd);

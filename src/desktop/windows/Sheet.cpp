@@ -1,5 +1,6 @@
 #include "desktop/windows/Sheet.h"
 
+#include "desktop/controls/Frame.h"
 #include "desktop/controls/PushButtonView.h"
 #include "platform/controls/PushButton.h"
 
@@ -49,15 +50,32 @@ QLabel *Sheet::AddText(const QString &name, const QString &text, const QRect &pl
     return label;
 }
 
+QLabel *Sheet::SetLetters(QLabel *text, int size, bool bold) {
+    QFont font;
+    if (size > 0) {
+        font.setPixelSize(size);
+    }
+    font.setBold(bold);
+    layout_->SetFont(*text, font);
+    return text;
+}
+
+void Sheet::changeEvent(QEvent *event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        layout_->invalidate();
+        layout_->activate();
+    }
+}
+
 void Sheet::paintEvent(QPaintEvent *event) {
     QWidget::paintEvent(event);
     if (!frame_) {
         return;
     }
     QPainter painter(this);
-    painter.setPen(QColor(frame_->border));
-    painter.setBrush(QColor(frame_->fill));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.fillRect(rect(), QColor(frame_->fill));
+    FillFrame(painter, rect(), 1, QColor(frame_->border));
 }
 
 void Sheet::keyPressEvent(QKeyEvent *event) {

@@ -38,8 +38,12 @@ public:
     /// caption of the widget that is made its buddy.
     QLabel *AddText(const QString &name, const QString &text, const QRect &place,
                     Qt::Alignment alignment = Qt::AlignLeft);
+    /// Gives one of its texts letters of its own, and gives it back. The size is in points of the
+    /// design; 0 is the desktop's.
+    QLabel *SetLetters(QLabel *text, int size, bool bold = false);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 

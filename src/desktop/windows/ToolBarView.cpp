@@ -18,6 +18,7 @@ constexpr int widthOfSpace = 16;
 ToolBarView::ToolBarView(const MainToolbar &bar, const IconPath &icon, QWidget *parent)
     : QToolBar(parent) {
     setObjectName(u"MainWindowToolbar"_s);
+    setAccessibleName(u"Symbolleiste"_s);
     setMovable(false);
     setContextMenuPolicy(Qt::PreventContextMenu);
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
@@ -44,14 +45,16 @@ ToolBarView::ToolBarView(const MainToolbar &bar, const IconPath &icon, QWidget *
 void ToolBarView::AddButton(ToolItem &item, const IconPath &icon) {
     QAction *action = addAction(QIcon(icon(item.Icon())), item.Caption());
     action->setObjectName(item.objectName());
-    const auto show = [action, &item] {
+    auto *button = static_cast<QToolButton *>(widgetForAction(action));
+    const auto show = [action, button, &item] {
         action->setText(item.Caption());
         action->setEnabled(item.Enabled());
+        // Its caption says it all, and a tip would be told after it.
+        button->setToolTip({});
     };
     show();
     connect(&item, &ToolItem::Updated, action, show);
     connect(action, &QAction::triggered, &item, &ToolItem::Action);
-    auto *button = static_cast<QToolButton *>(widgetForAction(action));
     button->setFocusPolicy(Qt::TabFocus);
     button->installEventFilter(this);
 }
@@ -71,5 +74,5 @@ bool ToolBarView::eventFilter(QObject *watched, QEvent *event) {
             return true;
         }
     }
-    return event->type() == QEvent::ToolTip || QToolBar::eventFilter(watched, event);
+    return QToolBar::eventFilter(watched, event);
 }

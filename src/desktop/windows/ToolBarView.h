@@ -18,7 +18,7 @@ public:
     using IconPath = std::function<QString(const QString &name)>;
     ToolBarView(const MainToolbar &bar, const IconPath &icon, QWidget *parent);
 
-    /// The buttons show no tips: their captions say it all.
+    /// Return presses a button.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

@@ -4,16 +4,17 @@
 #include "desktop/controls/CanvasButton.h"
 #include "desktop/controls/CanvasView.h"
 #include "desktop/controls/DateControlView.h"
-#include "desktop/controls/FontFit.h"
+#include "desktop/controls/FocusRing.h"
 #include "desktop/controls/PagePanelView.h"
 #include "desktop/controls/PopupMenuView.h"
 #include "desktop/controls/TextFieldView.h"
 #include "desktop/windows/GivenColours.h"
 #include "desktop/windows/MenuBarView.h"
+#include "desktop/windows/Room.h"
 #include "setup/WelcomeWindow.h"
 
+#include <QEvent>
 #include <QLabel>
-#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -31,15 +32,6 @@ QRect OnPage(int left, int top, int width, int height) {
     return QRect(left, top, width, height).translated(-placeOfPages.topLeft());
 }
 
-/// Sets the text size in points of the design, of which the screen shows one as a pixel.
-QLabel *SetSize(QLabel *label, int textSize, bool bold = false) {
-    QFont font;
-    font.setPixelSize(textSize);
-    font.setBold(bold);
-    label->setFont(font);
-    return label;
-}
-
 void AddExplanation(Sheet &page, const QString &name, const QString &text, const QRect &place) {
     page.AddText(name, text, place, Qt::AlignTop)->setWordWrap(true);
 }
@@ -55,7 +47,6 @@ WelcomeWindowView::WelcomeWindowView(WelcomeWindow &window, MenuItem &menuBar,
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowCloseButtonHint);
     UseGivenColours(*this, 0xffffffff);
-    sheet_->setFixedSize(designSize);
     sheet_->Add(pages_, placeOfPages);
     AddGreeting();
     AddCompanyPage();
@@ -63,11 +54,19 @@ WelcomeWindowView::WelcomeWindowView(WelcomeWindow &window, MenuItem &menuBar,
     AddChoices();
     setMenuBar(new MenuBarView(menuBar, this));
     setCentralWidget(sheet_);
-    new FontFit(*sheet_);
+    DarkenFrames(*sheet_);
+    new FocusRing(*this);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
-    const QSize size = sizeHint();
-    move(screen()->availableGeometry().center() - QPoint(size.width() / 2, size.height() / 2));
+    UseDesktopFont(*sheet_, designSize);
+    PutInTheMiddle(*this, sizeHint());
     connect(&window, &WelcomeWindow::Closed, this, &QWidget::close);
+}
+
+bool WelcomeWindowView::event(QEvent *event) {
+    if (event->type() == QEvent::ApplicationFontChange) {
+        UseDesktopFont(*sheet_, designSize);
+    }
+    return QMainWindow::event(event);
 }
 
 Sheet *WelcomeWindowView::AddPage(const QString &name) {
@@ -80,16 +79,15 @@ Sheet *WelcomeWindowView::AddPage(const QString &name) {
 
 void WelcomeWindowView::AddGreeting() {
     Sheet &page = *AddPage(u"Rectangle1"_s);
-    SetTextColour(*SetSize(page.AddText(u"Label1"_s, u"Willkomen bei Zolmark"_s,
-                                        OnPage(27, 9, 510, 36), Qt::AlignHCenter),
-                           32, true),
-                  strongText);
-    SetTextColour(*SetSize(page.AddText(u"Label2"_s,
-                                        u"Einnahmen und Ausgabenverwaltung für \n"
-                                        "Selbstständige und Freiberufler"_s,
-                                        OnPage(27, 54, 510, 45), Qt::AlignHCenter),
-                           16),
-                  softText);
+    QLabel *welcome = page.AddText(u"Label1"_s, u"Willkomen bei Zolmark"_s, OnPage(27, 9, 510, 36),
+                                   Qt::AlignHCenter);
+    SetTextColour(*page.SetLetters(welcome, 32, true), strongText);
+    QLabel *purpose = page.AddText(u"Label2"_s,
+                                   u"Einnahmen und Ausgabenverwaltung für \n"
+                                   "Selbstständige und Freiberufler"_s,
+                                   OnPage(27, 54, 510, 45), Qt::AlignHCenter);
+    purpose->setWordWrap(true);
+    SetTextColour(*page.SetLetters(purpose, 16), softText);
     page.AddNamed(u"Bild zur Begrüßung"_s, new CanvasView(window_.Canvas1, &page),
                   OnPage(31, 102, 513, 200));
 }
@@ -99,7 +97,7 @@ void WelcomeWindowView::AddCompanyPage() {
     auto *title = new Sheet({526, 41}, &page);
     title->setObjectName(u"Placard1"_s);
     title->SetFrame(frameOfTitle);
-    SetSize(
+    title->SetLetters(
         title->AddText(u"Label13"_s, u"Firmendaten erfassen"_s, {53, 8, 406, 24}, Qt::AlignHCenter),
         18);
     page.Add(title, OnPage(19, 15, 526, 41));
@@ -187,7 +185,7 @@ QWidget *WelcomeWindowView::AddChoice(TLXCanvasButton &canvas, const Choice &cho
     auto *view = new CanvasView(canvas, sheet_);
     sheet_->Add(view, place);
     QAbstractButton *button = view->AddButton(choice.title.text, {{0, 0}, place.size()});
-    button->setAccessibleDescription(choice.description.text);
+    button->setAccessibleDescription(choice.description.text.trimmed());
     const auto add = [this](const Text &text, int height) {
         QLabel *label =
             sheet_->AddText(text.name, text.text, {640, text.top, 162, height}, Qt::AlignTop);
@@ -196,10 +194,8 @@ QWidget *WelcomeWindowView::AddChoice(TLXCanvasButton &canvas, const Choice &cho
         label->setWordWrap(true);
         return label;
     };
-    QFont bold;
-    bold.setBold(true);
-    add(choice.title, 20)->setFont(bold);
-    SetTextColour(*SetSize(add(choice.description, choice.top + 99 - choice.description.top), 12),
-                  strongText);
+    sheet_->SetLetters(add(choice.title, 20), 0, true)->setBuddy(button);
+    QLabel *description = add(choice.description, choice.top + 99 - choice.description.top);
+    SetTextColour(*sheet_->SetLetters(description, 12), strongText);
     return button;
 }

@@ -17,6 +17,10 @@ class WelcomeWindowView : public QMainWindow {
 public:
     WelcomeWindowView(WelcomeWindow &window, MenuItem &menuBar, const UserLocale &locale);
 
+protected:
+    /// The desktop may get another font.
+    bool event(QEvent *event) override;
+
 private:
     struct Text {
         QString name;

@@ -1,5 +1,7 @@
 #include "platform/controls/Control.h"
 
+#include <utility>
+
 Control::Control(const QString &name) {
     setObjectName(name);
 }
@@ -18,4 +20,10 @@ void Control::SetEnabled(bool enabled) {
     }
     enabled_ = enabled;
     Q_EMIT Updated();
+}
+
+void Control::Say(QString &place, const QString &text) {
+    if (std::exchange(place, text) != text) {
+        Q_EMIT HintChanged();
+    }
 }

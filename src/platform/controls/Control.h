@@ -18,6 +18,14 @@ public:
     bool Enabled() const { return enabled_; }
     void SetEnabled(bool enabled);
 
+    /// What there is to say about what was typed, though nothing of it is refused; empty when all
+    /// is well. The view shows it below the field while that has the focus.
+    QString Hint() const { return hint_; }
+    void SetHint(const QString &hint) { Say(hint_, hint); }
+    /// What has to be mended first, as a message says it; for those who can't see that.
+    QString Complaint() const { return complaint_; }
+    void SetComplaint(const QString &complaint) { Say(complaint_, complaint); }
+
     /// Asks for the keyboard focus, which only a control that shows can take. The control that
     /// loses it gets LostFocus.
     void SetFocus() { Q_EMIT FocusRequested(); }
@@ -27,10 +35,16 @@ Q_SIGNALS:
     void LostFocus();
     /// For the view: what it shows has changed. Comes before the event of the control itself.
     void Updated();
+    /// For the view: the hint or the complaint is another.
+    void HintChanged();
     /// For the view: give the control the keyboard focus.
     void FocusRequested();
 
 private:
+    void Say(QString &place, const QString &text);
+
     bool visible_ = true;
     bool enabled_ = true;
+    QString hint_;
+    QString complaint_;
 };

@@ -9,6 +9,10 @@ DateControl::DateControl(const QString &name, const Date &start, std::function<D
 
 bool DateControl::SetTyped(const QString &text) {
     refused_ = !Take(Read(text));
+    if (refused_) {
+        const QString typed = text.trimmed();
+        SetHint(typed.isEmpty() ? u"Das Datum fehlt."_s : typed + u" ist kein gültiges Datum."_s);
+    }
     return !refused_;
 }
 
@@ -48,6 +52,7 @@ bool DateControl::Take(QDate day) {
         return false;
     }
     refused_ = false;
+    SetHint({});
     if (day != day_) {
         day_ = day;
         Q_EMIT Updated();

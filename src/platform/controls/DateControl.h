@@ -25,7 +25,8 @@ public:
     Date DateValue() const { return Date(day_); }
     void SetDateValue(const Date &date) { Take(date.Day()); }
 
-    /// Takes the day of a typed text; false if the text is no day. The forms are 0102, 010226,
+    /// Takes the day of a typed text; false, with a hint that says so, if the text is no day. The
+    /// hint goes with the next good day. The forms are 0102, 010226,
     /// 01022026, 1.2, 1.2., 1.2.26, 1.2.2026, 2026-02-01, and 1 for a day of the shown month.
     /// Without a year the shown one is meant, with two digits of it the present century.
     [[nodiscard]] bool SetTyped(const QString &text);

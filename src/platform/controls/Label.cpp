@@ -1,11 +1,11 @@
 #include "platform/controls/Label.h"
 
+#include <utility>
+
 Label::Label(const QString &name, const QString &text) : Control(name), text_(text) {}
 
-void Label::SetText(const QString &text) {
-    if (text == text_) {
-        return;
+void Label::Write(QString &place, const QString &text) {
+    if (std::exchange(place, text) != text) {
+        Q_EMIT Updated();
     }
-    text_ = text;
-    Q_EMIT Updated();
 }

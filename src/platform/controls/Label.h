@@ -10,8 +10,15 @@ public:
     explicit Label(const QString &name, const QString &text = {});
 
     QString Text() const { return text_; }
-    void SetText(const QString &text);
+    void SetText(const QString &text) { Write(text_, text); }
+    /// What assistive tools say in place of the text, as the name of what it is the caption of;
+    /// empty for the text.
+    QString SpokenText() const { return spokenText_; }
+    void SetSpokenText(const QString &text) { Write(spokenText_, text); }
 
 private:
+    void Write(QString &place, const QString &text);
+
     QString text_;
+    QString spokenText_;
 };

@@ -86,6 +86,8 @@ Q_SIGNALS:
     void CellAction(int row, int column);
     /// A key in the open cell that is no text, such as the Tab u'\t'.
     void CellKeyDown(int row, int column, QChar key);
+    /// Asks for a hint about what is being typed in the open cell; empty when all is well.
+    void AskHint(int column, const QString &text, QString &hint);
     /// Asks for the background of a cell, also of the empty rows below the last one.
     void CellBackgroundPaint(Graphics &graphics, int row, int column);
     /// Asks how two rows compare: the handler sets the result to -1, 0 or 1 and handled to true.

@@ -2,6 +2,8 @@
 
 #include <QAccessible>
 #include <QHeaderView>
+#include <QHelpEvent>
+#include <QToolTip>
 
 class ListboxViewTest : public MainWindowTest {
 protected:
@@ -24,7 +26,10 @@ protected:
 };
 
 TEST_F(ListboxViewTest, ShowsTheJournalInColumnsAndBands) {
-    book.Add({u"2026-01-02"_s, u"E"_s, u"7"_s});
+    book.Add({.date = u"2026-01-02"_s,
+              .type = u"E"_s,
+              .amount = u"7"_s,
+              .category = u"Erlöse <19%> und noch einiges mehr"_s});
     book.Add({u"2026-01-03"_s, u"A"_s, u"4"_s});
     Open();
     view.resize(view.size() + QSize(1080, 770) - view.centralWidget()->size());
@@ -42,6 +47,12 @@ TEST_F(ListboxViewTest, ShowsTheJournalInColumnsAndBands) {
         EXPECT_GT(Ink(Drawn(list, 1, right)).right(), list.columnWidth(right) - 8) << right;
     }
     EXPECT_GT(Ink(Drawn(list, 0, Journal::Input)).right(), 62);
+    EXPECT_EQ(list.grab().toImage().pixel(0, 99), 0xff6e6e6e) << "a frame that is seen";
+    for (const int column : {7, 4}) { // Only the account is too long for its cell.
+        QHelpEvent rest(QEvent::ToolTip, Centre(list, 0, column), QCursor::pos());
+        QApplication::sendEvent(list.viewport(), &rest);
+        EXPECT_EQ(QToolTip::text(), column == 4 ? u"<p>Erlöse &lt;19%&gt; und noch einiges mehr</p>"_s : QString());
+    }
     Click(list, 1, 4);
     EXPECT_EQ(Drawn(list, 1, 6).pixel(5, 5), 0xff1f6aa5) << "the selected row";
 }
@@ -53,7 +64,7 @@ TEST_F(ListboxViewTest, ShowsTheAccountsWithAMarkInTheMiddleOfActiveOnes) {
     QApplication::processEvents();
     auto &list = Find<QTableView>(u"CashaccountList"_s);
     EXPECT_EQ(Columns(list).mid(1), QStringList({u"Kontonummer 100"_s, u"Art 50"_s, u"Aktiv 50"_s}));
-    EXPECT_EQ(Columns(Find<QTableView>(u"CashbookList"_s)).mid(0, 2), QStringList({u"Kassen 110"_s, u"Konto 45"_s}));
+    EXPECT_EQ(Columns(Find<QTableView>(u"CashbookList"_s)).mid(0, 2), QStringList({u"Kassen 110"_s, u"Konto 42"_s}));
     const int row = window.bookingAccounts.CashaccountList.FindRow(u"1"_s);
     list.scrollTo(list.model()->index(row, 0));
     const QImage box = Drawn(list, row, BookingAccounts::Active);

@@ -1,9 +1,11 @@
 #include "desktop/windows/LockLayout.h"
+#include "desktop/windows/Room.h"
 #include "desktop/windows/WelcomeWindowView.h"
 #include "setup/WelcomeWindow.h"
 #include "support/MainWindowTest.h"
 
 #include <QAccessible>
+#include <QHeaderView>
 #include <QLabel>
 
 #include <span>
@@ -61,42 +63,65 @@ TEST(EveryPage, StandsAsDesignedWithItsCaptionsAndFollowsTheEdgesOfTheWindow) {
         for (const QLabel *each : window.centralWidget()->findChildren<QLabel *>()) {
             if (each->isVisible() && !each->inherits("LabelView")) {
                 const QString named = each->buddy() ? u'=' + each->buddy()->objectName() : QString();
-                captions.append(each->objectName() + u' ' + each->text().left(12).simplified() + named);
+                captions.append(each->text().left(12).simplified() + named);
             }
         }
         if (!window.findChild<QWidget *>(u"CompanyField"_s)->isVisible()) {
             return; // A page takes its size when it shows.
         }
         const bool isMain = window.objectName() == u"MainWindow"_s;
-        const QSize size = window.centralWidget()->size();
-        const QSize growth = isMain ? size - QSize(1080, 770) : QSize(0, 0);
-        for (const Place &each : isMain ? std::span<const Place>(mainPlaces) : welcomePlaces) {
-            const auto &widget = *window.findChild<QWidget *>(QLatin1String(each.name));
-            const int right = each.locks & Qt::RightEdge ? growth.width() : 0;
-            const int bottom = each.locks & Qt::BottomEdge ? growth.height() : 0;
-            EXPECT_EQ(QRect(widget.mapTo(window.centralWidget(), QPoint()), widget.size()),
-                      each.place.adjusted(each.locks & Qt::LeftEdge ? 0 : right, each.locks & Qt::TopEdge ? 0 : bottom,
-                                          right, bottom))
-                << each.name;
+        for (const int times : {1, 2}) {
+            window.centralWidget()->setFont(QFont(u"DejaVu Sans"_s, 11 * times)); // 11 is the largest of the design.
+            QApplication::processEvents();
+            const QSize size = window.centralWidget()->size();
+            const QSize growth = isMain ? size - QSize(1080, 770) * times : QSize(0, 0);
+            for (const Place &each : isMain ? std::span<const Place>(mainPlaces) : welcomePlaces) {
+                const auto &widget = *window.findChild<QWidget *>(QLatin1String(each.name));
+                const int right = each.locks & Qt::RightEdge ? growth.width() : 0;
+                const int bottom = each.locks & Qt::BottomEdge ? growth.height() : 0;
+                const QRect place(each.place.topLeft() * times, each.place.size() * times);
+                EXPECT_TRUE(QRect(widget.mapTo(window.centralWidget(), QPoint()), widget.size()) ==
+                                place.adjusted(each.locks & Qt::LeftEdge ? 0 : right,
+                                               each.locks & Qt::TopEdge ? 0 : bottom, right, bottom) ||
+                            (times == 2 && (!widget.isVisible() || each.locks != LT)))
+                    << each.name << times;
+            }
+            for (const QTableView *list : window.findChildren<QTableView *>()) {
+                EXPECT_EQ(list->verticalHeader()->defaultSectionSize(), 18 * times);
+                EXPECT_TRUE(list->columnWidth(0) == 115 * times || list->objectName() != u"CashList"_s);
+            }
         }
     });
     captions.removeDuplicates();
-    EXPECT_EQ(captions.join(u", "_s),
-              u"Label1 Willkomen be, Label2 Einnahmen un, Label4 Demo Datenba, Label9 Testen Sie Z, "
-              "Label5 Neue Datenba, Label10 Erstellen Si, Label8 Handbuch, Label12 Verschaffen, "
-              "Label13 Firmendaten, Label17 Name:=CompanyField, Label3 Strasse:=StreetField, "
-              "Label16 Plz, Ort:=ZipField, Label15 Telefon:=PhoneField, Label14 Die Firmenan, "
-              "Label11 Wählen Sie d, Label20 Kontobezeich=AccountNameField, Label6 Konto:=AccountField, "
-              "Label19 Eröffnungsbe=OpeningBalanceField, Label18 Datum des Er=OpeningDate, Label21 Geben Sie hi, "
-              "CashLabel(6) Datum=DateField, CashLabel(5) Einnahme=InputField, CashLabel(4) Ausgabe=OutputField, "
-              "CashLabel(3) Steuer=TaxCombo, CashLabel(1) Beleg-Nr.=SaleNumberField, CashLabel(0) Notiz=NoteField, "
-              "Label2 Jahr/Monat=YearPopup, Label1 Kasse=CashbookPopup, AmountLabel(1) Anfangsbesta, "
-              "AmountLabel(0) Aktueller Be, Prefs(13) Firma:=CompanyField, Prefs(12) Zusatz:=DepartmentField, "
-              "Prefs(11) Vorname:=FirstnameField, Prefs(10) Nachname:=LastnameField, "
-              "Prefs(9) Strasse:=StreetField, Prefs(8) Plz, Ort:=ZipField, Prefs(6) Telefon:=PhoneField, "
-              "Prefs(5) Fax:=FaxField, Prefs(4) E-Mail:=EMailField, Prefs(3) Homepage:=HomepageField, "
-              "Prefs(2) Ust. Nr.:=UIDField, Prefs(0) Kontenrahmen=AccountFrameCombo, "
-              "Prefs(1) Währung:=CurrencyCombo"_s);
+    const auto expected =
+        u"Willkomen be, Einnahmen un, Demo Datenba=, Testen Sie Z, Neue Datenba=, Erstellen Si, Handbuch=, "
+        "Verschaffen, Firmendaten, Name:=CompanyField, Strasse:=StreetField, Plz, Ort:=ZipField, "
+        "Telefon:=PhoneField, Die Firmenan, Wählen Sie d, Kontobezeich=AccountNameField, Konto:=AccountField, "
+        "Eröffnungsbe=OpeningBalanceField, Datum des Er=OpeningDate, Geben Sie hi, Datum=DateField, "
+        "Einnahme=InputField, Ausgabe=OutputField, Steuer=TaxCombo, Beleg-Nr.=SaleNumberField, Notiz=NoteField, "
+        "Jahr/Monat=YearPopup, Kasse=CashbookPopup, Anfangsbesta=OpeningBalanceLabel, "
+        "Aktueller Be=LastAmountLabel, Firma:=CompanyField, Zusatz:=DepartmentField, Vorname:=FirstnameField, "
+        "Nachname:=LastnameField, Fax:=FaxField, E-Mail:=EMailField, "
+        "Homepage:=HomepageField, Ust. Nr.:=UIDField, Kontenrahmen=AccountFrameCombo, Währung:=CurrencyCombo"_s;
+    EXPECT_EQ(captions.join(u", "_s), expected);
+}
+
+TEST(EveryPage, GrowsNoFurtherThanTheScreenLetsIt) {
+    struct Case {
+        QSize least, beside;
+        int pixels;
+    };
+    QWidget pages;
+    const QFont before = QApplication::font();
+    QApplication::setFont(QFont(u"DejaVu Sans"_s, 24)); // 32 pixels, 2.18 times the largest of the design.
+    const QSize room = Room(pages);
+    const QSize half = room / 2;
+    for (const Case &each : {Case{half / 2, {}, 32}, Case{half, {}, 29}, Case{{room.width(), 9}, {}, 14},
+                             Case{{9, half.height()}, {0, half.height()}, 14}, Case{room * 2, {}, 14}}) {
+        UseDesktopFont(pages, each.least, each.beside);
+        EXPECT_EQ(pages.fontInfo().pixelSize(), each.pixels) << each.least.width();
+    }
+    QApplication::setFont(before);
 }
 
 TEST(EveryPage, ShowsItsTextsWholeInTheFontsOfTheDesktop) {
@@ -108,11 +133,17 @@ TEST(EveryPage, ShowsItsTextsWholeInTheFontsOfTheDesktop) {
             for (const QWidget *each : window.centralWidget()->findChildren<QWidget *>()) {
                 const QString text = each->property("text").toString();
                 const int flags = each->property("wordWrap").toBool() ? Qt::TextWordWrap : 0;
-                const QSize needed = each->fontMetrics().boundingRect(each->rect(), flags, text).size();
+                const auto needed = [&](const QFont &font) {
+                    return QRect(QPoint(), QFontMetrics(font).boundingRect(each->rect(), flags, text).size());
+                };
                 // The largest title is higher than its place by what no letter of it needs.
-                const bool fits = QRect(QPoint(), each->size()).adjusted(0, 0, 0, 2).contains(QRect(QPoint(), needed));
-                EXPECT_TRUE(!each->isVisible() || text.isEmpty() || (fits && each->fontInfo().pixelSize() >= 11))
-                    << qPrintable(text) << points;
+                const QRect place = QRect(QPoint(), each->size()).adjusted(0, 0, 0, 2);
+                if (each->isVisible() && !text.isEmpty()) {
+                    EXPECT_TRUE(place.contains(needed(each->font()))) << qPrintable(text) << points;
+                    EXPECT_GE(each->fontInfo().pixelSize(),
+                              std::min(QFontInfo(each->parentWidget()->font()).pixelSize(), 12));
+                    EXPECT_TRUE(each->font().stretch() == 0 || each->font().stretch() >= 85) << qPrintable(text);
+                }
             }
         }
     });
@@ -128,6 +159,7 @@ static QString TabOrder(const QWidget &window) {
             // The name of a combo box is its row here, and its caption tells what it is.
             if (item->role() == QAccessible::ComboBox) { item = item->relations(QAccessible::Label).value(0).first; }
             order.append(item->text(QAccessible::Name));
+            EXPECT_NE(item->text(QAccessible::Description), order.last()) << "told twice";
         }
     }
     return order.join(u", "_s);

@@ -1,7 +1,9 @@
+#include "desktop/controls/HintView.h"
 #include "support/MainWindowTest.h"
 
 #include <QAction>
 #include <QClipboard>
+#include <QCompleter>
 #include <QContextMenuEvent>
 #include <QMimeData>
 
@@ -78,7 +80,9 @@ TEST_F(JournalPageTest, ChangesABookingByKeysAndEscapeLeavesTheChange) {
     Open();
     DoubleClick(list, 0, 4);
     EXPECT_TRUE(Shows(u"ChangeButton"_s) && !Shows(u"SubmitButton"_s));
-    Type(u"3\x1b"_s); // Into the date, and Escape.
+    Type(u"3\x1b"_s); // Into the date, and Escape takes that back first.
+    EXPECT_TRUE(Shows(u"ChangeButton"_s));
+    Type(u"\x1b"_s);
     EXPECT_TRUE(Shows(u"SubmitButton"_s));
     DoubleClick(list, 0, 4);
     Type(u"2\r"_s);
@@ -89,12 +93,59 @@ TEST_F(JournalPageTest, OpensAMenuOnTheRowUnderThePointer) {
     book.Add({u"2026-03-01"_s, u"E"_s, u"10"_s});
     book.Add({u"2026-03-02"_s, u"E"_s, u"20"_s});
     Open();
-    Click(list, 0, 4);
     OpenMenu(Centre(list, 1, 4), u"{Down}{Down}{Down}\r"_s);
     EXPECT_EQ(bookings.Cell(-1, Journal::Input), u"10,00"_s);
     EXPECT_TRUE(window.MenuItemEnable()) << "a menu takes the focus for a while only";
     OpenMenu({50, 300}, u"{Down}{Down}{Down}\r"_s);
     EXPECT_EQ(bookings.ListCount(), 1) << "no row is selected";
+}
+
+TEST_F(JournalPageTest, HintsBelowTheFieldWithTheFocusAndBesideNothingElse) {
+    book.Add({u"2026-03-01"_s, u"E"_s, u"10"_s});
+    Open();
+    const auto hint = [this]() -> HintView * {
+        for (auto *each : view.findChildren<HintView *>()) {
+            if (each->isVisible()) { return each; }
+        }
+        return nullptr;
+    };
+    const auto &input = Find<QLineEdit>(u"InputField"_s);
+    Type(u"\t12"_s);
+    EXPECT_FALSE(hint());
+    Type(u".345"_s);
+    ASSERT_TRUE(hint());
+    EXPECT_EQ(hint()->pos(), input.mapTo(&view, QPoint(0, input.height() + 2)));
+    EXPECT_GT(hint()->width(), hint()->fontMetrics().horizontalAdvance(u"wird als 12,35 gelesen"_s));
+    EXPECT_EQ(input.accessibleDescription(), u"wird als 12,35 gelesen"_s);
+    EXPECT_EQ(hint()->grab().toImage().pixel(3, 3), 0xffffffdc) << "the colour of a tip";
+    Type(u"\r"_s);
+    EXPECT_EQ(input.accessibleDescription(), u"Bitte Art der Einnahme/Ausgabe auswählen! wird als 12,35 gelesen"_s);
+    const auto &bar = Find<QWidget>(u"ErrorRect"_s);
+    EXPECT_EQ(hint()->y(), bar.mapTo(&view, QPoint(0, bar.height())).y()) << "the message stays readable";
+    QTest::mouseClick(view.windowHandle(), Qt::LeftButton, {}, hint()->geometry().center());
+    EXPECT_EQ(bookings.ListIndex(), 0) << "the click goes through";
+    EXPECT_FALSE(hint());
+    Find<QWidget>(u"CategoryCombo"_s).setFocus();
+    Type(u"frei"_s);
+    EXPECT_TRUE(hint());
+    Type(u"\t"_s);
+    EXPECT_FALSE(hint());
+}
+
+TEST_F(JournalPageTest, OpensListsAsWideAsTheirLongestRow) {
+    const QString name = u"Ein Konto mit einem Namen, der in kein Feld dieser Breite passt"_s;
+    book.Run(u"UPDATE cash_accounts SET name = '%1' WHERE account = '8400'"_s.arg(name));
+    book.Run(u"UPDATE cash_book SET name = '%1'"_s.arg(name));
+    Open();
+    Type(u"\t1\t\tkonto"_s);
+    auto &accounts = Find<QComboBox>(u"CategoryCombo"_s);
+    EXPECT_GT(accounts.completer()->popup()->width(), accounts.fontMetrics().horizontalAdvance(name));
+    Type(u"\x1b"_s);
+    for (auto *box : {&accounts, &Find<QComboBox>(u"CashbookPopup"_s)}) {
+        box->showPopup();
+        EXPECT_GT(box->view()->width(), box->fontMetrics().horizontalAdvance(name));
+        box->hidePopup();
+    }
 }
 
 TEST_F(JournalPageTest, TakesASuggestionAndNeverAFragment) {

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QWidget>
+
+/// A few words below a field, over what lies there, for as long as there is the field. Clicks go
+/// through them; a message that stands there already stays readable, and they go below it.
+class HintView : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit HintView(QWidget &field);
+
+    /// Empty for none.
+    void Tell(const QString &hint);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QRect Place() const;
+
+    const QWidget &field_;
+    QString hint_;
+};

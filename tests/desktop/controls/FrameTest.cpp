@@ -1,0 +1,55 @@
+#include "desktop/controls/Frame.h"
+
+#include "desktop/controls/CanvasButton.h"
+#include "desktop/controls/FocusRing.h"
+#include "support/MainWindowTest.h"
+
+#include <QPainter>
+
+TEST(Frame, HasItsFourEdgesAtAnyScaleOfTheScreen) {
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+        for (const int left : {0, 1, 2, 3}) {
+            QImage image(QSize(40, 40) * scale, QImage::Format_RGB32);
+            image.fill(Qt::white);
+            image.setDevicePixelRatio(scale);
+            QPainter painter(&image);
+            FillFrame(painter, QRect(left, left, 20, 15), 1, Qt::red);
+            painter.end();
+            QString across, down;
+            const int middle = image.width() / 4;
+            for (int at = 0; at < image.width(); ++at) {
+                across += image.pixelColor(at, middle) == Qt::red ? u'#' : u' ';
+                down += image.pixelColor(middle, at) == Qt::red ? u'#' : u' ';
+            }
+            EXPECT_EQ(across.simplified().replace(u"##"_s, u"#"_s), u"# #"_s) << scale << left << qPrintable(across);
+            EXPECT_EQ(down.simplified().replace(u"##"_s, u"#"_s), u"# #"_s) << scale << left << qPrintable(down);
+        }
+    }
+}
+
+TEST_F(MainWindowTest, RingsWhateverHasTheFocus) {
+    Open();
+    view.resize(1100, 900);
+    const auto &ring = *view.findChild<FocusRing *>();
+    const auto looksRinged = [&](QWidget &widget) {
+        return ring.widget() == &widget && ring.isVisible() &&
+               view.grab().toImage().pixel(widget.mapTo(&view, QPoint(9, widget.height()))) == 0xff1f6aa5;
+    };
+    for (const auto &[command, first] :
+         {std::pair(u"cashbook"_s, u"DateField"_s), {u"preferences"_s, u"CompanyField"_s}}) {
+        window.MenuAction(command);
+        Find<QWidget>(first).setFocus();
+        for (int tab = 0; tab < 22; ++tab) {
+            QWidget &focus = *QApplication::focusWidget();
+            if (qobject_cast<CanvasButton *>(&focus) == nullptr) {
+                EXPECT_TRUE(looksRinged(focus)) << qPrintable(focus.objectName());
+            } else {
+                EXPECT_EQ(focus.grab().toImage().pixel(2, 9), 0xff1f6aa5) << qPrintable(focus.accessibleName());
+            }
+            Type(u"\t"_s);
+        }
+    }
+    Find<QTableView>(u"CashaccountList"_s).setFocus();
+    Type(u"{Down}{F2}"_s);
+    EXPECT_TRUE(looksRinged(Find<QLineEdit>(u"CellEditor"_s)));
+}
