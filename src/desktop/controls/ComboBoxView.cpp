@@ -9,9 +9,11 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCompleter>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QToolTip>
 #include <QWindow>
 
 namespace {
@@ -63,8 +65,6 @@ void ComboBoxView::ShowCombo() {
     }
     FitRow();
     ShowBeginning(*lineEdit());
-    // In a disabled field nobody can move to the end of a long text.
-    setToolTip(combo_.Enabled() ? QString() : TipOf(combo_.Text()));
 }
 
 /// A chosen row that is a little too long is shown whole; what is typed stays in its letters.
@@ -72,6 +72,17 @@ void ComboBoxView::FitRow() {
     QLineEdit &edit = *lineEdit();
     edit.setFont(FittedFont(font(), {currentIndex() < 0 ? QString() : currentText(),
                                      edit.rect().adjusted(2, 0, -2, 0)}));
+}
+
+bool ComboBoxView::event(QEvent *event) {
+    if (event->type() != QEvent::ToolTip) {
+        return QComboBox::event(event);
+    }
+    const QLineEdit &edit = *lineEdit();
+    const bool cut = edit.fontMetrics().horizontalAdvance(edit.text()) > edit.width();
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
+                       cut ? TipOf(edit.text()) : QString(), this);
+    return true;
 }
 
 void ComboBoxView::resizeEvent(QResizeEvent *event) {

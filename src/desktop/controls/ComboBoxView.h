@@ -19,6 +19,9 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
+    /// A text that is cut tells all of itself as a tip: in a disabled field nobody can move to its
+    /// end.
+    bool event(QEvent *event) override;
     /// The list of completions is a window of its own and has to be given the font.
     void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;

@@ -5,7 +5,9 @@
 #include <QClipboard>
 #include <QCompleter>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QMimeData>
+#include <QToolTip>
 
 class JournalPageTest : public MainWindowTest {
 protected:
@@ -145,6 +147,12 @@ TEST_F(JournalPageTest, OpensListsAsWideAsTheirLongestRow) {
         box->showPopup();
         EXPECT_GT(box->view()->width(), box->fontMetrics().horizontalAdvance(name));
         box->hidePopup();
+    }
+    for (const auto &text : {u"kurz"_s, name}) {
+        category.SetText(text);
+        QHelpEvent rest(QEvent::ToolTip, {5, 5}, QCursor::pos());
+        QApplication::sendEvent(&accounts, &rest);
+        EXPECT_EQ(QToolTip::text(), text == name ? u"<p>%1</p>"_s.arg(name) : QString());
     }
 }
 
