@@ -1,5 +1,7 @@
 #include "core/database/Connection.h"
 
+#include "core/database/DerivedKey.h"
+
 #define SQLITE_HAS_CODEC 1
 #include <QThread>
 #include <sqlite3.h>
@@ -21,6 +23,7 @@ Connection::Connection(const QString &path, const QByteArray &key,
 
 bool Connection::Open(const QString &path, const QByteArray &key) {
     const bool inMemory = path.isEmpty();
+    QByteArray derived = inMemory || key.isEmpty() ? QByteArray() : DerivedKey(key, path);
     // The program has one thread: without a lock around each value of a row.
     const int flags =
         SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (inMemory ? SQLITE_OPEN_CREATE : 0);
@@ -28,8 +31,11 @@ bool Connection::Open(const QString &path, const QByteArray &key) {
     sqlite3 *handle = nullptr;
     const int result = sqlite3_open_v2(name.constData(), &handle, flags, nullptr);
     handle_.reset(handle);
-    return Note(result) && Note(sqlite3_busy_handler(handle, &WaitForLock, this)) && Unlock(key) &&
-           Settle();
+    // Without a salt the library says itself what the file lacks.
+    const bool open = Note(result) && Note(sqlite3_busy_handler(handle, &WaitForLock, this)) &&
+                      Unlock(derived.isEmpty() ? key : derived) && Settle();
+    derived.fill('\0');
+    return open;
 }
 
 bool Connection::Unlock(const QByteArray &key) {
