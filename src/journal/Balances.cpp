@@ -17,9 +17,10 @@ Currency SumOf(RecordSet &records) {
     const auto type = records.Field("type"_L1);
     const auto amount = records.Field("amount"_L1);
     for (; !records.AtEnd(); records.MoveNext()) {
-        if (type.IsCode("A")) {
+        const char code = type.Code();
+        if (code == 'A') {
             expenses += amount.CurrencyValue();
-        } else if (type.IsCode("E")) {
+        } else if (code == 'E') {
             receipts += amount.CurrencyValue();
         }
     }

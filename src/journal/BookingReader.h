@@ -19,7 +19,7 @@ public:
     /// As it is stored, also what is no date.
     QString SQLDate() { return shared_.Of(vdate_); }
     /// A type other than that of a receipt counts as an expense.
-    bool IsReceipt() const { return type_.IsCode("E"); }
+    bool IsReceipt() const { return type_.Code() == 'E'; }
     double Amount() const { return amount_.DoubleValue(); }
     QString Tax() { return shared_.Of(tax_); }
     QString TaxName() { return shared_.Of(taxname_); }

@@ -3,6 +3,8 @@
 #include "core/database/RecordSet.h"
 #include "platform/values/Text.h"
 
+#include <cctype>
+
 using namespace Qt::StringLiterals;
 
 QString DatabaseField::StringValue() const {
@@ -20,9 +22,9 @@ QUtf8StringView DatabaseField::RawText() const {
     return records_->CanRead(column_) ? records_->statement_->RawText(column_) : QUtf8StringView();
 }
 
-bool DatabaseField::IsCode(const char *code) const {
+char DatabaseField::Code() const {
     const QUtf8StringView text = RawText();
-    return QByteArrayView(text.data(), text.size()).compare(code, Qt::CaseInsensitive) == 0;
+    return text.size() == 1 ? static_cast<char>(std::toupper(text.front())) : '\0';
 }
 
 void DatabaseField::SetStringValue(const QString &text) {

@@ -16,8 +16,8 @@ public:
     QString StringValue() const;
     /// The stored text itself, for a look in passing: it is gone when the record set moves on.
     QUtf8StringView RawText() const;
-    /// Whether the text is a code such as "E", in plain letters of either case.
-    bool IsCode(const char *code) const;
+    /// A text of one letter, as a capital; 0 for any other.
+    char Code() const;
     /// Sets the value as text, for RecordSet::Update to write. Takes effect after RecordSet::Edit.
     void SetStringValue(const QString &text);
     /// A text in a column of numbers is read as an amount that somebody typed, comma or dot.
