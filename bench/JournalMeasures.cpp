@@ -18,7 +18,7 @@ void LoadJournal(benchmark::State &state, LargeBook &book, int month) {
 Measure JournalOf(const std::string &name, const Pair &books, int month) {
     const std::string tag = month == 0 ? "" : "0" + std::to_string(month);
     return {.name = name,
-            .goal = 1.5,
+            .goal = 1.25,
             .ours = [=](auto &state) { LoadJournal(state, books->ours, month); },
             .bare =
                 [=](auto &state) {
@@ -32,7 +32,7 @@ Measure JournalOf(const std::string &name, const Pair &books, int month) {
 /// smaller book ten times.
 Measure Growth(const std::string &name, const Pair &large, const Pair &small) {
     return {.name = name,
-            .goal = 1,
+            .goal = 1.1,
             .ours = [=](auto &state) { LoadJournal(state, large->ours, 0); },
             .bare =
                 [=](auto &state) {
@@ -124,7 +124,7 @@ Measure Keystroke(const Pair &books) {
                 {1, 2});
         }
     };
-    return {.name = "keystroke", .goal = 2, .ours = ours, .bare = bare};
+    return {.name = "keystroke", .goal = 1.15, .ours = ours, .bare = bare};
 }
 
 } // namespace

@@ -4,12 +4,13 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cstdio>
 #include <map>
 
 namespace {
 
-/// Prints the progress as always, and keeps the median of every measure and side.
+/// Prints the progress as always, and keeps the median of every measure and side, in milliseconds.
 class MedianReporter : public benchmark::ConsoleReporter {
 public:
     MedianReporter() : ConsoleReporter(OO_Tabular) {}
@@ -18,20 +19,22 @@ public:
         ConsoleReporter::ReportRuns(runs);
         for (const Run &run : runs) {
             if (run.aggregate_name == "median") {
-                medians_[run.run_name.function_name] = run.GetAdjustedRealTime();
+                medians[run.run_name.function_name] = run.GetAdjustedRealTime();
             }
         }
     }
 
-    /// The median in milliseconds; 0 if the measure was left out.
-    double Median(const std::string &name) const {
-        const auto found = medians_.find(name);
-        return found == medians_.end() ? 0 : found->second;
-    }
-
-private:
-    std::map<std::string, double> medians_;
+    std::map<std::string, double> medians;
 };
+
+/// What both sides of a measure took in one round.
+struct Sides {
+    double ours;
+    double bare;
+    double Ratio() const { return ours / bare; }
+};
+
+constexpr int rounds = 3;
 
 std::vector<Measure> AllMeasures() {
     const Books books = {.large = std::make_shared<BookPair>(200000),
@@ -55,9 +58,14 @@ void Register(const Measure &measure) {
     }
 }
 
-void PrintLine(const std::string &name, double ours, double bare, const char *unit, double goal) {
-    std::printf("%s\t%.4g %s\t%.4g %s\t%.2f\t%.1f\n", name.c_str(), ours, unit, bare, unit,
-                ours / bare, goal);
+/// The round of the middle ratio, and how far the others lie from it.
+void PrintLine(const std::string &name, std::vector<Sides> sides, const char *unit, double goal) {
+    std::sort(sides.begin(), sides.end(),
+              [](const Sides &a, const Sides &b) { return a.Ratio() < b.Ratio(); });
+    const Sides &middle = sides[sides.size() / 2];
+    std::printf("%s\t%.4g %s\t%.4g %s\t%.2f (%.2f to %.2f)\t%.2f\n", name.c_str(), middle.ours,
+                unit, middle.bare, unit, middle.Ratio(), sides.front().Ratio(),
+                sides.back().Ratio(), goal);
 }
 
 } // namespace
@@ -72,17 +80,26 @@ int main(int argc, char **argv) {
     for (const Measure &measure : measures) {
         Register(measure);
     }
-    MedianReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
+    std::map<std::string, std::vector<Sides>> results;
+    std::vector<Sides> memory;
+    for (int round = 0; round < rounds; ++round) {
+        MedianReporter reporter;
+        benchmark::RunSpecifiedBenchmarks(&reporter);
+        for (const Measure &measure : measures) {
+            // Nothing for a measure that was left out.
+            if (const double bare = reporter.medians[measure.name + "/bare"]; bare > 0) {
+                results[measure.name].push_back({reporter.medians[measure.name + "/ours"], bare});
+            }
+        }
+        const MemoryOfRows taken = MeasureMemory();
+        memory.push_back({taken.oursKiB, taken.bareKiB});
+    }
     std::puts("name\tours\tbare\tratio\tgoal");
     for (const Measure &measure : measures) {
-        const double bare = reporter.Median(measure.name + "/bare");
-        if (bare > 0) {
-            PrintLine(measure.name, reporter.Median(measure.name + "/ours"), bare, "ms",
-                      measure.goal);
+        if (!results[measure.name].empty()) {
+            PrintLine(measure.name, results[measure.name], "ms", measure.goal);
         }
     }
-    const MemoryOfRows memory = MeasureMemory();
-    PrintLine("memory", memory.oursKiB, memory.bareKiB, "KiB", 1.5);
+    PrintLine("memory", memory, "KiB", 1.25);
     return 0;
 }

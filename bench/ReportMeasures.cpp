@@ -31,7 +31,7 @@ Measure ExportYear(const std::shared_ptr<BookPair> &books) {
         }
     };
     return {.name = "export_year",
-            .goal = 1.5,
+            .goal = 1.3,
             .ours =
                 [=](auto &state) {
                     for (auto _ : state) {
@@ -117,7 +117,7 @@ Measure ReportYear() {
     printing->window.MenuAction(u"print"_s);
     const qint64 calls = printing->desktop.calls;
     return {.name = "report_year",
-            .goal = 3,
+            .goal = 2.5,
             .ours =
                 [=](auto &state) {
                     for (auto _ : state) {
