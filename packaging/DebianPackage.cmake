@@ -24,8 +24,7 @@ set(CPACK_STRIP_FILES ON)
 # texts, letters, the report's Courier.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core, fonts-urw-base35, qt6-translations-l10n")
-# Wayland's windows, and what opens the manual and the web pages. X11's windows are in libqt6gui6.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, xdg-utils")
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "evince | pdf-viewer")
+# Wayland's windows, and what shows the manual and opens the web pages. X11's windows are in libqt6gui6.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "evince | pdf-viewer, qt6-wayland, xdg-utils")
 
 include(CPack)

@@ -12,20 +12,22 @@ install(FILES ${icon_source} DESTINATION share/icons/hicolor/scalable/apps)
 
 install(FILES zolmark.desktop DESTINATION share/applications)
 
-# The changelog is the one place for the day of a release.
-file(STRINGS changelog releases REGEX "^zolmark ")
-file(STRINGS changelog signatures REGEX "^ -- ")
+# CHANGELOG.md is the one place for releases: their days and what is new in them.
+set(changelog ${PROJECT_SOURCE_DIR}/CHANGELOG.md)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${changelog} releases.awk)
+function(write_releases form result)
+    execute_process(
+        COMMAND awk -v form=${form} -f ${CMAKE_CURRENT_SOURCE_DIR}/releases.awk ${changelog}
+        OUTPUT_VARIABLE text COMMAND_ERROR_IS_FATAL ANY)
+    set(${result} ${text} PARENT_SCOPE)
+endfunction()
+file(STRINGS ${changelog} releases REGEX "^## ")
 list(GET releases 0 release)
-list(GET signatures 0 signature)
-if(NOT release MATCHES "^zolmark \\(${PROJECT_VERSION}\\) ")
-    message(FATAL_ERROR "packaging/changelog does not begin with version ${PROJECT_VERSION}.")
+if(NOT release MATCHES "^## ([^ ]+) \\(([-0-9]+)\\)$" OR NOT CMAKE_MATCH_1 STREQUAL PROJECT_VERSION)
+    message(FATAL_ERROR "CHANGELOG.md does not begin with version ${PROJECT_VERSION} and its day.")
 endif()
-string(REGEX MATCH "([0-9][0-9]) ([A-Z][a-z]+) ([0-9]+) " day "${signature}")
-set(months Jan Feb Mar Apr May Jun Jul Aug Sep Oct Nov Dec)
-list(FIND months ${CMAKE_MATCH_2} month)
-math(EXPR month "${month} + 101")
-string(SUBSTRING ${month} 1 2 month)
-set(ZOLMARK_RELEASE_DATE ${CMAKE_MATCH_3}-${month}-${CMAKE_MATCH_1})
+set(ZOLMARK_RELEASE_DATE ${CMAKE_MATCH_2})
+write_releases(metainfo ZOLMARK_RELEASES)
 
 configure_file(example.zolmark.zolmark.metainfo.xml.in example.zolmark.zolmark.metainfo.xml @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/example.zolmark.zolmark.metainfo.xml
@@ -42,11 +44,17 @@ function(install_compressed text folder)
     add_custom_target(${text}_compressed ALL DEPENDS ${text}.gz)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${text}.gz DESTINATION ${folder})
 endfunction()
-configure_file(changelog changelog COPYONLY)
+write_releases(debian debian_changelog)
+file(CONFIGURE OUTPUT changelog CONTENT "${debian_changelog}" @ONLY)
 configure_file(zolmark.1.in zolmark.1 @ONLY)
 install_compressed(changelog share/doc/zolmark)
 install_compressed(zolmark.1 share/man/man1)
 install(FILES copyright DESTINATION share/doc/zolmark)
+# Where people look for it; the program opens its own.
+set(manual_link ${CMAKE_CURRENT_BINARY_DIR}/doc/Zolmark.pdf)
+file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/doc)
+file(CREATE_LINK ../../../lib/zolmark/Resources/Zolmark.pdf ${manual_link} SYMBOLIC)
+install(FILES ${manual_link} DESTINATION share/doc/zolmark)
 
 # A link works: the program looks for its resources from the folder of its real file.
 set(link ${CMAKE_CURRENT_BINARY_DIR}/zolmark)

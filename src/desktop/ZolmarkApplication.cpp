@@ -25,10 +25,12 @@ bool HasWindow() {
 
 } // namespace
 
+const char *const ZolmarkApplication::version = ZOLMARK_VERSION;
+
 ZolmarkApplication::ZolmarkApplication(int &argc, char **argv, QtDesktop &desktop)
     : QApplication(argc, argv), desktop_(desktop) {
     setApplicationName(u"Zolmark"_s);
-    setApplicationVersion(QStringLiteral(ZOLMARK_VERSION));
+    setApplicationVersion(QLatin1StringView(version));
     setDesktopFileName(u"zolmark"_s);
     auto *translator = new QTranslator(this);
     if (translator->load(u"qtbase_de"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {

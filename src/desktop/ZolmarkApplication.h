@@ -14,6 +14,9 @@ class ZolmarkApplication : public QApplication {
 public:
     ZolmarkApplication(int &argc, char **argv, QtDesktop &desktop);
 
+    /// That of the project, such as 1.0.0.
+    static const char *Version() { return version; }
+
     /// An exception that nobody caught is told in a message, and the program goes on if it has a
     /// window to go on with.
     bool notify(QObject *receiver, QEvent *event) override;
@@ -23,5 +26,7 @@ public:
     void End();
 
 private:
+    static const char *const version;
+
     QtDesktop &desktop_;
 };

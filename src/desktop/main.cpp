@@ -6,7 +6,37 @@
 
 #include <QIcon>
 
+#include <cstdio>
+#include <cstring>
+
 namespace {
+
+/// Answers on the terminal, without a display, what is asked there; false if nothing is.
+bool Answer(int argc, const char *const *argv) {
+    const char *question = argc == 2 ? argv[1] : "";
+    if (std::strcmp(question, "--version") == 0) {
+        std::printf("Zolmark %s\n", ZolmarkApplication::Version());
+        return true;
+    }
+    if (std::strcmp(question, "--help") == 0) {
+        std::puts("Zolmark führt Kassenbücher für Selbstständige und Freiberufler.\n\n"
+                  "Aufruf: zolmark [--help | --version]\n\n"
+                  "Alles andere geschieht im Fenster; Hilfe > Kurzanleitung öffnet das Handbuch.");
+        return true;
+    }
+    return false;
+}
+
+/// Where the toolkit finds no display, it would end the program with a list of its plugins.
+void TellWithoutDisplay(QtMsgType type, const QMessageLogContext &context, const QString &message) {
+    if (type == QtFatalMsg) {
+        std::fputs("Zolmark kann kein Fenster öffnen: Es ist keine Anzeige erreichbar.\n", stderr);
+        std::_Exit(EXIT_FAILURE);
+    }
+    if (!QByteArrayView(context.category).startsWith("qt.qpa")) {
+        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
+    }
+}
 
 int Run(ZolmarkApplication &application, QtDesktop &desktop) {
     App app(desktop, UserLocale(QLocale::system()));
@@ -24,8 +54,13 @@ int Run(ZolmarkApplication &application, QtDesktop &desktop) {
 } // namespace
 
 int main(int argc, char *argv[]) {
+    if (Answer(argc, argv)) {
+        return EXIT_SUCCESS;
+    }
     QtDesktop desktop;
+    qInstallMessageHandler(TellWithoutDisplay);
     ZolmarkApplication application(argc, argv, desktop);
+    qInstallMessageHandler(nullptr);
     try {
         return Run(application, desktop);
     } catch (const std::exception &exception) {
