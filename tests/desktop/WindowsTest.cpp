@@ -6,8 +6,6 @@
 #include "support/MainWindowTest.h"
 #include "support/ModalWindows.h"
 
-#include <QAction>
-
 static QWidget *Shown(const QString &name) {
     for (QWidget *window : QApplication::topLevelWidgets()) {
         if (window->objectName() == name && window->isVisible()) { return window; }

@@ -3,12 +3,9 @@
 #include "desktop/windows/MainWindowView.h"
 #include "support/Book.h"
 
-#include <QAbstractItemView>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QRegularExpression>
-#include <QTableView>
 #include <QTest>
+#include <QtWidgets> // The tests of the windows reach for any part of the toolkit.
 
 /// Presses the keys of a text, \t, \r and \x1b for Tab, Return and Escape, and any key by its name, as in "{Ctrl+N}".
 /// They go to a widget; or, if a window is given, to wherever its focus is, or to its pop-up.

@@ -18,16 +18,14 @@ CanvasButton *CanvasView::AddButton(const QString &name, const QRect &place) {
     return new CanvasButton(canvas_, name, place, this);
 }
 
-void CanvasView::showEvent(QShowEvent *event) {
-    QWidget::showEvent(event);
+void CanvasView::showEvent(QShowEvent * /*event*/) {
     if (!opened_) {
         opened_ = true;
         Q_EMIT canvas_.Open();
     }
 }
 
-void CanvasView::resizeEvent(QResizeEvent *event) {
-    QWidget::resizeEvent(event);
+void CanvasView::resizeEvent(QResizeEvent * /*event*/) {
     const double growth = Growth(*this);
     canvas_.SetSize(qRound(width() / growth), qRound(height() / growth));
     for (CanvasButton *button : findChildren<CanvasButton *>()) {
@@ -35,8 +33,7 @@ void CanvasView::resizeEvent(QResizeEvent *event) {
     }
 }
 
-void CanvasView::paintEvent(QPaintEvent *event) {
-    QWidget::paintEvent(event);
+void CanvasView::paintEvent(QPaintEvent * /*event*/) {
     QPainter painter(this);
     const double growth = Growth(*this);
     painter.scale(growth, growth);
@@ -65,12 +62,10 @@ QPoint CanvasView::OnCanvas(const QMouseEvent &event) const {
     return (event.position() / Growth(*this)).toPoint();
 }
 
-void CanvasView::enterEvent(QEnterEvent *event) {
-    QWidget::enterEvent(event);
+void CanvasView::enterEvent(QEnterEvent * /*event*/) {
     Q_EMIT canvas_.MouseEnter();
 }
 
-void CanvasView::leaveEvent(QEvent *event) {
-    QWidget::leaveEvent(event);
+void CanvasView::leaveEvent(QEvent * /*event*/) {
     Q_EMIT canvas_.MouseExit();
 }

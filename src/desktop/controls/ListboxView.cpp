@@ -40,7 +40,6 @@ ListboxView::ListboxView(Listbox &list, QWidget *parent) : QTableView(parent), l
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(0);
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     Grow();
     connect(&list, &Listbox::SelectionMoved, this, &ListboxView::ShowSelection);
     connect(&list, &Listbox::EditOpened, this, &ListboxView::OpenEditor);

@@ -68,8 +68,7 @@ void Sheet::changeEvent(QEvent *event) {
     }
 }
 
-void Sheet::paintEvent(QPaintEvent *event) {
-    QWidget::paintEvent(event);
+void Sheet::paintEvent(QPaintEvent * /*event*/) {
     if (!frame_) {
         return;
     }

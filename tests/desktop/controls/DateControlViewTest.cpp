@@ -2,10 +2,6 @@
 
 #include "support/MainWindowTest.h"
 
-#include <QAbstractButton>
-#include <QCalendarWidget>
-#include <QWheelEvent>
-
 /// The date field of the entry row, with the focus and on 15 November 2025; today is 15 March 2026.
 class DateControlViewTest : public MainWindowTest {
 protected:

@@ -1,10 +1,5 @@
 #include "support/MainWindowTest.h"
 
-#include <QAccessible>
-#include <QHeaderView>
-#include <QHelpEvent>
-#include <QToolTip>
-
 class ListboxViewTest : public MainWindowTest {
 protected:
     static QImage Drawn(QTableView &list, int row, int column) {

@@ -3,11 +3,6 @@
 #include "support/MainWindowTest.h"
 #include "support/ModalWindows.h"
 
-#include <QAction>
-#include <QClipboard>
-#include <QMenu>
-#include <QTimer>
-
 #include <csignal>
 
 class CommandsTest : public MainWindowTest {
@@ -109,6 +104,8 @@ TEST_F(CommandsTest, OnARowAreOpenFromAClickInItUntilTheFocusLeavesTheList) {
     EXPECT_EQ(RowCommands(), u"-----"_s);
     Type(u"{Up}"_s);
     EXPECT_EQ(RowCommands(), u"+++++"_s) << "of the row that the key has chosen";
+    Type(u"{End}"_s);
+    EXPECT_EQ(window.journal.CashList.ListIndex(), 1);
     window.entryRow.DateField.SetFocus();
     Type(u"{Ctrl+L}"_s);
     EXPECT_EQ(bookings.ListCount(), 2);

@@ -1,11 +1,5 @@
 #include "support/MainWindowTest.h"
 
-#include <QAbstractButton>
-#include <QAccessible>
-#include <QAction>
-#include <QClipboard>
-#include <QHeaderView>
-
 /// The preferences, with the accounts b (E, active), c (A, not active).
 class PreferencesPageTest : public MainWindowTest {
 protected:
@@ -108,7 +102,9 @@ TEST_F(PreferencesPageTest, KeepsTheKeysFromTheHiddenEntryRow) {
 
 TEST_F(PreferencesPageTest, AddsAndRemovesWhileACellIsOpen) {
     PressPlus();
-    Type(u"Laden\t1000\t12,50\t"_s); // 1000 is taken: the book keeps its number.
+    Type(u"Laden\t1000\t1.250"_s); // 1000 is taken: the book keeps its number.
+    EXPECT_EQ(QApplication::focusWidget()->accessibleDescription(), u"wird als 1,25 gelesen"_s);
+    Type(u"{Ctrl+A}12,50\t"_s);
     window.cashBooks.LoadCashBook();
     PressPlus();
     Type(u"Markt"_s);
