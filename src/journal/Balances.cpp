@@ -55,7 +55,7 @@ void Balances::ReCalcAmount() {
 
 void Balances::RunBalance(Currency balance) {
     Listbox &list = journal_.CashList;
-    std::vector<QString> texts(static_cast<size_t>(list.ListCount()));
+    Listbox::Texts texts(static_cast<size_t>(list.ListCount()));
     for (int row = 0; row < list.ListCount(); ++row) {
         const QString input = list.Cell(row, Journal::Input);
         const QString output = list.Cell(row, Journal::Output);

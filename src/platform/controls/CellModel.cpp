@@ -1,6 +1,7 @@
 #include "platform/controls/CellModel.h"
 
 #include <algorithm>
+#include <string>
 
 using namespace Qt::StringLiterals;
 
@@ -86,30 +87,30 @@ void CellModel::AddRow(const QString &text) {
 }
 
 QString CellModel::Cell(int row, int column) const {
-    if (row >= 0) {
-        // A column below 0 stands for all.
-        const bool stands = Has(row) && column < ColumnCount();
-        return !stands      ? QString()
-               : column < 0 ? JoinedCells(row)
-                            : ColumnAt(column).cells[static_cast<size_t>(row)];
+    if (row >= 0 && column >= 0) {
+        return Has(row, column) ? ColumnAt(column).cells[static_cast<size_t>(row)] : QString();
     }
-    QString lines;
-    for (int each = 0; each < ListCount(); ++each) {
-        lines += Cell(each, column);
-        lines += u'\n';
+    if (row >= ListCount() || column >= ColumnCount()) {
+        return {};
     }
-    lines.chop(1);
-    return lines;
+    return row < 0 ? JoinedCells(0, ListCount(), column) : JoinedCells(row, row + 1, column);
 }
 
-QString CellModel::JoinedCells(int row) const {
-    QString cells;
-    for (const Column &column : columns_) {
-        cells += column.cells[static_cast<size_t>(row)];
-        cells += u'\t';
+QString CellModel::JoinedCells(int begin, int end, int column) const {
+    const int first = std::max(column, 0);
+    const int last = column < 0 ? ColumnCount() - 1 : column;
+    std::u16string all; // A year is some megabytes; this takes small pieces quickest.
+    for (int row = begin; row < end; ++row) {
+        for (int each = first; each <= last; ++each) {
+            const QStringView cell = ColumnAt(each).cells[static_cast<size_t>(row)];
+            all.append(cell.utf16(), static_cast<size_t>(cell.size()));
+            all += each == last ? u'\n' : u'\t';
+        }
     }
-    cells.chop(1);
-    return cells;
+    if (!all.empty()) {
+        all.pop_back();
+    }
+    return QString::fromStdU16String(all);
 }
 
 void CellModel::ShowCell(int row, int column) {
@@ -125,7 +126,7 @@ void CellModel::SetCell(int row, int column, const QString &text) {
     }
 }
 
-void CellModel::SetColumn(int column, std::vector<QString> texts) {
+void CellModel::SetColumn(int column, Texts texts) {
     if (!HasColumn(column)) {
         return;
     }

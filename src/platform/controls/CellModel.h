@@ -5,6 +5,7 @@
 #include <QAbstractTableModel>
 #include <QString>
 
+#include <deque>
 #include <variant>
 #include <vector>
 
@@ -16,6 +17,9 @@ class CellModel : public QAbstractTableModel {
 public:
     /// A value stored with a cell, which the list does not show.
     using Tag = std::variant<std::monostate, QString, Date>;
+    /// The texts of a column, row by row. They lie in pieces, so that a long column is not copied
+    /// while it grows, and takes no more room than it needs.
+    using Texts = std::deque<QString>;
     enum class Alignment { Default = 0, Right = 3 };
     enum class ColumnType { Default = 0, CheckBox = 2 };
 
@@ -26,9 +30,9 @@ public:
             : cells(static_cast<size_t>(columnCount)), cellTags(static_cast<size_t>(columnCount)) {}
 
         /// One for each row.
-        std::vector<QString> tags;
-        std::vector<std::vector<QString>> cells;
-        std::vector<std::vector<Tag>> cellTags;
+        Texts tags;
+        std::vector<Texts> cells;
+        std::vector<std::deque<Tag>> cellTags;
     };
 
     explicit CellModel(int columnCount) : columns_(static_cast<size_t>(columnCount)) {}
@@ -43,7 +47,7 @@ public:
     QString Cell(int row, int column) const;
     void SetCell(int row, int column, const QString &text);
     /// Writes one column from the first row to the last, one text to a row, and shows it at once.
-    void SetColumn(int column, std::vector<QString> texts);
+    void SetColumn(int column, Texts texts);
     bool CellCheck(int row, int column) const;
     void SetCellCheck(int row, int column, bool checked);
     const Tag &CellTag(int row, int column) const;
@@ -91,20 +95,20 @@ private:
         QString heading;
         Alignment alignment = Alignment::Default;
         ColumnType type = ColumnType::Default;
-        std::vector<QString> cells;
+        Texts cells;
         /// These two reach to the last row that has one.
-        std::vector<Tag> tags;
+        std::deque<Tag> tags;
         std::vector<bool> checks;
     };
 
     const Column &ColumnAt(int column) const { return columns_[static_cast<size_t>(column)]; }
     Column &ColumnAt(int column) { return columns_[static_cast<size_t>(column)]; }
-    QString JoinedCells(int row) const;
+    QString JoinedCells(int begin, int end, int column) const;
     QVariant AlignmentOf(int column) const;
     void ShowCell(int row, int column);
 
     std::vector<Column> columns_;
-    std::vector<QString> rowTags_;
+    Texts rowTags_;
     int refills_ = 0;
     bool hasHeading_ = false;
 };
