@@ -30,7 +30,7 @@ QString AmountText2SQL(const QString &text) {
 }
 
 double AmountText2Value(const QString &text) {
-    return Val(AmountText2SQL(text));
+    return Val(text, u',');
 }
 
 QString AmountHint(const QString &text, const UserLocale &locale) {

@@ -9,10 +9,11 @@
 
 using namespace Qt::StringLiterals;
 
-double Val(QStringView text) {
+double Val(QStringView text, QChar decimalMark) {
     std::string number;
     for (const QChar letter : text.trimmed()) {
-        number += letter.toLatin1(); // What has no Latin letter ends a number as well as any other.
+        // What has no Latin letter ends a number as well as any other.
+        number += letter == decimalMark ? '.' : letter.toLatin1();
     }
     const char *begin = number.data();
     const char *end = begin + number.size();

@@ -4,8 +4,9 @@
 
 /// Text functions of the desktop's own kind. Texts are compared without regard to case everywhere.
 
-/// The number at the start of the text, with a dot as decimal mark; 0 if there is none.
-double Val(QStringView text);
+/// The number at the start of the text, with a dot or the given letter as decimal mark; 0 if there
+/// is none.
+double Val(QStringView text, QChar decimalMark = u'.');
 
 /// The piece with the given number, from 1; empty beyond the last.
 QString NthField(QStringView text, QChar separator, int number);

@@ -69,7 +69,7 @@ bool IsZero(const std::string &digits) {
 } // namespace
 
 UserLocale::UserLocale(const QLocale &desktop)
-    : locale_(German(desktop)), decimalSeparator_(locale_.decimalPoint()),
+    : locale_(German(desktop)), decimalSeparator_(locale_.decimalPoint().front()),
       shortForm_(WithFourDigitYear(locale_.dateFormat(QLocale::ShortFormat))) {}
 
 QString UserLocale::Format(double value, QStringView mask) const {
@@ -77,22 +77,19 @@ QString UserLocale::Format(double value, QStringView mask) const {
         value = 0;
     }
     const qsizetype dot = mask.indexOf(u'.');
-    const bool leadingDigit = mask.left(dot).contains(u'0');
+    const qsizetype decimals = mask.size() - dot - 1;
     std::string digits = Digits(value);
-    RoundTo(digits, static_cast<size_t>(mask.size() - dot - 1));
+    RoundTo(digits, static_cast<size_t>(decimals));
     const bool negative = value < 0 && !IsZero(digits);
-    const QLatin1StringView all(digits.data(), static_cast<qsizetype>(digits.size()));
-    const qsizetype point = all.indexOf(u'.');
-    QString text;
-    text.reserve(all.size() + 1);
+    if (digits.starts_with("0.") && !mask.left(dot).contains(u'0')) {
+        digits.erase(0, 1);
+    }
     if (negative) {
-        text += u'-';
+        digits.insert(0, 1, '-');
     }
-    if (leadingDigit || point != 1 || digits.front() != '0') {
-        text += all.left(point);
-    }
-    text += decimalSeparator_;
-    return text += all.mid(point + 1);
+    QString text = QString::fromLatin1(digits);
+    text[text.size() - decimals - 1] = decimalSeparator_;
+    return text;
 }
 
 QString UserLocale::ShortDate(const Date &date) const {

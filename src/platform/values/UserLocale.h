@@ -33,6 +33,6 @@ public:
 
 private:
     QLocale locale_;
-    QString decimalSeparator_;
+    QChar decimalSeparator_;
     QString shortForm_;
 };
