@@ -22,6 +22,12 @@ int CompareDates(const Listbox::Tag &first, const Listbox::Tag &second) {
     return *a < *b ? -1 : int(*a > *b);
 }
 
+/// Below, at or above 0. Of two ids in digits the longer is the greater.
+int CompareIds(const QString &a, const QString &b) {
+    return a.size() == b.size() ? a.compare(b)
+                                : int(a.size() > b.size()) - int(a.size() < b.size());
+}
+
 void CashList_CellBackgroundPaint(Graphics &graphics, int row) {
     graphics.SetForeColor(row % 2 == 0 ? evenRow : oddRow);
     graphics.FillRect(0, 0, graphics.Width(), graphics.Height());
@@ -126,8 +132,6 @@ void Journal::CashList_CompareRows(int first, int second, int column, int &resul
     result = CompareDates(CashList.CellTag(first, column), CashList.CellTag(second, column));
     if (result == 0) {
         // Bookings of one day stand in the order of their entry.
-        const qint64 a = CashList.RowTag(first).toLongLong();
-        const qint64 b = CashList.RowTag(second).toLongLong();
-        result = a < b ? -1 : int(a > b);
+        result = CompareIds(CashList.RowTag(first), CashList.RowTag(second));
     }
 }

@@ -35,8 +35,10 @@ void PickLists::LoadRows(const QString &sql, QLatin1StringView tagColumn, const 
     // A damaged page shows only on the way.
     side = database.Error() ? QString() : type;
     // The database sorts an umlaut after all letters.
-    std::stable_sort(rows.begin(), rows.end(),
-                     [](const auto &a, const auto &b) { return CompareTexts(a.text, b.text) < 0; });
+    const auto less = [](const auto &a, const auto &b) { return CompareTexts(a.text, b.text) < 0; };
+    if (!std::is_sorted(rows.begin(), rows.end(), less)) {
+        std::stable_sort(rows.begin(), rows.end(), less);
+    }
     list.SetRows(std::move(rows));
 }
 

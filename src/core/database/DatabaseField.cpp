@@ -3,8 +3,6 @@
 #include "core/database/RecordSet.h"
 #include "platform/values/Text.h"
 
-#include <cctype>
-
 using namespace Qt::StringLiterals;
 
 QString DatabaseField::StringValue() const {
@@ -23,8 +21,7 @@ QUtf8StringView DatabaseField::RawText() const {
 }
 
 char DatabaseField::Code() const {
-    const QUtf8StringView text = RawText();
-    return text.size() == 1 ? static_cast<char>(std::toupper(text.front())) : '\0';
+    return records_->CanRead(column_) ? records_->statement_->Letter(column_) : '\0';
 }
 
 void DatabaseField::SetStringValue(const QString &text) {
@@ -37,7 +34,7 @@ double DatabaseField::DoubleValue() const {
     }
     const Statement &statement = *records_->statement_;
     return statement.ColumnKind(column_) == Statement::Kind::Text
-               ? Val(Replace(statement.Text(column_), u',', u'.'))
+               ? Val(statement.Text(column_), u',')
                : statement.Number(column_);
 }
 

@@ -20,9 +20,10 @@ QString ColumnIsMissing() {
 
 RecordSet::RecordSet(std::unique_ptr<Statement> statement, bool hasRow)
     : statement_(std::move(statement)), hasRow_(hasRow) {
-    for (int column = 0; column < statement_->ColumnCount(); ++column) {
-        const bool isBoolean = statement_->DeclaredType(column).toLower() == "boolean";
-        columns_.push_back({statement_->ColumnName(column), isBoolean});
+    const int count = statement_->ColumnCount();
+    columns_.reserve(static_cast<size_t>(count));
+    for (int column = 0; column < count; ++column) {
+        columns_.push_back({statement_->ColumnName(column), statement_->IsBoolean(column)});
     }
 }
 
@@ -34,7 +35,9 @@ void RecordSet::MoveNext() {
 
 DatabaseField RecordSet::Field(QAnyStringView name) {
     for (size_t column = 0; column < columns_.size(); ++column) {
-        if (QAnyStringView::compare(name, columns_[column].name, Qt::CaseInsensitive) == 0) {
+        // The tables' names are plain letters.
+        const QLatin1StringView known(columns_[column].name);
+        if (QAnyStringView::compare(name, known, Qt::CaseInsensitive) == 0) {
             return {*this, static_cast<int>(column)};
         }
     }

@@ -42,8 +42,8 @@ QByteArray Statement::ColumnName(int column) const {
     return sqlite3_column_name(handle_.get(), column);
 }
 
-QByteArray Statement::DeclaredType(int column) const {
-    return sqlite3_column_decltype(handle_.get(), column);
+bool Statement::IsBoolean(int column) const {
+    return qstricmp(sqlite3_column_decltype(handle_.get(), column), "boolean") == 0;
 }
 
 QByteArray Statement::TableName(int column) const {
@@ -75,6 +75,14 @@ QString Statement::Text(int column) const {
 QUtf8StringView Statement::RawText(int column) const {
     const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(handle_.get(), column));
     return {text, sqlite3_column_bytes(handle_.get(), column)};
+}
+
+char Statement::Letter(int column) const {
+    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(handle_.get(), column));
+    if (text == nullptr || text[0] == '\0' || text[1] != '\0') {
+        return '\0';
+    }
+    return text[0] >= 'a' && text[0] <= 'z' ? static_cast<char>(text[0] - 'a' + 'A') : text[0];
 }
 
 double Statement::Number(int column) const {

@@ -27,8 +27,8 @@ public:
 
     int ColumnCount() const;
     QByteArray ColumnName(int column) const;
-    /// The column's type as the table declares it, empty for an expression.
-    QByteArray DeclaredType(int column) const;
+    /// Whether the table declares the column as boolean.
+    bool IsBoolean(int column) const;
     /// The table that a column comes from, empty for an expression.
     QByteArray TableName(int column) const;
 
@@ -37,6 +37,8 @@ public:
     QString Text(int column) const;
     /// The same as the library holds it, until the next step.
     QUtf8StringView RawText(int column) const;
+    /// A text of one letter, as a capital; 0 for any other.
+    char Letter(int column) const;
     double Number(int column) const;
 
 private:
