@@ -77,11 +77,11 @@ QByteArray Convert(QStringView text, const icu::Transliterator *toPlainLetters,
 } // namespace
 
 QByteArray Encodings::WindowsANSI(const QString &text) {
+    if (IsLatin1(text)) {
+        return text.toLatin1();
+    }
     // What is typed as a letter and its accent is one character in the code page.
     const QString composed = text.normalized(QString::NormalizationForm_C);
-    if (IsLatin1(composed)) {
-        return composed.toLatin1();
-    }
     const Converter converter = OpenConverter();
     const Transliterator toPlainLetters = OpenTransliterator(converter.get());
     QByteArray bytes;
