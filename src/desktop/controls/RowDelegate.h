@@ -21,4 +21,8 @@ public:
 
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
+
+private:
+    static void PaintBox(QPainter &painter, QStyleOptionViewItem box, bool checked);
+    static void PaintText(QPainter &painter, const QStyleOptionViewItem &cell);
 };
