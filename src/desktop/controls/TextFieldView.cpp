@@ -8,6 +8,7 @@
 
 TextFieldView::TextFieldView(TextField &field, QWidget *parent) : QLineEdit(parent) {
     setText(field.Text());
+    ShowBeginning(*this);
     TakeAsOneLine(*this);
     BindControl(field, *this);
     connect(&field, &TextField::Updated, this, [this, &field] {

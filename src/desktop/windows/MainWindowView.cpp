@@ -27,8 +27,8 @@ MainWindowView::MainWindowView(MainWindow &window, const App &app)
     setObjectName(u"MainWindow"_s);
     setWindowTitle(u"Kassenbuch"_s);
     UseGivenColours(*this, 0xfffaf9fa);
-    pages_->addWidget(new JournalPageView(window, app.Locale(), pages_));
-    pages_->addWidget(new PreferencesPageView(window, pages_));
+    pages_->AddPage([this, &app] { return new JournalPageView(window_, app.Locale(), pages_); });
+    pages_->AddPage([this] { return new PreferencesPageView(window_, pages_); });
     setCentralWidget(pages_);
     DarkenFrames(*pages_);
     new FocusRing(*this);

@@ -48,9 +48,9 @@ WelcomeWindowView::WelcomeWindowView(WelcomeWindow &window, MenuItem &menuBar,
                    Qt::WindowCloseButtonHint);
     UseGivenColours(*this, 0xffffffff);
     sheet_->Add(pages_, placeOfPages);
-    AddGreeting();
-    AddCompanyPage();
-    AddCashBookPage(locale);
+    pages_->AddPage([this] { return Greeting(); });
+    pages_->AddPage([this] { return CompanyPage(); });
+    pages_->AddPage([this, &locale] { return CashBookPage(locale); });
     AddChoices();
     setMenuBar(new MenuBarView(menuBar, this));
     setCentralWidget(sheet_);
@@ -69,16 +69,15 @@ bool WelcomeWindowView::event(QEvent *event) {
     return QMainWindow::event(event);
 }
 
-Sheet *WelcomeWindowView::AddPage(const QString &name) {
+Sheet *WelcomeWindowView::NewPage(const QString &name) {
     auto *page = new Sheet(placeOfPages.size(), pages_);
     page->setObjectName(name);
     page->SetFrame(frameOfPages);
-    pages_->addWidget(page);
     return page;
 }
 
-void WelcomeWindowView::AddGreeting() {
-    Sheet &page = *AddPage(u"Rectangle1"_s);
+QWidget *WelcomeWindowView::Greeting() {
+    Sheet &page = *NewPage(u"Rectangle1"_s);
     QLabel *welcome = page.AddText(u"Label1"_s, u"Willkomen bei Zolmark"_s, OnPage(27, 9, 510, 36),
                                    Qt::AlignHCenter);
     SetTextColour(*page.SetLetters(welcome, 32, true), strongText);
@@ -90,10 +89,11 @@ void WelcomeWindowView::AddGreeting() {
     SetTextColour(*page.SetLetters(purpose, 16), softText);
     page.AddNamed(u"Bild zur Begrüßung"_s, new CanvasView(window_.Canvas1, &page),
                   OnPage(31, 102, 513, 200));
+    return &page;
 }
 
-void WelcomeWindowView::AddCompanyPage() {
-    Sheet &page = *AddPage(u"Rectangle2"_s);
+QWidget *WelcomeWindowView::CompanyPage() {
+    Sheet &page = *NewPage(u"Rectangle2"_s);
     auto *title = new Sheet({526, 41}, &page);
     title->setObjectName(u"Placard1"_s);
     title->SetFrame(frameOfTitle);
@@ -122,10 +122,11 @@ void WelcomeWindowView::AddCompanyPage() {
                    "verändert werden."_s,
                    OnPage(136, 232, 293, 53));
     page.AddButton(window_.ForwardButton, OnPage(456, 266, 80, 20));
+    return &page;
 }
 
-void WelcomeWindowView::AddCashBookPage(const UserLocale &locale) {
-    Sheet &page = *AddPage(u"Rectangle3"_s);
+QWidget *WelcomeWindowView::CashBookPage(const UserLocale &locale) {
+    Sheet &page = *NewPage(u"Rectangle3"_s);
     // In the order of the Tab key.
     page.AddNamed(u"Kontorahmen"_s, new PopupMenuView(window_.AccountsPopup, &page),
                   OnPage(171, 19, 372, 20));
@@ -144,6 +145,7 @@ void WelcomeWindowView::AddCashBookPage(const UserLocale &locale) {
     AddOpeningBalance(page, locale);
     page.AddButton(window_.BackButton, OnPage(341, 266, 80, 20));
     page.AddButton(window_.SaveButton, OnPage(433, 266, 110, 20));
+    return &page;
 }
 
 void WelcomeWindowView::AddOpeningBalance(Sheet &page, const UserLocale &locale) {

@@ -5,7 +5,7 @@
 #include <QMainWindow>
 
 class MenuItem;
-class QStackedWidget;
+class PagePanelView;
 class TLXCanvasButton;
 class UserLocale;
 class WelcomeWindow;
@@ -33,10 +33,10 @@ private:
         Text description;
     };
 
-    Sheet *AddPage(const QString &name);
-    void AddGreeting();
-    void AddCompanyPage();
-    void AddCashBookPage(const UserLocale &locale);
+    Sheet *NewPage(const QString &name);
+    QWidget *Greeting();
+    QWidget *CompanyPage();
+    QWidget *CashBookPage(const UserLocale &locale);
     void AddOpeningBalance(Sheet &page, const UserLocale &locale);
     void AddChoices();
     /// Gives what of it the keys press.
@@ -44,5 +44,5 @@ private:
 
     WelcomeWindow &window_;
     Sheet *sheet_;
-    QStackedWidget *pages_;
+    PagePanelView *pages_;
 };

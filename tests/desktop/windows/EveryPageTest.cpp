@@ -113,11 +113,13 @@ TEST(EveryPage, StandsAsDesignedAndGrowsWithTheWindowAndWithItsLetters) {
             QApplication::processEvents();
             const QSize growth = isMain ? pages.size() - QSize(1080, 770) * times : QSize(0, 0);
             for (const Place &each : isMain ? std::span<const Place>(mainPlaces) : welcomePlaces) {
-                const auto &widget = *window.findChild<QWidget *>(QLatin1String(each.name));
-                // A page takes its size when it shows.
-                if (!widget.parentWidget()->isVisible() || (times == 2 && (each.locks != LT || widget.isHidden()))) {
+                const auto *found = window.findChild<QWidget *>(QLatin1String(each.name));
+                // A page is built, and takes its size, when it shows.
+                if (!found || !found->parentWidget()->isVisible() ||
+                    (times == 2 && (each.locks != LT || found->isHidden()))) {
                     continue;
                 }
+                const QWidget &widget = *found;
                 const int right = each.locks & Qt::RightEdge ? growth.width() : 0;
                 const int bottom = each.locks & Qt::BottomEdge ? growth.height() : 0;
                 const QRect place(each.place.topLeft() * times, each.place.size() * times);
@@ -194,16 +196,18 @@ static QString TabOrder(const QWidget &window) {
 TEST(EveryPage, TellsAssistiveToolsWhatTheKeysReach) {
     QStringList orders;
     ForEveryPage([&orders](const QWidget &window) { orders.append(TabOrder(window)); });
+    // A page is built when it shows: on the way round its controls come after all that stood before.
     EXPECT_EQ(orders.join(u'\n'), u"Demo Datenbank, Neue Datenbank, Handbuch\n"
-                                  "Name:, Name, zweite Zeile, Strasse:, Plz, Ort, Telefon:, Weiter, "
-                                  "Demo Datenbank, Neue Datenbank, Handbuch\n"
+                                  "Demo Datenbank, Neue Datenbank, Handbuch, "
+                                  "Name:, Name, zweite Zeile, Strasse:, Plz, Ort, Telefon:, Weiter\n"
+                                  "Demo Datenbank, Neue Datenbank, Handbuch, "
                                   "Kontorahmen, Kontobezeichnung:, Konto:, Eröffnungsbestand:, Währung, "
-                                  "Datum des Eröffnungsbestandes:, Zurück, Übernehmen, "
-                                  "Demo Datenbank, Neue Datenbank, Handbuch\n"
+                                  "Datum des Eröffnungsbestandes:, Zurück, Übernehmen\n"
                                   "Datum, Einnahme, Ausgabe, Steuer, Art der Einnahme, Beleg-Nr., Notiz, "
                                   "Eintragen, Buchungen, Jahr/Monat, Monat, Kasse, Neu, Drucken, Einstellungen\n"
+                                  "Neu, Drucken, Kassenbuch, "
                                   "Firma:, Zusatz:, Vorname:, Nachname:, Strasse:, Plz, Ort, Telefon:, "
                                   "Fax:, E-Mail:, Homepage:, Ust. Nr.:, Kassen, Buchungskonten, "
                                   "Kasse hinzufügen, Kasse entfernen, Buchungskonto hinzufügen, "
-                                  "Buchungskonto entfernen, Neu, Drucken, Kassenbuch"_s);
+                                  "Buchungskonto entfernen"_s);
 }

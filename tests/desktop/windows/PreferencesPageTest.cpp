@@ -1,9 +1,9 @@
 #include "support/MainWindowTest.h"
 
 /// The preferences, with the accounts b (E, active), c (A, not active).
-class PreferencesPageTest : public MainWindowTest {
+class PreferencesPage : public MainWindowTest {
 protected:
-    PreferencesPageTest() {
+    PreferencesPage() {
         book.Run(u"DELETE FROM cash_accounts"_s);
         book.Run(u"INSERT INTO cash_accounts (name, account, type, active) VALUES "
                  "('b', '20', 'E', 1), ('c', '10', 'A', 0)"_s);
@@ -15,6 +15,11 @@ protected:
         Find<QAction>(u"PreferencesButton"_s).trigger();
         QApplication::processEvents(); // The page paints.
     }
+};
+
+/// Its lists, which are there when it shows.
+class PreferencesPageTest : public PreferencesPage {
+protected:
     void PressPlus() { Click(&Find<QWidget>(u"CashBookAdd"_s), {10, 14}); }
     void PressMinus() { Click(&Find<QWidget>(u"CashBookAdd"_s), {40, 14}); }
     QString Accounts() const {
