@@ -3,6 +3,7 @@
 #include "Memory.h"
 
 #include <QCoreApplication>
+#include <QHashSeed>
 
 #include <algorithm>
 #include <cstdio>
@@ -71,6 +72,8 @@ void PrintLine(const std::string &name, std::vector<Sides> sides, const char *un
 } // namespace
 
 int main(int argc, char **argv) {
+    // As the program does, for both sides.
+    QHashSeed::setDeterministicGlobalSeed();
     const QCoreApplication application(argc, argv);
     if (argc == 3 && std::string(argv[1]) == "--memory") {
         return PrintGrowth(argv[2]);
