@@ -1,7 +1,7 @@
 #include "platform/controls/CellModel.h"
 
 #include <algorithm>
-#include <string>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -99,18 +99,25 @@ QString CellModel::Cell(int row, int column) const {
 QString CellModel::JoinedCells(int begin, int end, int column) const {
     const int first = std::max(column, 0);
     const int last = column < 0 ? ColumnCount() - 1 : column;
-    std::u16string all; // A year is some megabytes; this takes small pieces quickest.
+    // A year is some megabytes: they are allocated once.
+    qsizetype size = 0;
+    for (int each = first; each <= last; ++each) {
+        const Texts &cells = ColumnAt(each).cells;
+        size += std::accumulate(
+            cells.begin() + begin, cells.begin() + end, qsizetype(end - begin),
+            [](qsizetype sum, const QString &cell) { return sum + cell.size(); });
+    }
+    QString all(size, Qt::Uninitialized);
+    QChar *place = all.data();
     for (int row = begin; row < end; ++row) {
         for (int each = first; each <= last; ++each) {
-            const QStringView cell = ColumnAt(each).cells[static_cast<size_t>(row)];
-            all.append(cell.utf16(), static_cast<size_t>(cell.size()));
-            all += each == last ? u'\n' : u'\t';
+            const QString &cell = ColumnAt(each).cells[static_cast<size_t>(row)];
+            place = std::copy(cell.begin(), cell.end(), place);
+            *place++ = each == last ? u'\n' : u'\t';
         }
     }
-    if (!all.empty()) {
-        all.pop_back();
-    }
-    return QString::fromStdU16String(all);
+    all.chop(1);
+    return all;
 }
 
 void CellModel::ShowCell(int row, int column) {

@@ -51,7 +51,7 @@ QString ReplaceLineEndings(QString text, const QString &ending) {
     if (text.contains(u'\r')) {
         text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
     }
-    return text.replace(u"\n"_s, ending);
+    return text.replace(u'\n', ending);
 }
 
 QString OneLine(QString text) {
