@@ -3,19 +3,13 @@
 #include <QStringDecoder>
 #include <sqlite3.h>
 
-void Statement::Finalizer::operator()(sqlite3_stmt *handle) const {
-    // Repeats the outcome of the last step, which has been noted.
-    sqlite3_finalize(handle);
-}
-
 Statement::Statement(std::shared_ptr<Connection> connection, const QString &sql)
-    : connection_(std::move(connection)) {
-    const QByteArray text = sql.toUtf8();
-    sqlite3_stmt *handle = nullptr;
-    // A failure gives no handle.
-    static_cast<void>(connection_->Note(sqlite3_prepare_v2(
-        connection_->Handle(), text.constData(), static_cast<int>(text.size()), &handle, nullptr)));
-    handle_.reset(handle);
+    : connection_(std::move(connection)), sql_(sql.toUtf8()), handle_(connection_->Compile(sql_)) {}
+
+Statement::~Statement() {
+    if (IsValid()) {
+        connection_->Keep(sql_, std::move(handle_));
+    }
 }
 
 bool Statement::Bind(int parameter, const QString &text) {

@@ -7,12 +7,13 @@
 
 #include <memory>
 
-struct sqlite3_stmt;
-
 /// One compiled statement of a connection. Every outcome goes to the connection.
 class Statement {
 public:
     Statement(std::shared_ptr<Connection> connection, const QString &sql);
+    Statement(const Statement &) = delete;
+    Statement &operator=(const Statement &) = delete;
+    ~Statement();
 
     /// False when the text could not be compiled.
     bool IsValid() const { return handle_ != nullptr; }
@@ -42,10 +43,7 @@ public:
     double Number(int column) const;
 
 private:
-    struct Finalizer {
-        void operator()(sqlite3_stmt *handle) const;
-    };
-
     std::shared_ptr<Connection> connection_;
-    std::unique_ptr<sqlite3_stmt, Finalizer> handle_;
+    QByteArray sql_;
+    Connection::Compiled handle_;
 };

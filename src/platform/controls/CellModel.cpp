@@ -103,9 +103,9 @@ QString CellModel::JoinedCells(int begin, int end, int column) const {
     qsizetype size = 0;
     for (int each = first; each <= last; ++each) {
         const Texts &cells = ColumnAt(each).cells;
-        size += std::accumulate(
-            cells.begin() + begin, cells.begin() + end, qsizetype(end - begin),
-            [](qsizetype sum, const QString &cell) { return sum + cell.size(); });
+        size +=
+            std::accumulate(cells.begin() + begin, cells.begin() + end, qsizetype(end - begin),
+                            [](qsizetype sum, const QString &cell) { return sum + cell.size(); });
     }
     QString all(size, Qt::Uninitialized);
     QChar *place = all.data();
