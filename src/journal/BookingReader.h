@@ -17,21 +17,20 @@ public:
 
     QString Id() const { return id_.StringValue(); }
     /// As it is stored, also what is no date.
-    QString SQLDate() { return shared_.Of(vdate_); }
+    QString SQLDate() { return vdate_.Text(); }
     /// A type other than that of a receipt counts as an expense.
     bool IsReceipt() const { return type_.Code() == 'E'; }
     double Amount() const { return amount_.DoubleValue(); }
-    QString Tax() { return shared_.Of(tax_); }
-    QString TaxName() { return shared_.Of(taxname_); }
-    QString Category() { return shared_.Of(category_); }
-    QString Account() { return shared_.Of(account_); }
+    QString Tax() { return tax_.Text(); }
+    QString TaxName() { return taxname_.Text(); }
+    QString Category() { return category_.Text(); }
+    QString Account() { return account_.Text(); }
     QString SaleNumber() const { return salesnumber_.StringValue(); }
     QString Note() const { return note_.StringValue(); }
     /// Empty but in a query with cash books.
-    QString CashBookAccount() { return shared_.Of(cbaccount_); }
+    QString CashBookAccount() { return cbaccount_.Text(); }
 
 private:
-    DatabaseField id_, vdate_, type_, amount_, tax_, taxname_, category_, account_, salesnumber_,
-        note_, cbaccount_;
-    SharedTexts shared_;
+    DatabaseField id_, type_, amount_, salesnumber_, note_;
+    SharedTexts vdate_, tax_, taxname_, category_, account_, cbaccount_;
 };

@@ -2,21 +2,35 @@
 
 #include "core/database/DatabaseField.h"
 
-#include <QHash>
+#include <string>
+#include <unordered_map>
 
-/// Texts of which a book has few, many times over, such as taxes and categories: each is made once,
-/// and shared by all that ask for it.
+/// The texts of a column that holds few of them, many times over, such as taxes and categories:
+/// each is made once, and shared by all rows that have it.
 class SharedTexts {
 public:
-    /// The text of the field's current row.
-    QString Of(const DatabaseField &field) {
-        const QUtf8StringView text = field.RawText();
-        const auto known = texts_.constFind(QByteArray::fromRawData(text.data(), text.size()));
-        return known != texts_.constEnd()
-                   ? *known
-                   : *texts_.insert(QByteArray(text.data(), text.size()), field.StringValue());
+    explicit SharedTexts(const DatabaseField &field) : field_(field) {}
+
+    /// That of the current row.
+    QString Text() {
+        const QUtf8StringView raw = field_.RawText();
+        const std::string_view text(raw.data(), static_cast<size_t>(raw.size()));
+        // Neighbours often share it.
+        if (last_ == nullptr || last_->first != text) {
+            const auto known = texts_.find(text);
+            last_ = known != texts_.end() ? &*known
+                                          : &*texts_.emplace(text, field_.StringValue()).first;
+        }
+        return last_->second;
     }
 
 private:
-    QHash<QByteArray, QString> texts_;
+    /// Finds a text without a copy of it.
+    struct Hash : std::hash<std::string_view> {
+        using is_transparent = void;
+    };
+
+    DatabaseField field_;
+    std::unordered_map<std::string, QString, Hash, std::equal_to<>> texts_;
+    const std::pair<const std::string, QString> *last_ = nullptr;
 };

@@ -163,8 +163,9 @@ const CellModel::Tag &CellModel::CellTag(int row, int column) const {
                : none;
 }
 
-QString CellModel::RowTag(int row) const {
-    return Has(row) ? rowTags_[static_cast<size_t>(row)] : QString();
+const QString &CellModel::RowTag(int row) const {
+    static const QString none;
+    return Has(row) ? rowTags_[static_cast<size_t>(row)] : none;
 }
 
 void CellModel::SetRowTag(int row, const QString &tag) {

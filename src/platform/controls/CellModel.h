@@ -51,7 +51,7 @@ public:
     bool CellCheck(int row, int column) const;
     void SetCellCheck(int row, int column, bool checked);
     const Tag &CellTag(int row, int column) const;
-    QString RowTag(int row) const;
+    const QString &RowTag(int row) const;
     void SetRowTag(int row, const QString &tag);
     /// The first row with the tag, -1 if there is none.
     int FindRow(const QString &tag) const;
