@@ -55,7 +55,7 @@ void Balances::ReCalcAmount() {
 
 void Balances::RunBalance(Currency balance) {
     Listbox &list = journal_.CashList;
-    Listbox::Texts texts(static_cast<size_t>(list.ListCount()));
+    Texts texts;
     for (int row = 0; row < list.ListCount(); ++row) {
         const QString input = list.Cell(row, Journal::Input);
         const QString output = list.Cell(row, Journal::Output);
@@ -65,7 +65,7 @@ void Balances::RunBalance(Currency balance) {
             balance =
                 Currency::FromDouble(balance.ToDouble() - TLXModule::AmountText2Value(output));
         }
-        texts[static_cast<size_t>(row)] = app_.Locale().FormatBalance(balance.ToDouble());
+        texts.Add(app_.Locale().FormatBalance(balance.ToDouble()));
     }
     list.SetColumn(Journal::Balance, std::move(texts));
 }

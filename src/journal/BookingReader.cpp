@@ -25,9 +25,9 @@ QString BookingReader::StatementWithCashBooks(const QString &condition) {
 }
 
 BookingReader::BookingReader(RecordSet &records)
-    : id_(records.Field("id"_L1)), type_(records.Field("type"_L1)),
-      amount_(records.Field("amount"_L1)), salesnumber_(records.Field("salesnumber"_L1)),
-      note_(records.Field("note"_L1)), vdate_(records.Field("vdate"_L1)),
+    : id_(records.Field("id"_L1)), vdate_(records.Field("vdate"_L1)),
+      type_(records.Field("type"_L1)), amount_(records.Field("amount"_L1)),
       tax_(records.Field("tax"_L1)), taxname_(records.Field("taxname"_L1)),
       category_(records.Field("category"_L1)), account_(records.Field("account"_L1)),
+      salesnumber_(records.Field("salesnumber"_L1)), note_(records.Field("note"_L1)),
       cbaccount_(records.Field("cbaccount"_L1)) {}

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "core/database/SharedTexts.h"
+#include "core/database/DatabaseField.h"
 
-/// Reads the bookings of a query one after the other, each as the record set stands on it. Texts of
-/// which a book has few are shared between the bookings.
+/// Reads the bookings of a query one after the other, each as the record set stands on it.
 class BookingReader {
 public:
     /// The query of the bookings that meet a condition, in order of date, each with the name of its
@@ -17,20 +16,20 @@ public:
 
     QString Id() const { return id_.StringValue(); }
     /// As it is stored, also what is no date.
-    QString SQLDate() { return vdate_.Text(); }
+    QString SQLDate() const { return vdate_.StringValue(); }
     /// A type other than that of a receipt counts as an expense.
     bool IsReceipt() const { return type_.Code() == 'E'; }
     double Amount() const { return amount_.DoubleValue(); }
-    QString Tax() { return tax_.Text(); }
-    QString TaxName() { return taxname_.Text(); }
-    QString Category() { return category_.Text(); }
-    QString Account() { return account_.Text(); }
+    QString Tax() const { return tax_.StringValue(); }
+    QString TaxName() const { return taxname_.StringValue(); }
+    QString Category() const { return category_.StringValue(); }
+    QString Account() const { return account_.StringValue(); }
     QString SaleNumber() const { return salesnumber_.StringValue(); }
     QString Note() const { return note_.StringValue(); }
     /// Empty but in a query with cash books.
-    QString CashBookAccount() { return cbaccount_.Text(); }
+    QString CashBookAccount() const { return cbaccount_.StringValue(); }
 
 private:
-    DatabaseField id_, type_, amount_, salesnumber_, note_;
-    SharedTexts vdate_, tax_, taxname_, category_, account_, cbaccount_;
+    DatabaseField id_, vdate_, type_, amount_, tax_, taxname_, category_, account_, salesnumber_,
+        note_, cbaccount_;
 };

@@ -43,17 +43,17 @@ public:
         ReadDate();
         const QString amount = locale_.FormatAmount(booking_.Amount());
         const bool receipt = booking_.IsReceipt();
-        rows.cells[Journal::DateColumn].push_back(dateText_);
+        rows.cells[Journal::DateColumn].Add(dateText_);
         rows.cellTags[Journal::DateColumn].push_back(dateTag_);
-        rows.cells[Journal::Input].push_back(receipt ? amount : QString());
-        rows.cells[Journal::Output].push_back(receipt ? QString() : amount);
-        rows.cells[Journal::Tax].push_back(booking_.TaxName());
+        rows.cells[Journal::Input].Add(receipt ? amount : QString());
+        rows.cells[Journal::Output].Add(receipt ? QString() : amount);
+        rows.cells[Journal::Tax].Add(booking_.TaxName());
         rows.cellTags[Journal::Tax].emplace_back(booking_.Tax());
-        rows.cells[Journal::Category].push_back(booking_.Category());
+        rows.cells[Journal::Category].Add(booking_.Category());
         rows.cellTags[Journal::Category].emplace_back(booking_.Account());
-        rows.cells[Journal::SaleNumber].push_back(booking_.SaleNumber());
-        rows.cells[Journal::Note].push_back(booking_.Note());
-        rows.tags.push_back(booking_.Id());
+        rows.cells[Journal::SaleNumber].Add(booking_.SaleNumber());
+        rows.cells[Journal::Note].Add(booking_.Note());
+        rows.tags.Add(booking_.Id());
     }
 
 private:

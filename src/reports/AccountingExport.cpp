@@ -47,9 +47,9 @@ public:
                             currency_,
                             booking_.Note()};
         for (size_t column = 0; column < cells.size(); ++column) {
-            records.cells[column].push_back(std::move(cells[column]));
+            records.cells[column].Add(cells[column]);
         }
-        records.tags.push_back(booking_.Id());
+        records.tags.Add(booking_.Id());
     }
 
 private:

@@ -21,8 +21,8 @@ FileType TXT() {
 
 } // namespace FileTypes1
 
-QByteArray WithSemicolons(QString cells) {
-    return Encodings::WindowsANSI(cells.replace(u'\t', u';'));
+QByteArray WithSemicolons(const QString &cells) {
+    return Encodings::WindowsANSI(cells).replace('\t', ';');
 }
 
 } // namespace

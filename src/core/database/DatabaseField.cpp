@@ -16,10 +16,6 @@ QString DatabaseField::StringValue() const {
     return statement.Text(column_);
 }
 
-QUtf8StringView DatabaseField::RawText() const {
-    return records_->CanRead(column_) ? records_->statement_->RawText(column_) : QUtf8StringView();
-}
-
 char DatabaseField::Code() const {
     return records_->CanRead(column_) ? records_->statement_->Letter(column_) : '\0';
 }

@@ -14,8 +14,6 @@ class DatabaseField {
 public:
     /// The value as text, empty for NULL; a boolean column gives "True" or "False".
     QString StringValue() const;
-    /// The stored text itself, for a look in passing: it is gone when the record set moves on.
-    QUtf8StringView RawText() const;
     /// A text of one letter, as a capital; 0 for any other.
     char Code() const;
     /// Sets the value as text, for RecordSet::Update to write. Takes effect after RecordSet::Edit.

@@ -57,18 +57,13 @@ Statement::Kind Statement::ColumnKind(int column) const {
 }
 
 QString Statement::Text(int column) const {
-    const QUtf8StringView raw = RawText(column);
-    const QByteArrayView bytes(raw.data(), raw.size());
+    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(handle_.get(), column));
+    const QByteArrayView bytes(text, sqlite3_column_bytes(handle_.get(), column));
     // At the start of a text this mark is a letter of it, which the plain way would drop.
     return bytes.startsWith("\xEF\xBB\xBF")
                ? QStringDecoder(QStringDecoder::Utf8,
                                 QStringDecoder::Flag::ConvertInitialBom)(bytes)
-               : raw.toString();
-}
-
-QUtf8StringView Statement::RawText(int column) const {
-    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(handle_.get(), column));
-    return {text, sqlite3_column_bytes(handle_.get(), column)};
+               : QString::fromUtf8(bytes);
 }
 
 char Statement::Letter(int column) const {

@@ -36,8 +36,6 @@ public:
     enum class Kind { Null, Number, Text };
     Kind ColumnKind(int column) const;
     QString Text(int column) const;
-    /// The same as the library holds it, until the next step.
-    QUtf8StringView RawText(int column) const;
     /// A text of one letter, as a capital; 0 for any other.
     char Letter(int column) const;
     double Number(int column) const;

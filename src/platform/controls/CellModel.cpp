@@ -1,7 +1,6 @@
 #include "platform/controls/CellModel.h"
 
 #include <algorithm>
-#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -36,6 +35,14 @@ void Reorder(Values &values, const std::vector<int> &order) {
     values = std::move(ordered);
 }
 
+void Reorder(Texts &texts, const std::vector<int> &order) {
+    Texts ordered;
+    for (const int row : order) {
+        ordered.Add(texts.At(static_cast<size_t>(row)));
+    }
+    texts = std::move(ordered);
+}
+
 } // namespace
 
 void CellModel::BeginRefill() {
@@ -56,7 +63,7 @@ void CellModel::TakeRows(Rows rows) {
     rows.cellTags.resize(columns_.size());
     for (size_t column = 0; column < columns_.size(); ++column) {
         columns_[column].cells = std::move(rows.cells[column]);
-        columns_[column].cells.resize(rowTags_.size());
+        columns_[column].cells.SetCount(rowTags_.Count());
         columns_[column].tags = std::move(rows.cellTags[column]);
         columns_[column].checks.clear();
     }
@@ -77,10 +84,10 @@ void CellModel::AddRow(const QString &text) {
         beginInsertRows({}, ListCount(), ListCount());
     }
     for (Column &column : columns_) {
-        column.cells.emplace_back();
+        column.cells.Add({});
     }
-    columns_.front().cells.back() = text;
-    rowTags_.emplace_back();
+    columns_.front().cells.Set(rowTags_.Count(), text);
+    rowTags_.Add({});
     if (!told) {
         endInsertRows();
     }
@@ -88,7 +95,8 @@ void CellModel::AddRow(const QString &text) {
 
 QString CellModel::Cell(int row, int column) const {
     if (row >= 0 && column >= 0) {
-        return Has(row, column) ? ColumnAt(column).cells[static_cast<size_t>(row)] : QString();
+        return Has(row, column) ? ColumnAt(column).cells.At(static_cast<size_t>(row)).toString()
+                                : QString();
     }
     if (row >= ListCount() || column >= ColumnCount()) {
         return {};
@@ -100,18 +108,15 @@ QString CellModel::JoinedCells(int begin, int end, int column) const {
     const int first = std::max(column, 0);
     const int last = column < 0 ? ColumnCount() - 1 : column;
     // A year is some megabytes: they are allocated once.
-    qsizetype size = 0;
+    qsizetype size = qsizetype(end - begin) * (last - first + 1);
     for (int each = first; each <= last; ++each) {
-        const Texts &cells = ColumnAt(each).cells;
-        size +=
-            std::accumulate(cells.begin() + begin, cells.begin() + end, qsizetype(end - begin),
-                            [](qsizetype sum, const QString &cell) { return sum + cell.size(); });
+        size += ColumnAt(each).cells.LengthOf(static_cast<size_t>(begin), static_cast<size_t>(end));
     }
     QString all(size, Qt::Uninitialized);
     QChar *place = all.data();
     for (int row = begin; row < end; ++row) {
         for (int each = first; each <= last; ++each) {
-            const QString &cell = ColumnAt(each).cells[static_cast<size_t>(row)];
+            const QStringView cell = ColumnAt(each).cells.At(static_cast<size_t>(row));
             place = std::copy(cell.begin(), cell.end(), place);
             *place++ = each == last ? u'\n' : u'\t';
         }
@@ -128,7 +133,7 @@ void CellModel::ShowCell(int row, int column) {
 
 void CellModel::SetCell(int row, int column, const QString &text) {
     if (Has(row, column)) {
-        ColumnAt(column).cells[static_cast<size_t>(row)] = text;
+        ColumnAt(column).cells.Set(static_cast<size_t>(row), text);
         ShowCell(row, column);
     }
 }
@@ -137,7 +142,7 @@ void CellModel::SetColumn(int column, Texts texts) {
     if (!HasColumn(column)) {
         return;
     }
-    texts.resize(rowTags_.size());
+    texts.SetCount(rowTags_.Count());
     ColumnAt(column).cells = std::move(texts);
     if (!IsRefilling() && ListCount() > 0) {
         Q_EMIT dataChanged(index(0, column), index(LastIndex(), column));
@@ -163,20 +168,23 @@ const CellModel::Tag &CellModel::CellTag(int row, int column) const {
                : none;
 }
 
-const QString &CellModel::RowTag(int row) const {
-    static const QString none;
-    return Has(row) ? rowTags_[static_cast<size_t>(row)] : none;
+QString CellModel::RowTag(int row) const {
+    return Has(row) ? rowTags_.At(static_cast<size_t>(row)).toString() : QString();
 }
 
 void CellModel::SetRowTag(int row, const QString &tag) {
     if (Has(row)) {
-        rowTags_[static_cast<size_t>(row)] = tag;
+        rowTags_.Set(static_cast<size_t>(row), tag);
     }
 }
 
 int CellModel::FindRow(const QString &tag) const {
-    const auto found = std::find(rowTags_.begin(), rowTags_.end(), tag);
-    return found == rowTags_.end() ? -1 : static_cast<int>(found - rowTags_.begin());
+    for (size_t row = 0; row < rowTags_.Count(); ++row) {
+        if (rowTags_.At(row) == tag) {
+            return static_cast<int>(row);
+        }
+    }
+    return -1;
 }
 
 void CellModel::SetColumnAlignment(int column, Alignment alignment) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/controls/Texts.h"
 #include "platform/values/Date.h"
 
 #include <QAbstractTableModel>
@@ -17,9 +18,6 @@ class CellModel : public QAbstractTableModel {
 public:
     /// A value stored with a cell, which the list does not show.
     using Tag = std::variant<std::monostate, QString, Date>;
-    /// The texts of a column, row by row. They lie in pieces, so that a long column is not copied
-    /// while it grows, and takes no more room than it needs.
-    using Texts = std::deque<QString>;
     enum class Alignment { Default = 0, Right = 3 };
     enum class ColumnType { Default = 0, CheckBox = 2 };
 
@@ -39,7 +37,7 @@ public:
 
     /// Adds a row with the text in column 0; it is LastIndex then.
     void AddRow(const QString &text);
-    int ListCount() const { return static_cast<int>(rowTags_.size()); }
+    int ListCount() const { return static_cast<int>(rowTags_.Count()); }
     int LastIndex() const { return ListCount() - 1; }
 
     /// Row -1 stands for all rows, column -1 for all columns: cells are then joined by a Tab, rows
@@ -51,7 +49,7 @@ public:
     bool CellCheck(int row, int column) const;
     void SetCellCheck(int row, int column, bool checked);
     const Tag &CellTag(int row, int column) const;
-    const QString &RowTag(int row) const;
+    QString RowTag(int row) const;
     void SetRowTag(int row, const QString &tag);
     /// The first row with the tag, -1 if there is none.
     int FindRow(const QString &tag) const;

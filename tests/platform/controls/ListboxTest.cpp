@@ -27,7 +27,7 @@ TEST_F(ListboxTest, TellsItsViewEveryChangeAndOnlyAChange) {
     EXPECT_EQ(Told(), u"rowsInserted rowsInserted rowsInserted"_s);
     list.SetCell(0, 0, u"d"_s);
     list.SetCellCheck(0, 1, true);
-    list.SetColumn(0, {u"d"_s, u"b"_s, u"a"_s});
+    list.SetColumn(0, {u"d", u"b", u"a"});
     list.SetHeading(0, u"Name"_s);
     EXPECT_EQ(Told(), u"dataChanged dataChanged dataChanged headerDataChanged"_s);
     list.SetListIndex(1);
@@ -46,7 +46,7 @@ TEST_F(ListboxTest, TellsItsViewEveryChangeAndOnlyAChange) {
         list.DeleteAllRows();
         list.AddRow(u"a"_s);
         list.SetCell(0, 0, u"b"_s);
-        list.SetColumn(0, {u"c"_s});
+        list.SetColumn(0, {u"c"});
         list.SetListIndex(0);
         list.EditCell(0, 0);
     });
@@ -80,8 +80,8 @@ TEST_F(ListboxTest, TellsWhatBecomesOfAnOpenCell) {
 
 TEST_F(ListboxTest, SortsWholeRowsAndKeepsTheSelectionWithItsOwn) {
     Listbox::Rows rows(2);
-    rows.tags = {u"C"_s, u"B"_s, u"A"_s};
-    rows.cells[0] = {u"c"_s, u"b"_s, u"a"_s};
+    rows.tags = {u"C", u"B", u"A"};
+    rows.cells[0] = {u"c", u"b", u"a"};
     rows.cellTags[1] = {u"3"_s}; // Those that come after it have none.
     list.SetRows(rows);
     list.SetCellCheck(0, 1, true);

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QStringView>
+
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+/// Many texts, counted from 0, most of them short and few of them ever changed. They lie in one
+/// piece, so that twenty thousand are no more than two allocations to make and to let go.
+class Texts {
+public:
+    Texts() = default;
+    Texts(std::initializer_list<QStringView> texts) {
+        for (const QStringView text : texts) {
+            Add(text);
+        }
+    }
+
+    size_t Count() const { return ends_.size(); }
+    /// The text in its place, until one is added or changed.
+    QStringView At(size_t place) const {
+        return QStringView(letters_).sliced(Begin(place), End(place) - Begin(place));
+    }
+    /// The letters of the texts from one place up to another, which is not among them.
+    qsizetype LengthOf(size_t place, size_t end) const { return Begin(end) - Begin(place); }
+
+    void Add(QStringView text);
+    /// Takes as long as there are texts behind the place.
+    void Set(size_t place, QStringView text);
+    /// Lets go of the last ones, or adds empty ones.
+    void SetCount(size_t count);
+
+private:
+    qsizetype Begin(size_t place) const { return place == 0 ? 0 : End(place - 1); }
+    qsizetype End(size_t place) const { return static_cast<qsizetype>(ends_[place]); }
+
+    std::u16string letters_;
+    /// Where each text ends, and the next begins.
+    std::vector<size_t> ends_;
+};
