@@ -5,6 +5,8 @@
 #include "journal/Selectors.h"
 #include "platform/outside/DebugLog.h"
 
+#include <QSet>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -48,9 +50,9 @@ public:
         rows.cells[Journal::Input].Add(receipt ? amount : QString());
         rows.cells[Journal::Output].Add(receipt ? QString() : amount);
         rows.cells[Journal::Tax].Add(booking_.TaxName());
-        rows.cellTags[Journal::Tax].emplace_back(booking_.Tax());
+        rows.cellTags[Journal::Tax].emplace_back(*shared_.insert(booking_.Tax()));
         rows.cells[Journal::Category].Add(booking_.Category());
-        rows.cellTags[Journal::Category].emplace_back(booking_.Account());
+        rows.cellTags[Journal::Category].emplace_back(*shared_.insert(booking_.Account()));
         rows.cells[Journal::SaleNumber].Add(booking_.SaleNumber());
         rows.cells[Journal::Note].Add(booking_.Note());
         rows.tags.Add(booking_.Id());
@@ -74,6 +76,8 @@ private:
     QString sqlDate_;
     QString dateText_;
     Listbox::Tag dateTag_;
+    /// A book has few tax keys and accounts: the rows share their texts.
+    QSet<QString> shared_;
 };
 
 } // namespace

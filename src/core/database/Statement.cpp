@@ -59,11 +59,10 @@ Statement::Kind Statement::ColumnKind(int column) const {
 QString Statement::Text(int column) const {
     const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(handle_.get(), column));
     const QByteArrayView bytes(text, sqlite3_column_bytes(handle_.get(), column));
-    // At the start of a text this mark is a letter of it, which the plain way would drop.
-    return bytes.startsWith("\xEF\xBB\xBF")
-               ? QStringDecoder(QStringDecoder::Utf8,
-                                QStringDecoder::Flag::ConvertInitialBom)(bytes)
-               : QString::fromUtf8(bytes);
+    // The mark EF BB BF at the start of a text is a letter of it, which the plain way would drop.
+    return bytes.startsWith('\xEF') ? QStringDecoder(QStringDecoder::Utf8,
+                                                     QStringDecoder::Flag::ConvertInitialBom)(bytes)
+                                    : QString::fromUtf8(bytes);
 }
 
 char Statement::Letter(int column) const {

@@ -37,8 +37,11 @@ void RowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
     const QStyle &style = *option.widget->style();
     style.drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, option.widget);
     const QVariant checked = index.data(Qt::CheckStateRole);
-    checked.isValid() ? PaintBox(*painter, cell, checked == Qt::Checked)
-                      : PaintText(*painter, cell);
+    if (checked.isValid()) {
+        PaintBox(*painter, cell, checked == Qt::Checked);
+    } else {
+        PaintText(*painter, cell);
+    }
 }
 
 void RowDelegate::PaintBox(QPainter &painter, QStyleOptionViewItem box, bool checked) {
