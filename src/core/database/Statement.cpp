@@ -76,3 +76,7 @@ char Statement::Letter(int column) const {
 double Statement::Number(int column) const {
     return sqlite3_column_double(handle_.get(), column);
 }
+
+qint64 Statement::Integer(int column) const {
+    return sqlite3_column_int64(handle_.get(), column);
+}

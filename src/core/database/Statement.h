@@ -39,6 +39,7 @@ public:
     /// A text of one letter, as a capital; 0 for any other.
     char Letter(int column) const;
     double Number(int column) const;
+    qint64 Integer(int column) const;
 
 private:
     std::shared_ptr<Connection> connection_;
