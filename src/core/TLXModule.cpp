@@ -29,7 +29,7 @@ QString AmountText2SQL(const QString &text) {
     return Replace(text, u',', u'.');
 }
 
-double AmountText2Value(const QString &text) {
+double AmountText2Value(QStringView text) {
     return Val(text, u',');
 }
 

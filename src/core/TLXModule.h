@@ -12,7 +12,7 @@ namespace TLXModule {
 /// Makes the first comma a dot and changes nothing else.
 QString AmountText2SQL(const QString &text);
 /// The number at the start of a typed or shown amount, comma or dot as decimal mark.
-double AmountText2Value(const QString &text);
+double AmountText2Value(QStringView text);
 /// What to say about a typed amount that is read otherwise than it was meant, as with a dot for
 /// thousands; empty when all is well. Nothing refuses such a text.
 QString AmountHint(const QString &text, const UserLocale &locale);

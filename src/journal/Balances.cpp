@@ -57,8 +57,8 @@ void Balances::RunBalance(Currency balance) {
     Listbox &list = journal_.CashList;
     Texts texts;
     for (int row = 0; row < list.ListCount(); ++row) {
-        const QString input = list.Cell(row, Journal::Input);
-        const QString output = list.Cell(row, Journal::Output);
+        const QStringView input = list.CellsOf(Journal::Input).At(row);
+        const QStringView output = list.CellsOf(Journal::Output).At(row);
         if (!input.isEmpty()) {
             balance = Currency::FromDouble(balance.ToDouble() + TLXModule::AmountText2Value(input));
         } else if (!output.isEmpty()) {

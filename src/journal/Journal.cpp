@@ -25,7 +25,7 @@ int CompareDates(const Listbox::Tag &first, const Listbox::Tag &second) {
 }
 
 /// Below, at or above 0. Of two ids in digits the longer is the greater.
-int CompareIds(const QString &a, const QString &b) {
+int CompareIds(QStringView a, QStringView b) {
     return a.size() == b.size() ? a.compare(b)
                                 : int(a.size() > b.size()) - int(a.size() < b.size());
 }
@@ -136,6 +136,6 @@ void Journal::CashList_CompareRows(int first, int second, int column, int &resul
     result = CompareDates(CashList.CellTag(first, column), CashList.CellTag(second, column));
     if (result == 0) {
         // Bookings of one day stand in the order of their entry.
-        result = CompareIds(CashList.RowTag(first), CashList.RowTag(second));
+        result = CompareIds(CashList.RowTags().At(first), CashList.RowTags().At(second));
     }
 }

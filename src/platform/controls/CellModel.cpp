@@ -38,7 +38,7 @@ void Reorder(Values &values, const std::vector<int> &order) {
 void Reorder(Texts &texts, const std::vector<int> &order) {
     Texts ordered;
     for (const int row : order) {
-        ordered.Add(texts.At(static_cast<size_t>(row)));
+        ordered.Add(texts.At(row));
     }
     texts = std::move(ordered);
 }
@@ -63,7 +63,7 @@ void CellModel::TakeRows(Rows rows) {
     rows.cellTags.resize(columns_.size());
     for (size_t column = 0; column < columns_.size(); ++column) {
         columns_[column].cells = std::move(rows.cells[column]);
-        columns_[column].cells.SetCount(rowTags_.Count());
+        columns_[column].cells.SetCount(ListCount());
         columns_[column].tags = std::move(rows.cellTags[column]);
         columns_[column].checks.clear();
     }
@@ -86,7 +86,7 @@ void CellModel::AddRow(const QString &text) {
     for (Column &column : columns_) {
         column.cells.Add({});
     }
-    columns_.front().cells.Set(rowTags_.Count(), text);
+    columns_.front().cells.Set(ListCount(), text);
     rowTags_.Add({});
     if (!told) {
         endInsertRows();
@@ -95,8 +95,7 @@ void CellModel::AddRow(const QString &text) {
 
 QString CellModel::Cell(int row, int column) const {
     if (row >= 0 && column >= 0) {
-        return Has(row, column) ? ColumnAt(column).cells.At(static_cast<size_t>(row)).toString()
-                                : QString();
+        return Has(row, column) ? ColumnAt(column).cells.At(row).toString() : QString();
     }
     if (row >= ListCount() || column >= ColumnCount()) {
         return {};
@@ -110,13 +109,13 @@ QString CellModel::JoinedCells(int begin, int end, int column) const {
     // A year is some megabytes: they are allocated once.
     qsizetype size = qsizetype(end - begin) * (last - first + 1);
     for (int each = first; each <= last; ++each) {
-        size += ColumnAt(each).cells.LengthOf(static_cast<size_t>(begin), static_cast<size_t>(end));
+        size += ColumnAt(each).cells.LengthOf(begin, end);
     }
     QString all(size, Qt::Uninitialized);
     QChar *place = all.data();
     for (int row = begin; row < end; ++row) {
         for (int each = first; each <= last; ++each) {
-            const QStringView cell = ColumnAt(each).cells.At(static_cast<size_t>(row));
+            const QStringView cell = ColumnAt(each).cells.At(row);
             place = std::copy(cell.begin(), cell.end(), place);
             *place++ = each == last ? u'\n' : u'\t';
         }
@@ -133,7 +132,7 @@ void CellModel::ShowCell(int row, int column) {
 
 void CellModel::SetCell(int row, int column, const QString &text) {
     if (Has(row, column)) {
-        ColumnAt(column).cells.Set(static_cast<size_t>(row), text);
+        ColumnAt(column).cells.Set(row, text);
         ShowCell(row, column);
     }
 }
@@ -142,7 +141,7 @@ void CellModel::SetColumn(int column, Texts texts) {
     if (!HasColumn(column)) {
         return;
     }
-    texts.SetCount(rowTags_.Count());
+    texts.SetCount(ListCount());
     ColumnAt(column).cells = std::move(texts);
     if (!IsRefilling() && ListCount() > 0) {
         Q_EMIT dataChanged(index(0, column), index(LastIndex(), column));
@@ -169,19 +168,19 @@ const CellModel::Tag &CellModel::CellTag(int row, int column) const {
 }
 
 QString CellModel::RowTag(int row) const {
-    return Has(row) ? rowTags_.At(static_cast<size_t>(row)).toString() : QString();
+    return Has(row) ? rowTags_.At(row).toString() : QString();
 }
 
 void CellModel::SetRowTag(int row, const QString &tag) {
     if (Has(row)) {
-        rowTags_.Set(static_cast<size_t>(row), tag);
+        rowTags_.Set(row, tag);
     }
 }
 
 int CellModel::FindRow(const QString &tag) const {
-    for (size_t row = 0; row < rowTags_.Count(); ++row) {
+    for (int row = 0; row < ListCount(); ++row) {
         if (rowTags_.At(row) == tag) {
-            return static_cast<int>(row);
+            return row;
         }
     }
     return -1;

@@ -37,12 +37,14 @@ public:
 
     /// Adds a row with the text in column 0; it is LastIndex then.
     void AddRow(const QString &text);
-    int ListCount() const { return static_cast<int>(rowTags_.Count()); }
+    int ListCount() const { return rowTags_.Count(); }
     int LastIndex() const { return ListCount() - 1; }
 
     /// Row -1 stands for all rows, column -1 for all columns: cells are then joined by a Tab, rows
     /// by a line feed.
     QString Cell(int row, int column) const;
+    /// All texts of a column that exists, as they lie there.
+    const Texts &CellsOf(int column) const { return ColumnAt(column).cells; }
     void SetCell(int row, int column, const QString &text);
     /// Writes one column from the first row to the last, one text to a row, and shows it at once.
     void SetColumn(int column, Texts texts);
@@ -50,6 +52,7 @@ public:
     void SetCellCheck(int row, int column, bool checked);
     const Tag &CellTag(int row, int column) const;
     QString RowTag(int row) const;
+    const Texts &RowTags() const { return rowTags_; }
     void SetRowTag(int row, const QString &tag);
     /// The first row with the tag, -1 if there is none.
     int FindRow(const QString &tag) const;

@@ -2,21 +2,21 @@
 
 void Texts::Add(QStringView text) {
     letters_.append(text.utf16(), static_cast<size_t>(text.size()));
-    ends_.push_back(letters_.size());
+    ends_.push_back(static_cast<qsizetype>(letters_.size()));
 }
 
-void Texts::Set(size_t place, QStringView text) {
-    const auto begin = static_cast<size_t>(Begin(place));
-    const size_t before = letters_.size();
-    letters_.replace(begin, ends_[place] - begin, text.utf16(), static_cast<size_t>(text.size()));
-    for (; place < ends_.size(); ++place) {
-        ends_[place] += letters_.size() - before;
+void Texts::Set(int place, QStringView text) {
+    const qsizetype before = End(place) - Begin(place);
+    letters_.replace(static_cast<size_t>(Begin(place)), static_cast<size_t>(before), text.utf16(),
+                     static_cast<size_t>(text.size()));
+    for (auto end = ends_.begin() + place; end != ends_.end(); ++end) {
+        *end += text.size() - before;
     }
 }
 
-void Texts::SetCount(size_t count) {
+void Texts::SetCount(int count) {
     if (count < Count()) {
         letters_.resize(static_cast<size_t>(Begin(count)));
     }
-    ends_.resize(count, letters_.size());
+    ends_.resize(static_cast<size_t>(count), static_cast<qsizetype>(letters_.size()));
 }

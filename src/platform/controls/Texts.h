@@ -17,25 +17,25 @@ public:
         }
     }
 
-    size_t Count() const { return ends_.size(); }
+    int Count() const { return static_cast<int>(ends_.size()); }
     /// The text in its place, until one is added or changed.
-    QStringView At(size_t place) const {
+    QStringView At(int place) const {
         return QStringView(letters_).sliced(Begin(place), End(place) - Begin(place));
     }
     /// The letters of the texts from one place up to another, which is not among them.
-    qsizetype LengthOf(size_t place, size_t end) const { return Begin(end) - Begin(place); }
+    qsizetype LengthOf(int place, int end) const { return Begin(end) - Begin(place); }
 
     void Add(QStringView text);
     /// Takes as long as there are texts behind the place.
-    void Set(size_t place, QStringView text);
+    void Set(int place, QStringView text);
     /// Lets go of the last ones, or adds empty ones.
-    void SetCount(size_t count);
+    void SetCount(int count);
 
 private:
-    qsizetype Begin(size_t place) const { return place == 0 ? 0 : End(place - 1); }
-    qsizetype End(size_t place) const { return static_cast<qsizetype>(ends_[place]); }
+    qsizetype Begin(int place) const { return place == 0 ? 0 : End(place - 1); }
+    qsizetype End(int place) const { return ends_[static_cast<size_t>(place)]; }
 
     std::u16string letters_;
     /// Where each text ends, and the next begins.
-    std::vector<size_t> ends_;
+    std::vector<qsizetype> ends_;
 };

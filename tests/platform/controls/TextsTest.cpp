@@ -19,7 +19,7 @@ TEST(Texts, StandWhereTheyStandWhateverBecomesOfOthers) {
         Texts texts = {u"a", u"", u"ccc"};
         each.change(texts);
         QStringList found;
-        for (size_t place = 0; place < texts.Count(); ++place) { found.append(texts.At(place).toString()); }
+        for (int place = 0; place < texts.Count(); ++place) { found.append(texts.At(place).toString()); }
         EXPECT_EQ(found, each.expected) << each.what;
         EXPECT_EQ(texts.LengthOf(1, texts.Count()), each.expected.mid(1).join(u""_s).size()) << each.what;
     }
