@@ -2,6 +2,8 @@
 
 #include "support/GoogleTest.h"
 
+#include <QStringList>
+
 TEST(Texts, StandWhereTheyStandWhateverBecomesOfOthers) {
     struct Case {
         const char *what;
