@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QStringView>
+#include <QString>
 
 #include <initializer_list>
 #include <string>
 #include <vector>
 
 /// Many texts, counted from 0, most of them short and few of them ever changed. They lie in one
-/// piece, so that twenty thousand are no more than two allocations to make and to let go.
+/// piece: twenty thousand are a few allocations to make, and two to let go.
 class Texts {
 public:
     Texts() = default;
