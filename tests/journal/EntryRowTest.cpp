@@ -183,6 +183,7 @@ TEST_F(EntryRowTest, TakesTheViewToTheFirstBookingOfANewYear) {
 class ChangeTest : public EntryRowTest {
 protected:
     ChangeTest() {
+        row.SaleNumberField.SetText(u"R-1"_s);
         row.NoteField.SetText(u"alt"_s);
         Submit(u"10"_s);
         bookings.SetListIndex(0);
@@ -202,8 +203,8 @@ TEST_F(ChangeTest, RewritesTheBookingAndKeepsItsDayItsEntryTimeAndItsOldSide) {
     row.InputField.SetText({});
     TypeExpense(u"20,5"_s);
     row.ChangeButton.Press();
-    EXPECT_EQ(Columns(u"id vdate type input output amount tax category note bdate account"_s),
-              u"1|2026-03-15|A|10|20.5|20.5|9|Porto|alt|2026-03-15 12:00:00|4910"_s);
+    EXPECT_EQ(Columns(u"id vdate type input output amount tax category salesnumber note bdate account"_s),
+              u"1|2026-03-15|A|10|20.5|20.5|9|Porto|R-1|alt|2026-03-15 12:00:00|4910"_s);
     EXPECT_EQ(bookings.Cell(-1, Journal::Balance), u"79,50"_s);
 }
 
