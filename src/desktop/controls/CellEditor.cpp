@@ -12,6 +12,15 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+bool MovesSelection(int key) {
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp ||
+           key == Qt::Key_PageDown;
+}
+
+} // namespace
+
 CellEditor::CellEditor(Listbox &list, QWidget *parent)
     : QLineEdit(parent), list_(list), hint_(new HintView(*this)) {
     setObjectName(u"CellEditor"_s);
@@ -63,6 +72,10 @@ void CellEditor::keyPressEvent(QKeyEvent *event) {
         break;
     default:
         QLineEdit::keyPressEvent(event);
+        // An ignored key would reach the list, which removes a record for Delete.
+        if (!MovesSelection(event->key())) {
+            event->accept();
+        }
     }
 }
 

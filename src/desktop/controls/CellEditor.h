@@ -6,7 +6,8 @@ class HintView;
 class Listbox;
 
 /// The line edit over the open cell of a Listbox. Return ends the edit, and so does a click
-/// elsewhere or the loss of the focus; Escape drops it; Tab is the list's to answer.
+/// elsewhere or the loss of the focus; Escape drops it; the list handles Tab. Of the keys that the
+/// line edit does not use, only those that move the selection of the list are passed on to it.
 class CellEditor : public QLineEdit {
     Q_OBJECT
 

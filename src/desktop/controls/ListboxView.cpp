@@ -210,6 +210,14 @@ void ListboxView::keyPressEvent(QKeyEvent *event) {
 }
 
 bool ListboxView::TakeKey(const QKeyEvent &event) {
+    if (event.keyCombination() == (Qt::SHIFT | Qt::Key_F10)) {
+        OpenMenu(PlaceBelowRow());
+        return true;
+    }
+    // The keys of the keypad count too.
+    if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) {
+        return false;
+    }
     const int row = list_.ListIndex();
     switch (event.key()) {
     case Qt::Key_Insert:
@@ -225,12 +233,6 @@ bool ListboxView::TakeKey(const QKeyEvent &event) {
     case Qt::Key_Space:
         FlipCheck(row);
         return row >= 0;
-    case Qt::Key_F10:
-        if (event.modifiers() == Qt::ShiftModifier) {
-            OpenMenu(PlaceBelowRow());
-            return true;
-        }
-        return false;
     default:
         return false;
     }

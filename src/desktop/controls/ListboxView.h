@@ -18,7 +18,7 @@ public:
     void SetColumnWidths(const std::vector<int> &widths);
 
 Q_SIGNALS:
-    /// The key Insert, or Delete.
+    /// The key Insert, or Delete, without a modifier.
     void AddWanted();
     void RemoveWanted();
 
@@ -29,7 +29,8 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
-    /// F2 opens the selected row, Space flips its check box, Shift+F10 opens its menu.
+    /// F2 opens the selected row, Space flips its check box, Shift+F10 opens its menu. A key with
+    /// another modifier is no command.
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;

@@ -79,6 +79,39 @@ TEST_F(PreferencesPageTest, RemovesOneRecordHoweverOftenOneStrikes) {
     EXPECT_EQ(accounts.model()->rowCount(), 1);
 }
 
+TEST_F(PreferencesPageTest, AddsAndRemovesByThePlainKeysOfAListAlone) {
+    QStringList keys = {u"{Alt+Del}"_s, u"{Ctrl+Shift+Del}"_s, u"{Meta+Del}"_s, u"{Alt+Ins}"_s, u"{Ctrl+Alt+Ins}"_s};
+    for (const QString &inACell : keys + QStringList{u"{Ins}"_s, u"{End}{Del}"_s}) {
+        accounts.setFocus();
+        Type(u"{Home}{F2}"_s + inACell + u"\x1b"_s);
+        EXPECT_EQ(Accounts(), u"b20E1 c10A0"_s) << qPrintable(inACell);
+    }
+    for (const QString &onARow : keys + QStringList{u"{Ctrl+Del}"_s, u"{Shift+Del}"_s, u"{Shift+F2}"_s}) {
+        accounts.setFocus();
+        Type(u"{Home}"_s + onARow);
+        EXPECT_EQ(Accounts(), u"b20E1 c10A0"_s) << qPrintable(onARow);
+        EXPECT_FALSE(view.findChild<QWidget *>(u"CellEditor"_s)) << qPrintable(onARow);
+    }
+    QTest::keyClick(view.windowHandle(), Qt::Key_Delete, Qt::KeypadModifier);
+    EXPECT_EQ(Accounts(), u"c10A0"_s);
+}
+
+TEST_F(PreferencesPageTest, KeepsTheOpenColumnForF2AndLeavesItForAnotherRow) {
+    Click(accounts, 0, BookingAccounts::Account);
+    Type(u"{F2}7"_s);
+    EXPECT_EQ(QApplication::focusWidget()->accessibleName(), u"Kontonummer"_s);
+    Type(u"{Down}{F2}d\r"_s);
+    EXPECT_EQ(Accounts(), u"b7E1 d10A0"_s);
+}
+
+TEST_F(PreferencesPageTest, CountsBothPressesOfADoubleClickOnPlus) {
+    auto &button = Find<QWidget>(u"AccountsAdd"_s);
+    Click(&button, {10, 14});
+    QTest::mouseDClick(&button, Qt::LeftButton, {}, {10, 14});
+    QTest::mouseRelease(&button, Qt::LeftButton, {}, {10, 14});
+    EXPECT_EQ(accounts.model()->rowCount(), 4);
+}
+
 TEST_F(PreferencesPageTest, WritesAnOpenCellBeforeACommandAndTakesItsEditorAway) {
     book.desktop.paper.emplace();
     QString name = u"Kasse"_s;
