@@ -137,27 +137,12 @@ void QtDesktop::ShowURL(const QString &address) {
 }
 
 void QtDesktop::Open(const QUrl &address, const QString &name) {
-    const auto tell = [this, name] {
-        if (!name.isEmpty()) {
-            MsgBox(u"%1 kann nicht geöffnet werden: Es ist kein Programm dafür eingerichtet."_s.arg(
-                name));
-        }
-    };
     const QString opener = QStandardPaths::findExecutable(u"xdg-open"_s);
-    if (opener.isEmpty()) {
-        if (!QDesktopServices::openUrl(address)) {
-            tell();
-        }
-        return;
+    const bool isStarted =
+        opener.isEmpty() ? QDesktopServices::openUrl(address)
+                         : QProcess::startDetached(opener, {address.toString(QUrl::FullyEncoded)});
+    if (!isStarted && !name.isEmpty()) {
+        MsgBox(
+            u"%1 kann nicht geöffnet werden: Es ist kein Programm dafür eingerichtet."_s.arg(name));
     }
-    // The toolkit starts the same program, but does not wait for what it answers.
-    auto *process = new QProcess(qApp);
-    process->setProcessChannelMode(QProcess::ForwardedChannels);
-    QObject::connect(process, &QProcess::finished, process, [process, tell](int result) {
-        process->deleteLater();
-        if (result != 0) {
-            tell();
-        }
-    });
-    process->start(opener, {address.toString(QUrl::FullyEncoded)});
 }

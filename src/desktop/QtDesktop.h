@@ -28,7 +28,8 @@ public:
 private:
     /// Whether the user accepts what the dialog asks.
     bool Ask(QDialog &dialog) const;
-    /// Has the desktop open it; a message names it if that fails, unless the name is empty.
+    /// Starts the desktop's program for it, which goes on when this program ends. If it can't be
+    /// started a message shows the name, unless that is empty.
     void Open(const QUrl &address, const QString &name);
 
     bool isAsking_ = true;
