@@ -70,4 +70,8 @@ TEST(WelcomeWindowView, ShowsThePointedButtonAndOpensTheManualByKeys) {
     EXPECT_TRUE(QTest::qWaitFor([&view] { return view.grab().toImage().pixel(575, 290) == 0xffe6e6e6; }));
     Type(view.windowHandle(), u"\t "_s); // From the new book to the manual.
     EXPECT_EQ(book.desktop.opened, QStringList(book.desktop.Path(u"Resources/Zolmark.pdf"_s)));
+    auto *manual = view.findChild<QWidget *>(u"ManualCanvas"_s);
+    QTest::mouseClick(manual, Qt::LeftButton);
+    QTest::mouseDClick(manual, Qt::LeftButton);
+    EXPECT_EQ(book.desktop.opened.size(), 2) << "a double click opens it once";
 }

@@ -51,6 +51,12 @@ void CanvasView::mousePressEvent(QMouseEvent *event) {
     }
 }
 
+void CanvasView::mouseDoubleClickEvent(QMouseEvent *event) {
+    if (canvas_.CountsEachPress()) {
+        mousePressEvent(event);
+    }
+}
+
 void CanvasView::mouseReleaseEvent(QMouseEvent *event) {
     if (event->button() == Qt::LeftButton) {
         const QPoint place = OnCanvas(*event);

@@ -22,6 +22,9 @@ public:
     const Picture *Backdrop() const { return backdrop_.get(); }
     void SetBackdrop(std::unique_ptr<const Picture> picture);
 
+    /// Whether the second press of a double click is a MouseDown too.
+    virtual bool CountsEachPress() const { return true; }
+
     /// Asks for a repaint, the background first.
     void Refresh() { Q_EMIT Updated(); }
 

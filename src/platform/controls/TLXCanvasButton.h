@@ -10,6 +10,9 @@ class TLXCanvasButton : public Canvas {
 public:
     explicit TLXCanvasButton(const QString &name);
 
+    /// A double click presses it once.
+    bool CountsEachPress() const override { return false; }
+
     Color BorderTop{0xFFFFFF};
     Color BorderBottom{0xCCCCCC};
     Color HoverColor{0xE6E6E6};
