@@ -64,7 +64,12 @@ void Selectors::GetJournalYears() {
             rows.push_back({year.StringValue(), {}});
         }
     }
-    if (rows.empty()) {
+    if (app_.kvoDB().Error()) {
+        // The opening year, or half a list, would select another year than the journal shows. The
+        // refresh meets the same failure and shows it.
+        rows.clear();
+        AskForRefresh();
+    } else if (rows.empty()) {
         const auto opening =
             app_.kvoDB()
                 .Prepare(u"SELECT substr(opening_balance_date, 1, 4) FROM cash_book WHERE id=1"_s)

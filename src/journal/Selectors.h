@@ -26,7 +26,8 @@ public:
     void ChangeTogether(const std::function<void()> &changes);
 
     /// Rebuild their selector from the database and select what stands at the remembered position,
-    /// or the last row when that lies beyond the list. A failed query leaves the selector empty.
+    /// or the last row when that lies beyond the list. A failed query leaves the selector empty;
+    /// that of the years requests a refresh too, which shows the failure.
     void GetCashbooks();
     void GetJournalYears();
     void LoadMonths();

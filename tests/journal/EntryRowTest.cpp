@@ -125,13 +125,14 @@ TEST_F(EntryRowTest, BooksIntoTheCashBookThatWasMeantOrNowhere) {
     row.NewSale();
     window.selectors.CashbookPopup.SetListIndex(1);
     const QStringList tables = {u"cash_book"_s, u"cash_journal"_s};
+    const QString failure = u"DB Error: no such table: cash_journal"_s;
     const auto failToLoad = [&] {
         book.Hide({tables[1]});
         book.Break(tables[0]);
         row.NewSale();
         bookings.SetListIndex(0);
         row.EditSale(EntryRow::EditMode::Change); // Of the booking from the first time.
-        EXPECT_EQ(book.desktop.TakeMessages(), u"DB Error: no such table: cash_journal"_s);
+        EXPECT_EQ(book.desktop.TakeMessages(), failure);
     };
     QString typed = u"5"_s;
     for (PushButton *button : {&row.SubmitButton, &row.ChangeButton}) {
@@ -141,6 +142,7 @@ TEST_F(EntryRowTest, BooksIntoTheCashBookThatWasMeantOrNowhere) {
         button->Press();
         EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Kasse auswählen!"_s);
         EXPECT_EQ(row.InputField.Text(), typed);
+        EXPECT_EQ(book.desktop.TakeMessages(), failure) << "the lists were read again";
         book.Show(tables);
         button->Press();
         EXPECT_EQ(Columns(u"id cashbookID amount"_s), u"1|2|%1.0"_s.arg(typed));

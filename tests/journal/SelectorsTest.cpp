@@ -20,3 +20,16 @@ TEST(Selectors, OfferTheYearsOfAllBookingsAndShowThePeriodOfADate) {
     selectors.GetJournalYears(); // The year is remembered.
     EXPECT_EQ(selectors.PeriodStartSQL(), u"2024-12-01"_s);
 }
+
+TEST(Selectors, OfferNoYearAfterAFailedQueryAndReadItAgainWhenItIsNeeded) {
+    const Book book;
+    Selectors selectors(book.app);
+    book.Add({u"2024-12-31"_s, u"E"_s, u"1"_s});
+    selectors.GetJournalYears();
+    book.Hide({u"cash_journal"_s});
+    selectors.GetJournalYears();
+    EXPECT_EQ(selectors.YearPopup.ListCount(), 0) << "the opening year is 2026";
+    book.Show({u"cash_journal"_s});
+    selectors.GetMissing();
+    EXPECT_EQ(selectors.YearPopup.Text(), u"2024"_s);
+}
