@@ -3,6 +3,7 @@
 #include "core/database/DerivedKey.h"
 
 #define SQLITE_HAS_CODEC 1
+#include <QFileInfo>
 #include <QThread>
 #include <sqlite3.h>
 
@@ -31,6 +32,11 @@ Connection::Connection(const QString &path, const QByteArray &key,
 
 bool Connection::Open(const QString &path, const QByteArray &key) {
     const bool inMemory = path.isEmpty();
+    // Opening a pipe would wait for its other end.
+    if (!inMemory && !QFileInfo(path).isFile()) {
+        NoteFailure(QString::fromUtf8(sqlite3_errstr(SQLITE_CANTOPEN)));
+        return false;
+    }
     QByteArray derived = inMemory || key.isEmpty() ? QByteArray() : DerivedKey(key, path);
     // The program has one thread: without a lock around each value of a row.
     const int flags =

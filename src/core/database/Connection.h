@@ -26,8 +26,9 @@ public:
     /// A statement as the library has compiled it.
     using Compiled = std::unique_ptr<sqlite3_stmt, Finalizer>;
 
-    /// Opens the file, which must exist, with the key; an empty path in memory and without one. A
-    /// file is opened when the key fits and its first page could be read; otherwise Error is set.
+    /// Opens the file, which must exist and be a regular one, with the key; an empty path opens a
+    /// database in memory without a key. A file is open when the key fits and its first page could
+    /// be read; otherwise Error is set.
     Connection(const QString &path, const QByteArray &key, std::chrono::milliseconds patience);
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;

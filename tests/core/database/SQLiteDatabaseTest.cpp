@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QElapsedTimer>
 
+#include <sys/stat.h>
+
 using namespace std::chrono_literals;
 
 static QByteArray Bytes(const QString &path) {
@@ -51,6 +53,16 @@ TEST(SQLiteDatabase, LeavesAFileThatItCannotReadAsItIs) {
         EXPECT_EQ(Bytes(path), each.content);
         EXPECT_EQ(folder.entryList(QDir::Files).size(), 1);
     }
+}
+
+TEST(SQLiteDatabase, RefusesAPipeInsteadOfWaitingForItsOtherEnd) {
+    const FakeDesktop desktop;
+    const FolderItem pipe(desktop.Path(u"Zolmark.sdb"_s));
+    ASSERT_EQ(mkfifo(qUtf8Printable(pipe.Path()), 0600), 0);
+    SQLiteDatabase database;
+    App::UseFile(database, pipe);
+    EXPECT_FALSE(database.Connect());
+    EXPECT_EQ(database.ErrorMessage(), u"unable to open database file"_s);
 }
 
 TEST(SQLiteDatabase, WaitsOnceForALockedFile) {
