@@ -3,6 +3,7 @@
 #include "core/App.h"
 #include "core/Scripts.h"
 #include "core/TLXModule.h"
+#include "core/database/Transaction.h"
 #include "platform/values/Text.h"
 
 #include <QUuid>
@@ -205,7 +206,7 @@ QString WelcomeWindow::ClosingSQL() const {
 
 bool WelcomeWindow::BuildBook(const QString &chart, const QString &closingSQL) {
     SQLiteDatabase &database = app_.kvoDB();
-    database.SQLExecute(u"BEGIN TRANSACTION"_s);
+    Transaction transaction(database);
     database.SQLExecute(CashBookDDL());
     database.SQLExecute(ReferenceDataSQL());
     if (SameText(chart, u"SKR-03"_s)) {
@@ -215,13 +216,8 @@ bool WelcomeWindow::BuildBook(const QString &chart, const QString &closingSQL) {
         database.SQLExecute(ChartSKR04SQL());
     }
     database.SQLExecute(closingSQL);
-    if (!database.Error()) {
-        // This is where a full disk shows.
-        database.Commit();
-    }
-    if (database.Error()) {
+    if (database.Error() || !transaction.Commit()) {
         app_.GetDesktop().MsgBox(u"Error: "_s + database.ErrorMessage());
-        database.Rollback();
         return false;
     }
     return true;

@@ -71,7 +71,8 @@ void RecordSet::Update() {
     if (!fine || !update.Bind(parameter, id)) {
         return;
     }
-    update.Step();
+    // An UPDATE has no rows; a failure stands in Error.
+    static_cast<void>(update.Step());
     if (!update.Owner()->Error() && update.Owner()->Changes() == 0) {
         update.Owner()->NoteFailure(RowHasGone());
     }

@@ -43,9 +43,10 @@ public:
     /// Runs a statement, or a script of several up to its first failing one.
     void SQLExecute(const QString &sql);
     /// Nothing on a failure.
-    std::unique_ptr<RecordSet> SQLSelect(const QString &sql);
-    SQLitePreparedStatement Prepare(const QString &sql);
+    [[nodiscard]] std::unique_ptr<RecordSet> SQLSelect(const QString &sql);
+    [[nodiscard]] SQLitePreparedStatement Prepare(const QString &sql);
     void InsertRecord(const QString &table, const DatabaseRecord &record);
+    /// End the transaction; Transaction begins one.
     void Commit();
     void Rollback();
     /// The id of the row inserted last.

@@ -11,7 +11,8 @@ void SQLitePreparedStatement::Bind(int parameter, const QString &text) {
 
 void SQLitePreparedStatement::SQLExecute() {
     if (statement_) {
-        statement_->Step();
+        // A row is of no interest; a failure stands in the database's Error.
+        static_cast<void>(statement_->Step());
         statement_.reset();
     }
 }

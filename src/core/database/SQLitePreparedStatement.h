@@ -17,7 +17,7 @@ public:
     void Bind(int parameter, const QString &text);
     void SQLExecute();
     /// Nothing on a failure.
-    std::unique_ptr<RecordSet> SQLSelect();
+    [[nodiscard]] std::unique_ptr<RecordSet> SQLSelect();
 
 private:
     std::unique_ptr<Statement> statement_;

@@ -22,7 +22,7 @@ public:
     /// Binds a parameter, from 0, as text.
     [[nodiscard]] bool Bind(int parameter, const QString &text);
     /// True when there is a row to read; false at the end and on an error.
-    bool Step();
+    [[nodiscard]] bool Step();
     /// Back to before the first row; the bound values stay.
     void Reset();
 

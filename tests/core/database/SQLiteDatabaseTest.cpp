@@ -1,3 +1,4 @@
+#include "core/database/Transaction.h"
 #include "support/Book.h"
 
 #include <QDir>
@@ -63,6 +64,24 @@ TEST(SQLiteDatabase, RefusesAPipeInsteadOfWaitingForItsOtherEnd) {
     App::UseFile(database, pipe);
     EXPECT_FALSE(database.Connect());
     EXPECT_EQ(database.ErrorMessage(), u"unable to open database file"_s);
+}
+
+TEST(Transaction, RollsBackWhatWasNotCommitted) {
+    const Book book;
+    const QString count = u"SELECT count(*) FROM cash_tax WHERE name = 'neu'"_s;
+    const QString insert = u"INSERT INTO cash_tax (name) VALUES ('neu')"_s;
+    {
+        const Transaction dropped(book.app.kvoDB());
+        book.Run(insert);
+    }
+    EXPECT_EQ(book.Value(count), u"0"_s);
+    {
+        Transaction kept(book.app.kvoDB());
+        book.Run(insert);
+        EXPECT_TRUE(kept.Commit());
+        EXPECT_FALSE(kept.Commit()) << "it has ended";
+    }
+    EXPECT_EQ(book.Value(count), u"1"_s);
 }
 
 TEST(SQLiteDatabase, WaitsOnceForALockedFile) {
