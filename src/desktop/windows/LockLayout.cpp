@@ -33,11 +33,12 @@ void LockLayout::Place(QWidget *widget, const QRect &place, Qt::Edges locks) {
     widget->setGeometry(place);
 }
 
-void LockLayout::SetFont(const QWidget &widget, const QFont &font) {
+void LockLayout::SetFont(const QWidget &widget, const QFont &font, int size) {
     const auto item = std::find_if(items_.begin(), items_.end(), [&widget](const Item &each) {
         return each.item->widget() == &widget;
     });
     item->font = font;
+    item->fontSize = size;
 }
 
 void LockLayout::addItem(QLayoutItem *item) {
@@ -80,8 +81,8 @@ void LockLayout::setGeometry(const QRect &area) {
         // place.
         each.item->widget()->setGeometry(left, top, width, height);
         QFont font = each.font;
-        if (font.pixelSize() > 0) {
-            font.setPixelSize(Grown(font.pixelSize(), growth));
+        if (each.fontSize > 0) {
+            font.setPixelSize(Grown(each.fontSize, growth));
         }
         FitText(*each.item->widget(), font);
     }

@@ -29,8 +29,9 @@ public:
     ~LockLayout() override;
 
     void Place(QWidget *widget, const QRect &place, Qt::Edges locks);
-    /// A font of its own for a placed widget; a size is in pixels of the design.
-    void SetFont(const QWidget &widget, const QFont &font);
+    /// Gives a placed widget a font of its own, in a size in points of the design; 0 is the size of
+    /// the desktop's font. A size in the font itself counts for nothing: every font has one.
+    void SetFont(const QWidget &widget, const QFont &font, int size);
 
     void addItem(QLayoutItem *item) override;
     int count() const override;
@@ -46,6 +47,7 @@ private:
         QRect place;
         Qt::Edges locks;
         QFont font;
+        int fontSize = 0;
     };
 
     QSize design_;

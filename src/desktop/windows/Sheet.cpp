@@ -52,11 +52,8 @@ QLabel *Sheet::AddText(const QString &name, const QString &text, const QRect &pl
 
 QLabel *Sheet::SetLetters(QLabel *text, int size, bool bold) {
     QFont font;
-    if (size > 0) {
-        font.setPixelSize(size);
-    }
     font.setBold(bold);
-    layout_->SetFont(*text, font);
+    layout_->SetFont(*text, font, size);
     return text;
 }
 

@@ -139,6 +139,28 @@ TEST(EveryPage, StandsAsDesignedAndGrowsWithTheWindowAndWithItsLetters) {
     EXPECT_EQ(seen.size(), std::size(mainPlaces) + std::size(welcomePlaces));
 }
 
+TEST(EveryPage, LooksTheSameWhetherTheFontIsInPixelsOrPoints) {
+    const QFont before = QApplication::font();
+    QStringList looks[2];
+    for (QStringList &look : looks) {
+        QFont font(u"DejaVu Sans"_s, 18);
+        if (&look == &looks[1]) { font.setPixelSize(24); } // The same at 96 dots to the inch.
+        QApplication::setFont(font);
+        ForEveryPage([&look, &font](const QMainWindow &window) {
+            window.centralWidget()->setFont(font); // The screen of the tests is too small for it.
+            QApplication::processEvents();
+            for (const QWidget *each : window.centralWidget()->findChildren<QWidget *>()) {
+                look.append(u"%1 %2 %3 of %4"_s.arg(each->objectName())
+                                .arg(each->width())
+                                .arg(each->height())
+                                .arg(each->fontInfo().pixelSize()));
+            }
+        });
+    }
+    QApplication::setFont(before);
+    EXPECT_EQ(looks[0], looks[1]);
+}
+
 TEST(EveryPage, GrowsNoFurtherThanTheScreenLetsIt) {
     struct Case {
         QSize least, beside;
