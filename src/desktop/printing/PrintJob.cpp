@@ -12,8 +12,10 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
+#include <QPrinterInfo>
 
 #include <algorithm>
+#include <cups/cups.h>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -32,6 +34,25 @@ double LowerEdgeOf(const QPrinter &printer) {
     QPageLayout layout = printer.pageLayout();
     layout.setUnits(QPageLayout::Point);
     return layout.fullRect().height() - layout.minimumMargins().bottom();
+}
+
+/// Returns why the job that was printed last has not reached its queue, in German; empty if it has.
+/// The toolkit drops this outcome.
+QString QueueFailure(const QString &printer) {
+    const ipp_status_t status = cupsLastError();
+    if (status < IPP_STATUS_ERROR_BAD_REQUEST) {
+        return {};
+    }
+    QString reason = QString::fromUtf8(cupsLastErrorString());
+    if (status == IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS) {
+        reason = u"Er nimmt keine Aufträge an."_s;
+    } else if (QPrinterInfo::printerInfo(printer).isNull()) {
+        reason = u"Er ist nicht mehr eingerichtet, oder der Druckdienst läuft nicht."_s;
+    } else if (status == IPP_STATUS_ERROR_INTERNAL) {
+        // The text is that of some call of the system.
+        reason = u"Der Druckdienst konnte ihn nicht speichern."_s;
+    }
+    return u"Der Drucker %1 hat den Bericht nicht angenommen: %2"_s.arg(printer, reason);
 }
 
 } // namespace
@@ -158,8 +179,7 @@ QString PrintJob::Print() const {
     if (printer_->outputFormat() == QPrinter::PdfFormat) {
         return PrintIntoFile();
     }
-    const bool isPrinted = PrintOn(*printer_) && printer_->printerState() != QPrinter::Error;
-    return isPrinted ? QString() : cannotPrint;
+    return PrintOn(*printer_) ? QueueFailure(printer_->printerName()) : cannotPrint;
 }
 
 QString PrintJob::PrintIntoFile() const {

@@ -17,7 +17,8 @@ class QPrinter;
 /// A print job on a printer or into a PDF file. It keeps the pages, and prints them when it is let
 /// go, which never throws: the wanted pages in the wanted order and number. A page that would run
 /// past the lower edge of the paper is scaled down as a whole; any other is printed in its own
-/// size. A PDF file is there as a whole or not at all.
+/// size. A PDF file is there as a whole or not at all. A job counts as printed when its queue has
+/// accepted it; what the printer then makes of it is not known here.
 class PrintJob : public PrinterGraphics {
 public:
     /// Hears a failure, in German, when the event loop comes round.

@@ -8,7 +8,10 @@
 #include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QStandardPaths>
 #include <QTemporaryDir>
+
+#include <cups/cups.h>
 
 class PrintJobTest : public testing::Test {
 protected:
@@ -105,6 +108,65 @@ TEST_F(PrintJobTest, DrawsLinesInTheirColourAndTextAsOneLineInItsFace) {
     EXPECT_EQ(page.pixelColor(125, 200), QColor(Qt::red));
     EXPECT_EQ(Read().replaceInStrings(QRegularExpression(u".* "_s), {}), QStringList({u"ii"_s, u"i"_s}));
     EXPECT_TRUE(Ask(u"pdffonts"_s, {path}).contains("Bold"));
+}
+
+/// A print service of the test's own, with a queue that accepts jobs and one that does not.
+class PrintQueueTest : public testing::Test {
+protected:
+    PrintQueueTest() {
+        Write(u"cupsd.conf"_s, u"Listen %1/socket\n<Location />\nAllow all\n</Location>\n"_s);
+        Write(u"cups-files.conf"_s, u"ServerRoot %1\nStateDir %1\nCacheDir %1\nRequestRoot %1/spool\n"
+                                    "AccessLog %1/log\nErrorLog %1/log\nPageLog %1/log\nFileDevice Yes\n"_s);
+        Write(u"printers.conf"_s, u"<Printer Offen>\nDeviceURI file:///dev/null\nAccepting Yes\n</Printer>\n"
+                                  "<Printer Zu>\nDeviceURI file:///dev/null\nAccepting No\n</Printer>\n"_s);
+        service.start(QStandardPaths::findExecutable(u"cupsd"_s, {u"/usr/sbin"_s}),
+                      {u"-f"_s, u"-c"_s, Path(u"cupsd.conf"_s), u"-s"_s, Path(u"cups-files.conf"_s)});
+        EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(Path(u"socket"_s)); }));
+        cupsSetServer(qUtf8Printable(Path(u"socket"_s)));
+    }
+    ~PrintQueueTest() override {
+        EndService();
+        cupsSetServer(nullptr);
+    }
+    Q_DISABLE_COPY_MOVE(PrintQueueTest)
+
+    QString Path(const QString &name) const { return folder.filePath(name); }
+    void Write(const QString &name, const QString &text) const {
+        QFile file(Path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) &&
+                    file.write(QString(text).replace(u"%1"_s, folder.path()).toUtf8()) > 0);
+    }
+    void EndService() {
+        service.terminate();
+        EXPECT_TRUE(service.state() == QProcess::NotRunning || service.waitForFinished());
+    }
+    std::unique_ptr<PrintJob> Begin(const QString &queue) {
+        auto printer = std::make_unique<QPrinter>();
+        printer->setPrinterName(queue);
+        return std::make_unique<PrintJob>(std::move(printer), std::nullopt,
+                                          [this](const QString &failure) { message = failure; });
+    }
+    /// Returns what the user is shown when the job ends.
+    QString End(std::unique_ptr<PrintJob> job) {
+        message.clear();
+        job.reset();
+        QCoreApplication::processEvents();
+        return message;
+    }
+
+    const QTemporaryDir folder;
+    QProcess service;
+    QString message;
+};
+
+TEST_F(PrintQueueTest, ShowsWhyAJobHasNotReachedItsQueue) {
+    EXPECT_EQ(End(Begin(u"Offen"_s)), QString());
+    EXPECT_EQ(End(Begin(u"Zu"_s)), u"Der Drucker Zu hat den Bericht nicht angenommen: Er nimmt keine Aufträge an."_s);
+    EXPECT_EQ(End(Begin(u"Offen"_s)), QString()) << "usable as before";
+    auto job = Begin(u"Offen"_s);
+    EndService();
+    EXPECT_EQ(End(std::move(job)), u"Der Drucker Offen hat den Bericht nicht angenommen: "
+                                   "Er ist nicht mehr eingerichtet, oder der Druckdienst läuft nicht."_s);
 }
 
 TEST_F(PrintJobTest, TellsWhatCouldNotBePrintedAndLeavesTheFileBefore) {
