@@ -7,9 +7,9 @@ stop() {
     exit 1
 }
 
-# The tools that write the manual and the package split paths at these.
+# Blanks and umlauts are fine.
 case $top in
-*[[:space:]\&\;\'\"\\\$\`\(\)\<\>\|\#%]*) stop "The path $top has letters that the build can't take; move the folder." ;;
+*[[:cntrl:]\;\"\\\<\>\|\#]*) stop "CMake and Ninja can't build in $top: one of ; \" \\ < > | # is in the path. Move the folder." ;;
 esac
 
 # The packages of these sections of packages.txt.
