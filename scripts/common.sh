@@ -9,7 +9,7 @@ stop() {
 
 # Blanks and umlauts are fine.
 case $top in
-*[[:cntrl:]\;\"\\\<\>\|\#]*) stop "CMake and Ninja can't build in $top: one of ; \" \\ < > | # is in the path. Move the folder." ;;
+*[][[:cntrl:]\;\"\\\<\>\|\#]*) stop "CMake and Ninja can't build in $top: one of [ ] ; \" \\ < > | # is in the path. Move the folder." ;;
 esac
 
 # The packages of these sections of packages.txt.
