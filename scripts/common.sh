@@ -7,9 +7,11 @@ stop() {
     exit 1
 }
 
-# Blanks and umlauts are fine.
+# CMake's code generation, Ninja or the packer read these as something else; blanks and umlauts work.
 case $top in
-*[][[:cntrl:]\;\"\\\<\>\|\#]*) stop "CMake and Ninja can't build in $top: one of [ ] ; \" \\ < > | # is in the path. Move the folder." ;;
+*[][[:cntrl:]\&\;\'\"\\\$\`\(\)\<\>\|\#%]*)
+    stop "The path $top has one of the characters [ ] & ; ' \" \\ \$ \` ( ) < > | # %, which CMake or Ninja does not take literally. Move the folder."
+    ;;
 esac
 
 # The packages of these sections of packages.txt.
