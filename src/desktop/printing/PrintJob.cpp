@@ -48,8 +48,8 @@ QString QueueFailure(const QString &printer) {
         reason = u"Er nimmt keine Aufträge an."_s;
     } else if (QPrinterInfo::printerInfo(printer).isNull()) {
         reason = u"Er ist nicht mehr eingerichtet, oder der Druckdienst läuft nicht."_s;
-    } else if (status == IPP_STATUS_ERROR_INTERNAL) {
-        // The text is that of some call of the system.
+    } else if (status == IPP_STATUS_ERROR_INTERNAL || status == IPP_STATUS_ERROR_REQUEST_ENTITY) {
+        // As with a full disk; the text is then that of some call of the system.
         reason = u"Der Druckdienst konnte ihn nicht speichern."_s;
     }
     return u"Der Drucker %1 hat den Bericht nicht angenommen: %2"_s.arg(printer, reason);
