@@ -108,6 +108,7 @@ TEST_F(PreferencesPageTest, CountsBothPressesOfADoubleClickOnPlus) {
     auto &button = Find<QWidget>(u"AccountsAdd"_s);
     Click(&button, {10, 14});
     QTest::mouseDClick(&button, Qt::LeftButton, {}, {10, 14});
+    EXPECT_EQ(button.grab().toImage().pixel(5, 5), 0xffc0c0c0) << "held down";
     QTest::mouseRelease(&button, Qt::LeftButton, {}, {10, 14});
     EXPECT_EQ(accounts.model()->rowCount(), 4);
 }
