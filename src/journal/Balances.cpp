@@ -60,10 +60,9 @@ void Balances::RunBalance(Currency balance) {
         const QStringView input = list.CellsOf(Journal::Input).At(row);
         const QStringView output = list.CellsOf(Journal::Output).At(row);
         if (!input.isEmpty()) {
-            balance = Currency::FromDouble(balance.ToDouble() + TLXModule::AmountText2Value(input));
+            balance += Currency::FromDouble(TLXModule::AmountText2Value(input));
         } else if (!output.isEmpty()) {
-            balance =
-                Currency::FromDouble(balance.ToDouble() - TLXModule::AmountText2Value(output));
+            balance -= Currency::FromDouble(TLXModule::AmountText2Value(output));
         }
         texts.Add(app_.Locale().FormatBalance(balance.ToDouble()));
     }

@@ -14,7 +14,7 @@ public:
     /// The record set must live as long as the reader.
     explicit BookingReader(RecordSet &records);
 
-    QString Id() const { return QString::number(id_.IntegerValue()); }
+    QString Id() const { return id_.StringValue(); }
     /// As it is stored, also what is no date.
     QString SQLDate() const { return vdate_.StringValue(); }
     /// A type other than that of a receipt counts as an expense.

@@ -7,23 +7,15 @@
 #include <QThread>
 #include <sqlite3.h>
 
-#include <algorithm>
-
 namespace {
 
 constexpr int lockPollMs = 20;
-constexpr size_t keptStatements = 8;
 
 } // namespace
 
 void Connection::Closer::operator()(sqlite3 *handle) const {
     // Statements that are still alive keep the handle until they end; nothing else can fail here.
     sqlite3_close_v2(handle);
-}
-
-void Connection::Finalizer::operator()(sqlite3_stmt *handle) const {
-    // Repeats the outcome of the last step, which has been noted.
-    sqlite3_finalize(handle);
 }
 
 Connection::Connection(const QString &path, const QByteArray &key,
@@ -67,32 +59,6 @@ bool Connection::Settle() {
     // The last line is the proof of the key: it reads the first page.
     return Execute("PRAGMA cache_size = -65536") && Execute("PRAGMA temp_store = MEMORY") &&
            Execute("PRAGMA synchronous = FULL") && Execute("SELECT count(*) FROM sqlite_master");
-}
-
-Connection::Compiled Connection::Compile(const QByteArray &sql) {
-    const auto kept = std::find_if(kept_.begin(), kept_.end(),
-                                   [&sql](const Kept &each) { return each.sql == sql; });
-    if (kept != kept_.end()) {
-        NoteFailure({});
-        Compiled statement = std::move(kept->statement);
-        kept_.erase(kept);
-        return statement;
-    }
-    sqlite3_stmt *handle = nullptr;
-    // A failure gives no handle.
-    static_cast<void>(Note(sqlite3_prepare_v2(Handle(), sql.constData(),
-                                              static_cast<int>(sql.size()), &handle, nullptr)));
-    return Compiled(handle);
-}
-
-void Connection::Keep(const QByteArray &sql, Compiled statement) {
-    // Repeats the outcome of the last step, which has been noted.
-    sqlite3_reset(statement.get());
-    sqlite3_clear_bindings(statement.get());
-    if (kept_.size() == keptStatements) {
-        kept_.erase(kept_.begin());
-    }
-    kept_.push_back({sql, std::move(statement)});
 }
 
 bool Connection::Execute(const QByteArray &sql) {

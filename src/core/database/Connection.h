@@ -6,10 +6,8 @@
 
 #include <chrono>
 #include <memory>
-#include <vector>
 
 struct sqlite3;
-struct sqlite3_stmt;
 
 /// An open SQLCipher database and the outcome of the last operation on it. It is shared by the
 /// database object and by all statements and record sets that came from it, and closes with the
@@ -20,12 +18,6 @@ struct sqlite3_stmt;
 /// waits but once.
 class Connection {
 public:
-    struct Finalizer {
-        void operator()(sqlite3_stmt *handle) const;
-    };
-    /// A statement as the library has compiled it.
-    using Compiled = std::unique_ptr<sqlite3_stmt, Finalizer>;
-
     /// Opens the file, which must exist and be a regular one, with the key; an empty path opens a
     /// database in memory without a key. A file is open when the key fits and its first page could
     /// be read; otherwise Error is set.
@@ -36,11 +28,6 @@ public:
     bool IsOpen() const { return open_; }
     sqlite3 *Handle() const { return handle_.get(); }
 
-    /// A statement before its first row, with nothing bound; null when the text can't be compiled.
-    Compiled Compile(const QByteArray &sql);
-    /// Ends a statement, and keeps it for the next that asks for the same text: a keystroke asks
-    /// for the same ones again. Only the last few are kept.
-    void Keep(const QByteArray &sql, Compiled statement);
     /// Runs one statement or a script, up to its first failing statement.
     [[nodiscard]] bool Execute(const QByteArray &sql);
     qint64 LastRowID() const;
@@ -64,14 +51,7 @@ private:
     bool Settle();
     static int WaitForLock(void *connection, int attempts);
 
-    struct Kept {
-        QByteArray sql;
-        Compiled statement;
-    };
-
     std::unique_ptr<sqlite3, Closer> handle_;
-    /// The one used last stands last.
-    std::vector<Kept> kept_;
     QString message_;
     std::chrono::milliseconds patience_;
     QDeadlineTimer lockWait_;

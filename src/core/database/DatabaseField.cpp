@@ -20,10 +20,6 @@ char DatabaseField::Code() const {
     return records_->CanRead(column_) ? records_->statement_->Letter(column_) : '\0';
 }
 
-qint64 DatabaseField::IntegerValue() const {
-    return records_->CanRead(column_) ? records_->statement_->Integer(column_) : 0;
-}
-
 void DatabaseField::SetStringValue(const QString &text) {
     records_->changes_[column_] = text;
 }

@@ -16,8 +16,6 @@ public:
     QString StringValue() const;
     /// A text of one letter, as a capital; 0 for any other.
     char Code() const;
-    /// A whole number, such as an id; 0 for what is none.
-    qint64 IntegerValue() const;
     /// Sets the value as text, for RecordSet::Update to write. Takes effect after RecordSet::Edit.
     void SetStringValue(const QString &text);
     /// A text in a column of numbers is read as an amount that somebody typed, comma or dot.

@@ -3,13 +3,19 @@
 #include <QStringDecoder>
 #include <sqlite3.h>
 
-Statement::Statement(std::shared_ptr<Connection> connection, const QString &sql)
-    : connection_(std::move(connection)), sql_(sql.toUtf8()), handle_(connection_->Compile(sql_)) {}
+void Statement::Finalizer::operator()(sqlite3_stmt *handle) const {
+    // Repeats the outcome of the last step, which has been recorded.
+    sqlite3_finalize(handle);
+}
 
-Statement::~Statement() {
-    if (IsValid()) {
-        connection_->Keep(sql_, std::move(handle_));
-    }
+Statement::Statement(std::shared_ptr<Connection> connection, const QString &sql)
+    : connection_(std::move(connection)) {
+    const QByteArray text = sql.toUtf8();
+    sqlite3_stmt *handle = nullptr;
+    // On failure the handle is null.
+    static_cast<void>(connection_->Note(sqlite3_prepare_v2(
+        connection_->Handle(), text.constData(), static_cast<int>(text.size()), &handle, nullptr)));
+    handle_.reset(handle);
 }
 
 bool Statement::Bind(int parameter, const QString &text) {
@@ -75,8 +81,4 @@ char Statement::Letter(int column) const {
 
 double Statement::Number(int column) const {
     return sqlite3_column_double(handle_.get(), column);
-}
-
-qint64 Statement::Integer(int column) const {
-    return sqlite3_column_int64(handle_.get(), column);
 }

@@ -7,13 +7,14 @@
 
 #include <memory>
 
+struct sqlite3_stmt;
+
 /// One compiled statement of a connection. Every outcome goes to the connection.
 class Statement {
 public:
     Statement(std::shared_ptr<Connection> connection, const QString &sql);
     Statement(const Statement &) = delete;
     Statement &operator=(const Statement &) = delete;
-    ~Statement();
 
     /// False when the text could not be compiled.
     bool IsValid() const { return handle_ != nullptr; }
@@ -39,10 +40,12 @@ public:
     /// A text of one letter, as a capital; 0 for any other.
     char Letter(int column) const;
     double Number(int column) const;
-    qint64 Integer(int column) const;
 
 private:
+    struct Finalizer {
+        void operator()(sqlite3_stmt *handle) const;
+    };
+
     std::shared_ptr<Connection> connection_;
-    QByteArray sql_;
-    Connection::Compiled handle_;
+    std::unique_ptr<sqlite3_stmt, Finalizer> handle_;
 };

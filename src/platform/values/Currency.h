@@ -14,6 +14,7 @@ public:
     friend Currency operator+(Currency a, Currency b);
     friend Currency operator-(Currency a, Currency b);
     Currency &operator+=(Currency other) { return *this = *this + other; }
+    Currency &operator-=(Currency other) { return *this = *this - other; }
     friend bool operator==(Currency, Currency) = default;
 
 private:

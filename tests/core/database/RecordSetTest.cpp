@@ -59,26 +59,3 @@ TEST(RecordSet, ReadsEveryKindOfValue) {
     EXPECT_TRUE(records->AtEnd() && records->IdxField(1).StringValue().isEmpty() &&
                 !records->IdxField(2).DoubleValue());
 }
-
-TEST(RecordSet, StartsAnewHoweverTheSameWasAskedBefore) {
-    const Book book(Book::Place::File);
-    SQLiteDatabase &database = book.app.kvoDB();
-    const QString sql = u"SELECT * FROM cash_tax WHERE id = ? OR ?1 IS NULL ORDER BY id"_s;
-    const auto idOf = [](RecordSet &records) { return records.Field("id"_L1).StringValue(); };
-    const auto ask = [&](const QString &id) {
-        SQLitePreparedStatement statement = database.Prepare(sql);
-        if (!id.isNull()) { statement.Bind(0, id); }
-        return statement.SQLSelect();
-    };
-    EXPECT_EQ(idOf(*ask(u"2"_s)), u"2"_s);
-    auto all = ask({});
-    all->MoveNext();
-    EXPECT_EQ(idOf(*ask({})), u"1"_s) << "while another walks";
-    EXPECT_EQ(idOf(*all), u"2"_s);
-    all.reset();
-    for (int other = 0; other < 20; ++other) { EXPECT_TRUE(database.SQLSelect(u"SELECT %1"_s.arg(other))); }
-    EXPECT_EQ(idOf(*ask(u"3"_s)), u"3"_s);
-    book.Run(u"ALTER TABLE cash_tax ADD COLUMN later TEXT DEFAULT 'new'"_s);
-    EXPECT_EQ(ask(u"3"_s)->Field("later"_L1).StringValue(), u"new"_s);
-    EXPECT_EQ(ReadWithShell(book.app, u"BEGIN EXCLUSIVE; SELECT 'free'"_s), u"free"_s) << "what ended holds no lock";
-}
