@@ -1,5 +1,6 @@
 #include "core/TLXModule.h"
 
+#include "platform/controls/SelectionControl.h"
 #include "platform/values/Text.h"
 #include "platform/values/UserLocale.h"
 
@@ -60,6 +61,18 @@ QString DateSQL2German(const QString &text) {
     const QString date = text.left(10);
     return NthField(date, u'-', 3) + u'.' + NthField(date, u'-', 2) + u'.' +
            NthField(date, u'-', 1) + text.mid(10);
+}
+
+int GetRowTag(const SelectionControl &list, const QString &tag) {
+    return list.FindTag(tag);
+}
+
+int IndexOf(SelectionControl &list, const QString &text) {
+    const int row = list.FindText(text);
+    if (row >= 0) {
+        list.SetListIndex(row);
+    }
+    return row;
 }
 
 } // namespace TLXModule

@@ -4,9 +4,11 @@
 
 #include <array>
 
+class SelectionControl;
 class UserLocale;
 
-/// Functions that all rooms share: conversions of amounts and dates. None of them reports anything.
+/// Functions that all modules share: conversions of amounts and dates, and searches in lists
+/// without regard to case. None of them reports errors.
 namespace TLXModule {
 
 /// Makes the first comma a dot and changes nothing else.
@@ -24,6 +26,11 @@ QString SQLDateYear(const QString &sqlDate);
 int SQLDateMonth(const QString &sqlDate);
 /// DD.MM.YYYY of a SQL date; what follows the date stays.
 QString DateSQL2German(const QString &text);
+
+/// Returns the index of the first row with the tag, -1 if there is none. Selects nothing.
+int GetRowTag(const SelectionControl &list, const QString &tag);
+/// Selects the first row with the text and returns its index; -1 and no change if there is none.
+int IndexOf(SelectionControl &list, const QString &text);
 
 struct MonthTag {
     QStringView text;

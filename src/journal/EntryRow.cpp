@@ -1,7 +1,6 @@
 #include "journal/EntryRow.h"
 
 #include "core/App.h"
-#include "core/TLXLists.h"
 #include "core/TLXModule.h"
 #include "journal/Balances.h"
 #include "journal/Journal.h"
@@ -36,7 +35,6 @@ EntryRow::EntryRow(const App &app, Selectors &selectors, Journal &journal, const
     connect(&InputField, &Control::GotFocus, this, [this] { NameCategory(nameOfReceipts); });
     connect(&OutputField, &Control::GotFocus, this, [this] { NameCategory(nameOfExpenses); });
     connect(&pickLists.CategoryCombo, &ComboBox::TextChanged, this, &EntryRow::TellCategory);
-    connect(&ErrorLabel, &Label::Updated, this, &EntryRow::ErrorLabel_Updated);
     connect(&SubmitButton, &PushButton::Action, this, &EntryRow::SubmitButton_Action);
     connect(&ChangeButton, &PushButton::Action, this, &EntryRow::ChangeButton_Action);
     connect(&CancelButton, &PushButton::Action, this, &EntryRow::NewSale);
@@ -100,17 +98,9 @@ void EntryRow::TellCategory() {
                                 : side == u'A' ? nameOfExpenses
                                                : CategoryLabel.Text());
     ComboBox &category = pickLists.CategoryCombo;
-    const bool unknown = !side.isEmpty() && !category.Text().isEmpty() &&
-                         TLXModule::FindText(category, category.Text()) < 0;
+    const bool unknown =
+        !side.isEmpty() && !category.Text().isEmpty() && category.FindText(category.Text()) < 0;
     category.SetHint(unknown ? u"ohne Konto"_s : QString());
-}
-
-void EntryRow::ErrorLabel_Updated() {
-    for (Control *each : std::initializer_list<Control *>{
-             &DateField, &InputField, &OutputField, &pickLists.TaxCombo, &pickLists.CategoryCombo,
-             &SaleNumberField, &NoteField, &SubmitButton, &ChangeButton, &CancelButton}) {
-        each->SetComplaint(ErrorLabel.Text());
-    }
 }
 
 bool EntryRow::CheckFields() {
@@ -137,7 +127,6 @@ bool EntryRow::CheckFields() {
     if (DateField.TakeRefusal()) {
         message = u"Bitte das Datum prüfen!"_s;
     }
-    // The bar first: a hint that stands there makes room when its field is told.
     ErrorRect.SetVisible(!message.isEmpty());
     ErrorLabel.SetText(message);
     return message.isEmpty();

@@ -66,8 +66,6 @@ private:
     void AmountTyped(TextField &field, Control &other, const QString &type);
     /// Says which kind of category is wanted, and whether the typed one is an account.
     void TellCategory();
-    /// Has every field say what the red bar says.
-    void ErrorLabel_Updated();
     /// What the row holds, as the columns that a new and a changed booking share.
     DatabaseRecord Entry() const;
     /// Writes the row into the booking; the database's Error tells how that went.

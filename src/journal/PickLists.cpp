@@ -1,7 +1,7 @@
 #include "journal/PickLists.h"
 
 #include "core/App.h"
-#include "core/TLXLists.h"
+#include "core/TLXModule.h"
 #include "platform/values/Text.h"
 
 #include <algorithm>
@@ -44,10 +44,10 @@ void PickLists::LoadRows(const QString &sql, QLatin1StringView tagColumn, const 
 
 void PickLists::LoadAccounts(const QString &type) {
     const QString text = CategoryCombo.Text();
-    const bool wasOffered = TLXModule::FindText(CategoryCombo, text) >= 0;
+    const bool wasOffered = CategoryCombo.FindText(text) >= 0;
     LoadRows(u"SELECT * FROM cash_accounts WHERE type = ? AND active = 1 ORDER BY name"_s,
              "account"_L1, type, CategoryCombo, sideOfAccounts_);
-    if (!wasOffered || TLXModule::FindText(CategoryCombo, text) >= 0) {
+    if (!wasOffered || CategoryCombo.FindText(text) >= 0) {
         CategoryCombo.SetText(text);
     }
 }

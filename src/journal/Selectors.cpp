@@ -1,7 +1,6 @@
 #include "journal/Selectors.h"
 
 #include "core/App.h"
-#include "core/TLXLists.h"
 #include "core/TLXModule.h"
 
 #include <QScopedValueRollback>

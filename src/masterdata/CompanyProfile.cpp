@@ -1,7 +1,7 @@
 #include "masterdata/CompanyProfile.h"
 
 #include "core/App.h"
-#include "core/TLXLists.h"
+#include "core/TLXModule.h"
 
 using namespace Qt::StringLiterals;
 

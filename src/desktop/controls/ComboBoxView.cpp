@@ -1,6 +1,5 @@
 #include "desktop/controls/ComboBoxView.h"
 
-#include "core/TLXLists.h"
 #include "desktop/controls/ControlBinding.h"
 #include "desktop/controls/Letters.h"
 #include "desktop/controls/OneLinePaste.h"
@@ -160,7 +159,7 @@ bool ComboBoxView::CompletionKey(QKeyEvent *event) {
     const bool completes = !completion.isEmpty() && completion != combo_.Text();
     completer()->popup()->hide();
     if (completes) {
-        TLXModule::IndexOf(combo_, completion);
+        combo_.SetListIndex(combo_.FindText(completion));
     }
     // The Return that completes does not save as well.
     if (isTab || !completes) {

@@ -19,8 +19,7 @@ public:
         widget.installEventFilter(this);
         connect(&control, &Control::HintChanged, this, [this] {
             ShowHint();
-            widget_.setAccessibleDescription(
-                (control_.Complaint() + u' ' + control_.Hint()).trimmed());
+            widget_.setAccessibleDescription(control_.Hint());
         });
     }
 

@@ -13,6 +13,14 @@ constexpr QMargins margins(6, 1, 6, 2);
 HintView::HintView(QWidget &field) : QWidget(field.window()), field_(field) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     connect(&field, &QObject::destroyed, this, &QObject::deleteLater);
+    field.parentWidget()->installEventFilter(this);
+}
+
+bool HintView::eventFilter(QObject * /*watched*/, QEvent *event) {
+    if (event->type() == QEvent::LayoutRequest && isVisible()) {
+        setGeometry(Place());
+    }
+    return false;
 }
 
 void HintView::Tell(const QString &hint) {

@@ -13,6 +13,9 @@ public:
     /// Empty for none.
     void Tell(const QString &hint);
 
+    /// Moves the hint when what lies around the field has changed.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 protected:
     void paintEvent(QPaintEvent *event) override;
 

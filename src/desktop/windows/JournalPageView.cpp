@@ -28,6 +28,7 @@ JournalPageView::JournalPageView(MainWindow &window, const UserLocale &locale, Q
     AddEntryRow(window.entryRow, locale);
     AddButtons(window.entryRow);
     AddErrorBar(window.entryRow);
+    DescribeErrors(window.entryRow);
     AddCashList(window);
     AddSelectors(window);
     AddBalances(window);
@@ -75,6 +76,21 @@ void JournalPageView::AddErrorBar(EntryRow &row) {
     SetTextColour(*message, 0xffffffff);
     bar->Add(message, {13, 0, 448, 18});
     Add(bar, {141, 135, 471, 20});
+}
+
+void JournalPageView::DescribeErrors(EntryRow &row) {
+    for (const Control *each : std::initializer_list<Control *>{
+             &row.DateField, &row.InputField, &row.OutputField, &row.pickLists.TaxCombo,
+             &row.pickLists.CategoryCombo, &row.SaleNumberField, &row.NoteField, &row.SubmitButton,
+             &row.ChangeButton, &row.CancelButton}) {
+        auto *field = findChild<QWidget *>(each->objectName());
+        const auto describe = [each, field, &row] {
+            field->setAccessibleDescription(
+                (row.ErrorLabel.Text() + u' ' + each->Hint()).trimmed());
+        };
+        connect(&row.ErrorLabel, &Label::Updated, field, describe);
+        connect(each, &Control::HintChanged, field, describe);
+    }
 }
 
 void JournalPageView::AddSelectors(MainWindow &window) {

@@ -19,6 +19,8 @@ private:
     QWidget *AddAmountField(TextField &field, const QRect &place);
     void AddButtons(EntryRow &row);
     void AddErrorBar(EntryRow &row);
+    /// Has assistive tools read the error text of the row with each of its fields.
+    void DescribeErrors(EntryRow &row);
     void AddSelectors(MainWindow &window);
     void AddCashList(MainWindow &window);
     void AddBalances(MainWindow &window);

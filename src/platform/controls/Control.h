@@ -3,6 +3,8 @@
 #include <QObject>
 #include <QString>
 
+#include <utility>
+
 /// What every control has: a name, whether it shows and can be used, and the keyboard focus.
 ///
 /// A control holds state and fires events, and has nothing to draw with: a view shows it and hands
@@ -14,17 +16,14 @@ public:
     explicit Control(const QString &name);
 
     bool Visible() const { return visible_; }
-    void SetVisible(bool visible);
+    void SetVisible(bool visible) { Assign(visible_, visible); }
     bool Enabled() const { return enabled_; }
-    void SetEnabled(bool enabled);
+    void SetEnabled(bool enabled) { Assign(enabled_, enabled); }
 
     /// What there is to say about what was typed, though nothing of it is refused; empty when all
     /// is well. The view shows it below the field while that has the focus.
     QString Hint() const { return hint_; }
-    void SetHint(const QString &hint) { Say(hint_, hint); }
-    /// What has to be mended first, as a message says it; for those who can't see that.
-    QString Complaint() const { return complaint_; }
-    void SetComplaint(const QString &complaint) { Say(complaint_, complaint); }
+    void SetHint(const QString &hint);
 
     /// Asks for the keyboard focus, which only a control that shows can take. The control that
     /// loses it gets LostFocus.
@@ -35,16 +34,24 @@ Q_SIGNALS:
     void LostFocus();
     /// For the view: what it shows has changed. Comes before the event of the control itself.
     void Updated();
-    /// For the view: the hint or the complaint is another.
+    /// For the view: the hint is another.
     void HintChanged();
     /// For the view: give the control the keyboard focus.
     void FocusRequested();
 
-private:
-    void Say(QString &place, const QString &text);
+protected:
+    /// Sets a member that the view shows and emits Updated if it differs; true if it did.
+    template <typename Value>
+    bool Assign(Value &member, const Value &value) {
+        if (std::exchange(member, value) == value) {
+            return false;
+        }
+        Q_EMIT Updated();
+        return true;
+    }
 
+private:
     bool visible_ = true;
     bool enabled_ = true;
     QString hint_;
-    QString complaint_;
 };

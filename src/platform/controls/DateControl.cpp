@@ -53,9 +53,6 @@ bool DateControl::Take(QDate day) {
     }
     refused_ = false;
     SetHint({});
-    if (day != day_) {
-        day_ = day;
-        Q_EMIT Updated();
-    }
+    Assign(day_, day);
     return true;
 }

@@ -11,7 +11,7 @@ public:
 
     /// The shown page, from 0.
     int Value() const { return value_; }
-    void SetValue(int page);
+    void SetValue(int page) { Assign(value_, page); }
 
 private:
     int value_ = 0;

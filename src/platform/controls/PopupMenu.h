@@ -9,7 +9,11 @@ class PopupMenu : public SelectionControl {
 public:
     explicit PopupMenu(const QString &name) : SelectionControl(name) {}
 
-    void SetListIndex(int index) override;
+    void SetListIndex(int index) override {
+        if (Assign(listIndex_, ValidIndex(index))) {
+            Q_EMIT Change();
+        }
+    }
     /// The selected row's text, empty without a selection.
     QString Text() const override { return List(ListIndex()); }
 

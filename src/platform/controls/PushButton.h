@@ -10,13 +10,18 @@ public:
     /// The default button also takes Return, the cancel button Escape, each while it shows.
     enum class Role { Plain, Default, Cancel };
 
-    PushButton(const QString &name, const QString &caption, Role role = Role::Plain);
+    PushButton(const QString &name, const QString &caption, Role role = Role::Plain)
+        : Control(name), caption_(caption), role_(role) {}
 
     QString Caption() const { return caption_; }
     Role Kind() const { return role_; }
 
     /// A click; nothing happens while the button is hidden or disabled.
-    void Press();
+    void Press() {
+        if (Visible() && Enabled()) {
+            Q_EMIT Action();
+        }
+    }
 
 Q_SIGNALS:
     void Action();

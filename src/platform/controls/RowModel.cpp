@@ -1,5 +1,9 @@
 #include "platform/controls/RowModel.h"
 
+#include "platform/values/Text.h"
+
+#include <algorithm>
+
 QString RowModel::Text(int row) const {
     return Has(row) ? rows_[static_cast<size_t>(row)].text : QString();
 }
@@ -24,6 +28,13 @@ void RowModel::SetRows(std::vector<Row> rows) {
     beginResetModel();
     rows_ = std::move(rows);
     endResetModel();
+}
+
+int RowModel::Find(QString Row::*field, const QString &text) const {
+    const auto found = std::find_if(rows_.begin(), rows_.end(), [field, &text](const Row &row) {
+        return SameText(row.*field, text);
+    });
+    return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
 }
 
 int RowModel::rowCount(const QModelIndex &parent) const {

@@ -23,6 +23,9 @@ public:
     void Append(const QString &text);
     /// Puts these in the place of all rows, in one change for the view.
     void SetRows(std::vector<Row> rows);
+    /// Returns the first row whose text or tag equals this one, without regard to case; -1 if there
+    /// is none.
+    int Find(QString Row::*field, const QString &text) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;

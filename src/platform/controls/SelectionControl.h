@@ -26,6 +26,10 @@ public:
     QString RowTag(int row) const { return rows_.Tag(row); }
     void SetRowTag(int row, const QString &tag) { rows_.SetTag(row, tag); }
 
+    /// Both return the first such row, compared without regard to case; -1 if there is none.
+    int FindText(const QString &text) const { return rows_.Find(&Row::text, text); }
+    int FindTag(const QString &tag) const { return rows_.Find(&Row::tag, tag); }
+
     virtual QString Text() const = 0;
 
     /// The rows, for the view.

@@ -6,11 +6,3 @@ ToolItem::ToolItem(const Properties &properties)
       word_(properties.word.toString()) {
     SetEnabled(properties.enabled);
 }
-
-void ToolItem::SetCaption(const QString &caption) {
-    if (caption == caption_) {
-        return;
-    }
-    caption_ = caption;
-    Q_EMIT Updated();
-}

@@ -23,7 +23,7 @@ public:
 
     Style ItemStyle() const { return style_; }
     QString Caption() const { return caption_; }
-    void SetCaption(const QString &caption);
+    void SetCaption(const QString &caption) { Assign(caption_, caption); }
     /// The file name of its picture among the program's resources.
     QString Icon() const { return icon_; }
     QString Word() const { return word_; }

@@ -109,6 +109,7 @@ TEST_F(JournalPageTest, HintsBelowTheFieldWithTheFocusAndBesideNothingElse) {
     Type(u"\r"_s);
     EXPECT_EQ(input.accessibleDescription(), u"Bitte Art der Einnahme/Ausgabe auswählen! wird als 12,35 gelesen"_s);
     const auto &bar = Find<QWidget>(u"ErrorRect"_s);
+    QCoreApplication::processEvents();
     EXPECT_EQ(hint.y(), bar.mapTo(&view, QPoint(0, bar.height())).y()) << "the message stays readable";
     QTest::mouseClick(view.windowHandle(), Qt::LeftButton, {}, hint.geometry().center());
     EXPECT_EQ(bookings.ListIndex(), 0) << "the click goes through";
