@@ -10,8 +10,8 @@
 #include "core/App.h"
 #include "desktop/QtDesktop.h"
 #include "desktop/ZolmarkApplication.h"
-#include "desktop/controls/CalendarPopup.h"
-#include "desktop/printing/PrintJob.h"
+#include "desktop/drawing/PrintJob.h"
+#include "desktop/fields/CalendarPopup.h"
 #include "desktop/windows/MainWindowView.h"
 #include "desktop/windows/WelcomeWindowView.h"
 #include "setup/WelcomeWindow.h"
@@ -195,9 +195,9 @@ void TakeAll(App &app, const Album &album, WelcomeWindow &welcome) {
     }
     welcome.CreateDemoDatabase();
     MainWindow window(app);
-    MainWindowView view(window, app);
+    MainWindowView view(window, app.Locale(), app.Resources());
     window.Event_Open();
-    view.resize(MainWindowView::designSize.width(), heightWithFewBookings);
+    view.resize(view.sizeHint().width(), heightWithFewBookings);
     view.show();
     album.Add(u"journal.png"_s, view);
     TakeEntry(album, window.entryRow, view);

@@ -28,8 +28,8 @@ void App::UseFile(SQLiteDatabase &database, const FolderItem &file) {
     database.SetEncryptionKey(FixedKey());
 }
 
-FolderItem App::Resource(const QString &name) const {
-    return desktop_.ExecutableFile().Parent().Parent().Child(u"Resources"_s).Child(name);
+FolderItem App::Resources() const {
+    return desktop_.ExecutableFile().Parent().Parent().Child(u"Resources"_s);
 }
 
 bool App::DBLoad() {

@@ -23,11 +23,11 @@ public:
     FolderItem DefaultDatabaseFile() const;
     /// Gives a database a file and the key of every book.
     static void UseFile(SQLiteDatabase &database, const FolderItem &file);
-    /// A picture or the manual, in the folder Resources beside the program's own folder.
-    FolderItem Resource(const QString &name) const;
+    /// The folder of the pictures and the manual: Resources beside the program's own folder.
+    FolderItem Resources() const;
 
     /// Opens the manual in the user's viewer.
-    void LaunchManual() const { desktop_.Launch(Resource(QStringLiteral("Zolmark.pdf"))); }
+    void LaunchManual() const { desktop_.Launch(Resources().Child(QStringLiteral("Zolmark.pdf"))); }
 
     /// Prepares the default file with its key; false when there is no such file. Opens nothing.
     [[nodiscard]] bool DBLoad();

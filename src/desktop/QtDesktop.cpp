@@ -1,6 +1,6 @@
 #include "desktop/QtDesktop.h"
 
-#include "desktop/printing/PrintJob.h"
+#include "desktop/drawing/PrintJob.h"
 #include "platform/controls/MenuItem.h"
 #include "platform/outside/SaveAsDialog.h"
 #include "platform/values/Text.h"

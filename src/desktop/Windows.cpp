@@ -13,6 +13,14 @@ Windows::~Windows() = default;
 void Windows::Open() {
     welcomeWindow_ = std::make_unique<WelcomeWindow>(app_);
     connect(welcomeWindow_.get(), &WelcomeWindow::MainWindowWanted, this, &Windows::ShowMainWindow);
+    // Queued: the welcome window emits the signal and is in use until it returns.
+    connect(
+        welcomeWindow_.get(), &WelcomeWindow::Closed, this,
+        [this] {
+            welcomeView_.reset();
+            welcomeWindow_.reset();
+        },
+        Qt::QueuedConnection);
     welcomeWindow_->Event_Open();
     if (!mainWindow_) {
         connect(&menuBar_.FileMenu().Child(u"AboutItem"), &MenuItem::Action, welcomeWindow_.get(),
@@ -24,12 +32,8 @@ void Windows::Open() {
 }
 
 void Windows::ShowMainWindow() {
-    if (mainWindow_) {
-        mainView_->show();
-        return;
-    }
     mainWindow_ = std::make_unique<MainWindow>(app_);
-    mainView_ = std::make_unique<MainWindowView>(*mainWindow_, app_);
+    mainView_ = std::make_unique<MainWindowView>(*mainWindow_, app_.Locale(), app_.Resources());
     mainWindow_->Event_Open();
     mainView_->show();
 }

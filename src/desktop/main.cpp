@@ -42,7 +42,7 @@ void TellWithoutDisplay(QtMsgType type, const QMessageLogContext &context, const
 int Run(ZolmarkApplication &application, QtDesktop &desktop) {
     App app(desktop, UserLocale(QLocale::system()));
     QLocale::setDefault(app.Locale().Locale());
-    QApplication::setWindowIcon(QIcon(app.Resource(QStringLiteral("zolmark.png")).Path()));
+    QApplication::setWindowIcon(QIcon(app.Resources().Child(QStringLiteral("zolmark.png")).Path()));
     const TerminationSignals endOfSession;
     QObject::connect(&endOfSession, &TerminationSignals::Raised, &application,
                      &ZolmarkApplication::End);

@@ -43,7 +43,7 @@ WelcomeWindow::WelcomeWindow(App &app)
     CurrencyPopup.SetListIndex(0);
     OpeningDate_Open();
     auto greeting = std::make_unique<Picture>(0, 0);
-    greeting->DrawPicture(app_.Resource(u"welcome_image.png"_s), 0, 0);
+    greeting->DrawPicture(app_.Resources().Child(u"welcome_image.png"_s), 0, 0);
     Canvas1.SetBackdrop(std::move(greeting));
     ConnectEvents();
 }
@@ -66,9 +66,10 @@ void WelcomeWindow::ConnectEvents() {
 }
 
 void WelcomeWindow::DrawPicture(Canvas &canvas, const QString &name) {
-    connect(&canvas, &Canvas::Paint, this, [file = app_.Resource(name)](Graphics &graphics) {
-        graphics.DrawPicture(file, pictureLeft, pictureTop);
-    });
+    connect(&canvas, &Canvas::Paint, this,
+            [file = app_.Resources().Child(name)](Graphics &graphics) {
+                graphics.DrawPicture(file, pictureLeft, pictureTop);
+            });
 }
 
 void WelcomeWindow::Event_Open() {

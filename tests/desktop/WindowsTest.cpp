@@ -44,7 +44,10 @@ TEST_F(FirstStartTest, LeadsByTheKeysToABookOfOnesOwn) {
     EXPECT_TRUE(Press(Qt::Key_Return, pressReturn).contains(u"Bitte geben Sie einen Firmannamen an"_s));
     Type(u"Peter's\r\x1b\r{Down}"_s); // Escape leads back, and Return on again.
     EXPECT_FALSE(Press(Qt::Key_Return, pressReturn).isEmpty()) << "for the apostrophe";
+    const QPointer<QWidget> welcome = Shown(u"WelcomeWindow"_s);
     Type(u"\x1b\b\b\r\r"_s);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(welcome) << "it is released";
     EXPECT_TRUE(Shown(u"MainWindow"_s) && !Shown(u"WelcomeWindow"_s));
     EXPECT_TRUE(app.DefaultDatabaseFile().Delete());
 }
@@ -53,10 +56,7 @@ TEST(Windows, OpenTheMainWindowAtOnceOnABookInItsPlace) {
     Book book(Book::Place::File);
     Windows windows(book.app);
     windows.Open();
-    const QWidget *window = Shown(u"MainWindow"_s);
-    EXPECT_TRUE(window && !Shown(u"WelcomeWindow"_s));
-    windows.Open();
-    EXPECT_EQ(Shown(u"MainWindow"_s), window) << "there is one of each kind";
+    EXPECT_TRUE(Shown(u"MainWindow"_s) && !Shown(u"WelcomeWindow"_s));
 }
 
 TEST(WelcomeWindowView, ShowsThePointedButtonAndOpensTheManualByKeys) {

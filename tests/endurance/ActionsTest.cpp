@@ -181,7 +181,7 @@ private:
     Book book{Book::Place::File};
     MainWindow window{book.app};
     const Listbox &bookings = window.journal.CashList;
-    MainWindowView view{window, book.app};
+    MainWindowView view{window, book.app.Locale(), book.app.Resources()};
 };
 
 using Actions = Endurance;

@@ -58,5 +58,5 @@ protected:
         QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, place);
     }
 
-    MainWindowView view{window, book.app};
+    MainWindowView view{window, book.app.Locale(), book.app.Resources()};
 };

@@ -1,7 +1,5 @@
 #include "desktop/windows/EditActions.h"
 
-#include "desktop/controls/OneLinePaste.h"
-
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -40,7 +38,7 @@ const StandardEdit standardEdits[] = {
     {u"EditUndo", CanUndo, [](QLineEdit &field) { field.undo(); }},
     {u"EditCut", HasSelection, [](QLineEdit &field) { field.cut(); }},
     {u"EditCopy", HasSelection, [](QLineEdit &field) { field.copy(); }},
-    {u"EditPaste", CanPaste, PasteAsOneLine},
+    {u"EditPaste", CanPaste, [](QLineEdit &field) { field.paste(); }},
     {u"EditClear", HasSelection, [](QLineEdit &field) { field.del(); }},
     {u"EditSelectAll", HasText, [](QLineEdit &field) { field.selectAll(); }},
 };

@@ -1,27 +1,35 @@
 #pragma once
 
-#include "desktop/windows/Sheet.h"
+#include "desktop/windows/Form.h"
 
+class Balances;
 class EntryRow;
-class MainWindow;
+class Journal;
+class Selectors;
 class TextField;
 class UserLocale;
 
 /// The journal page: selectors, entry row, list of bookings, balances.
-class JournalPageView : public Sheet {
+class JournalPageView : public Form {
     Q_OBJECT
 
 public:
-    JournalPageView(MainWindow &window, const UserLocale &locale, QWidget *parent);
+    struct Parts {
+        Selectors &selectors;
+        EntryRow &entryRow;
+        Journal &journal;
+        Balances &balances;
+    };
+    JournalPageView(const Parts &parts, const UserLocale &locale, QWidget *parent);
 
 private:
     void AddEntryRow(EntryRow &row, const UserLocale &locale);
-    QWidget *AddAmountField(TextField &field, const QRect &place);
+    QWidget *AddAmountField(TextField &field, const QRect &rect);
     void AddButtons(EntryRow &row);
     void AddErrorBar(EntryRow &row);
-    /// Has assistive tools read the error text of the row with each of its fields.
+    /// Makes assistive tools read the error text of the row with each of its fields.
     void DescribeErrors(EntryRow &row);
-    void AddSelectors(MainWindow &window);
-    void AddCashList(MainWindow &window);
-    void AddBalances(MainWindow &window);
+    void AddCashList(Journal &journal);
+    void AddSelectors(Selectors &selectors);
+    void AddBalances(Balances &balances);
 };

@@ -2,30 +2,28 @@
 
 #include <QMainWindow>
 
-class App;
+class FolderItem;
 class MainWindow;
-class PagePanelView;
+class QStackedWidget;
+class UserLocale;
 
 /// The main window on the desktop.
 class MainWindowView : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// The size of its pages, in points, at which every control has its design place.
-    static constexpr QSize designSize{1080, 770};
-
-    /// The application gives the locale and the pictures.
-    MainWindowView(MainWindow &window, const App &app);
+    /// The icons of the tool bar are in the folder.
+    MainWindowView(MainWindow &window, const UserLocale &locale, const FolderItem &icons);
 
 protected:
-    /// The desktop may get another font.
+    /// Follows a change of the desktop's font.
     bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    /// Gives the pages the desktop's font and the window the size that goes with it.
-    void Grow();
+    /// Sets the desktop's font on the pages and enlarges the window to their size.
+    void FitToFont();
 
     MainWindow &window_;
-    PagePanelView *pages_;
+    QStackedWidget *pages_;
 };

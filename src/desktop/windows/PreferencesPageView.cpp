@@ -1,83 +1,90 @@
 #include "desktop/windows/PreferencesPageView.h"
 
-#include "desktop/controls/CanvasView.h"
-#include "desktop/controls/ComboBoxView.h"
-#include "desktop/controls/ListboxView.h"
-#include "desktop/controls/TextFieldView.h"
-#include "desktop/windows/MainWindowView.h"
-#include "shell/MainWindow.h"
+#include "desktop/drawing/CanvasView.h"
+#include "desktop/fields/ComboBoxView.h"
+#include "desktop/fields/Fields.h"
+#include "desktop/lists/ListboxView.h"
+#include "masterdata/BookingAccounts.h"
+#include "masterdata/CashBooks.h"
+#include "masterdata/CompanyProfile.h"
 
 #include <QLabel>
+#include <QLineEdit>
 
 using namespace Qt::StringLiterals;
 
-PreferencesPageView::PreferencesPageView(MainWindow &window, QWidget *parent)
-    : Sheet(MainWindowView::designSize, parent) {
+namespace {
+
+constexpr QSize designSize{1080, 770};
+
+} // namespace
+
+PreferencesPageView::PreferencesPageView(const Parts &parts, QWidget *parent)
+    : Form(designSize, parent) {
     // In the order of the Tab key.
-    AddCompany(window.companyProfile);
-    AddContact(window.companyProfile);
-    AddLists(window);
+    AddCompany(parts.companyProfile);
+    AddContact(parts.companyProfile);
+    AddLists(parts);
 }
 
-QLabel *PreferencesPageView::AddCaptionOf(int index, const QString &text, const QPoint &place) {
-    return AddText(u"Prefs(%1)"_s.arg(index), text, {place, QSize(110, 20)}, Qt::AlignRight);
+QLabel *PreferencesPageView::AddCaption(int index, const QString &text, const QPoint &position) {
+    return AddText(u"Prefs(%1)"_s.arg(index), text, {position, QSize(110, 20)}, Qt::AlignRight);
 }
 
-QWidget *PreferencesPageView::AddField(TextField &field, const QRect &place, Qt::Edges locks) {
-    return Add(new TextFieldView(field, this), place, locks);
+QWidget *PreferencesPageView::AddField(TextField &field, const QRect &rect, Qt::Edges locks) {
+    return Add(CreateTextField(field, this), rect, locks);
 }
 
 void PreferencesPageView::AddCompany(CompanyProfile &profile) {
-    AddCaptionOf(13, u"Firma:"_s, {66, 57})
+    AddCaption(13, u"Firma:"_s, {66, 57})
         ->setBuddy(AddField(profile.CompanyField, {188, 57, 300, 22}));
-    AddCaptionOf(12, u"Zusatz:"_s, {66, 87})
+    AddCaption(12, u"Zusatz:"_s, {66, 87})
         ->setBuddy(AddField(profile.DepartmentField, {188, 87, 300, 22}));
-    AddCaptionOf(11, u"Vorname:"_s, {66, 117})
+    AddCaption(11, u"Vorname:"_s, {66, 117})
         ->setBuddy(AddField(profile.FirstnameField, {188, 117, 300, 22}));
-    AddCaptionOf(10, u"Nachname:"_s, {66, 148})
+    AddCaption(10, u"Nachname:"_s, {66, 148})
         ->setBuddy(AddField(profile.LastnameField, {188, 148, 300, 22}));
-    AddCaptionOf(9, u"Strasse:"_s, {66, 180})
+    AddCaption(9, u"Strasse:"_s, {66, 180})
         ->setBuddy(AddField(profile.StreetField, {188, 180, 300, 22}));
-    AddCaptionOf(8, u"Plz, Ort:"_s, {66, 212})
-        ->setBuddy(
-            AddNamed(u"Plz"_s, new TextFieldView(profile.ZipField, this), {188, 212, 51, 22}));
-    AddNamed(u"Ort"_s, new TextFieldView(profile.CityField, this), {247, 212, 241, 22});
+    AddCaption(8, u"Plz, Ort:"_s, {66, 212})
+        ->setBuddy(AddNamed(u"Plz"_s, CreateTextField(profile.ZipField, this), {188, 212, 51, 22}));
+    AddNamed(u"Ort"_s, CreateTextField(profile.CityField, this), {247, 212, 241, 22});
     // The country and its caption, Prefs(7), do not show.
     Add(new ComboBoxView(profile.CountryCombo, this), {188, 246, 300, 20});
 }
 
 void PreferencesPageView::AddContact(CompanyProfile &profile) {
-    AddCaptionOf(6, u"Telefon:"_s, {521, 57})
+    AddCaption(6, u"Telefon:"_s, {521, 57})
         ->setBuddy(AddField(profile.PhoneField, {643, 57, 300, 22}, LTR));
-    AddCaptionOf(5, u"Fax:"_s, {521, 87})
+    AddCaption(5, u"Fax:"_s, {521, 87})
         ->setBuddy(AddField(profile.FaxField, {643, 87, 300, 22}, LTR));
-    AddCaptionOf(4, u"E-Mail:"_s, {521, 117})
+    AddCaption(4, u"E-Mail:"_s, {521, 117})
         ->setBuddy(AddField(profile.EMailField, {643, 117, 300, 22}, LTR));
-    AddCaptionOf(3, u"Homepage:"_s, {521, 148})
+    AddCaption(3, u"Homepage:"_s, {521, 148})
         ->setBuddy(AddField(profile.HomepageField, {643, 148, 300, 22}, LTR));
-    AddCaptionOf(2, u"Ust. Nr.:"_s, {521, 180})
+    AddCaption(2, u"Ust. Nr.:"_s, {521, 180})
         ->setBuddy(AddField(profile.UIDField, {643, 180, 300, 22}, LTR));
-    AddCaptionOf(0, u"Kontenrahmen:"_s, {521, 246})
+    AddCaption(0, u"Kontenrahmen:"_s, {521, 246})
         ->setBuddy(Add(new ComboBoxView(profile.AccountFrameCombo, this), {643, 246, 95, 20}));
 }
 
-void PreferencesPageView::AddLists(MainWindow &window) {
-    CashBooks &books = window.cashBooks;
-    ListboxView &bookList = *ListWithKeys(books.CashbookList, books.CashBookAdd);
-    bookList.SetColumnWidths({110, 42, 0, 82});
-    AddNamed(u"Kassen"_s, &bookList, {20, 353, 329, 340}, LTB);
-    BookingAccounts &accounts = window.bookingAccounts;
-    ListboxView &accountList = *ListWithKeys(accounts.CashaccountList, accounts.AccountsAdd);
+void PreferencesPageView::AddLists(const Parts &parts) {
+    CashBooks &cashBooks = parts.cashBooks;
+    ListboxView &cashBookList = *CreateList(cashBooks.CashbookList, cashBooks.CashBookAdd);
+    cashBookList.SetColumnWidths({110, 42, 0, 82});
+    AddNamed(u"Kassen"_s, &cashBookList, {20, 353, 329, 340}, LTB);
+    BookingAccounts &accounts = parts.bookingAccounts;
+    ListboxView &accountList = *CreateList(accounts.CashaccountList, accounts.AccountsAdd);
     accountList.SetColumnWidths({0, 100, 50, 50});
     AddNamed(u"Buchungskonten"_s, &accountList, {361, 353, 699, 340}, LTRB);
-    AddCaptionOf(1, u"Währung:"_s, {521, 212})
+    AddCaption(1, u"Währung:"_s, {521, 212})
         ->setBuddy(
-            Add(new ComboBoxView(window.companyProfile.CurrencyCombo, this), {643, 212, 95, 20}));
-    AddPlusMinus(books.CashBookAdd, u"Kasse"_s, {20, 697, 60, 29});
+            Add(new ComboBoxView(parts.companyProfile.CurrencyCombo, this), {643, 212, 95, 20}));
+    AddPlusMinus(cashBooks.CashBookAdd, u"Kasse"_s, {20, 697, 60, 29});
     AddPlusMinus(accounts.AccountsAdd, u"Buchungskonto"_s, {361, 697, 60, 29});
 }
 
-ListboxView *PreferencesPageView::ListWithKeys(Listbox &list, TLXPlusMinusButton &button) {
+ListboxView *PreferencesPageView::CreateList(Listbox &list, TLXPlusMinusButton &button) {
     auto *view = new ListboxView(list, this);
     connect(view, &ListboxView::AddWanted, &button, &TLXPlusMinusButton::PlusPressed);
     connect(view, &ListboxView::RemoveWanted, &button, &TLXPlusMinusButton::MinusPressed);
@@ -85,11 +92,11 @@ ListboxView *PreferencesPageView::ListWithKeys(Listbox &list, TLXPlusMinusButton
 }
 
 void PreferencesPageView::AddPlusMinus(TLXPlusMinusButton &button, const QString &what,
-                                       const QRect &place) {
+                                       const QRect &rect) {
     auto *view = new CanvasView(button, this);
-    const int side = place.height();
+    const int side = rect.height();
     view->AddButton(what + u" hinzufügen"_s, {0, 0, side, side});
     view->AddButton(what + u" entfernen"_s, {side + 1, 0, side, side});
     view->setToolTip(u"Hinzufügen (Einfg) oder entfernen (Entf)"_s);
-    Add(view, place, LB);
+    Add(view, rect, LB);
 }

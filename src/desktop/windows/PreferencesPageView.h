@@ -1,28 +1,34 @@
 #pragma once
 
-#include "desktop/windows/Sheet.h"
+#include "desktop/windows/Form.h"
 
+class BookingAccounts;
+class CashBooks;
 class CompanyProfile;
 class Listbox;
 class ListboxView;
-class MainWindow;
 class TLXPlusMinusButton;
 class TextField;
 
 /// The preferences page: company, cash books, booking accounts.
-class PreferencesPageView : public Sheet {
+class PreferencesPageView : public Form {
     Q_OBJECT
 
 public:
-    PreferencesPageView(MainWindow &window, QWidget *parent);
+    struct Parts {
+        CompanyProfile &companyProfile;
+        CashBooks &cashBooks;
+        BookingAccounts &bookingAccounts;
+    };
+    PreferencesPageView(const Parts &parts, QWidget *parent);
 
 private:
     void AddCompany(CompanyProfile &profile);
     void AddContact(CompanyProfile &profile);
-    void AddLists(MainWindow &window);
-    /// The view of a list in which the keys Insert and Delete do what the button does.
-    ListboxView *ListWithKeys(Listbox &list, TLXPlusMinusButton &button);
-    void AddPlusMinus(TLXPlusMinusButton &button, const QString &what, const QRect &place);
-    QWidget *AddField(TextField &field, const QRect &place, Qt::Edges locks = LT);
-    QLabel *AddCaptionOf(int index, const QString &text, const QPoint &place);
+    void AddLists(const Parts &parts);
+    /// Returns the view of a list in which the keys Insert and Delete do what the button does.
+    ListboxView *CreateList(Listbox &list, TLXPlusMinusButton &button);
+    void AddPlusMinus(TLXPlusMinusButton &button, const QString &what, const QRect &rect);
+    QWidget *AddField(TextField &field, const QRect &rect, Qt::Edges locks = LT);
+    QLabel *AddCaption(int index, const QString &text, const QPoint &position);
 };

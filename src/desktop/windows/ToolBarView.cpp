@@ -1,5 +1,6 @@
 #include "desktop/windows/ToolBarView.h"
 
+#include "platform/outside/FolderItem.h"
 #include "shell/MainToolbar.h"
 
 #include <QAction>
@@ -15,7 +16,7 @@ constexpr int widthOfSpace = 16;
 
 } // namespace
 
-ToolBarView::ToolBarView(const MainToolbar &bar, const IconPath &icon, QWidget *parent)
+ToolBarView::ToolBarView(const MainToolbar &bar, const FolderItem &icons, QWidget *parent)
     : QToolBar(parent) {
     setObjectName(u"MainWindowToolbar"_s);
     setAccessibleName(u"Symbolleiste"_s);
@@ -27,7 +28,7 @@ ToolBarView::ToolBarView(const MainToolbar &bar, const IconPath &icon, QWidget *
         ToolItem &item = bar.Item(place);
         switch (item.ItemStyle()) {
         case ToolItem::Style::PushButton:
-            AddButton(item, icon);
+            AddButton(item, icons);
             break;
         case ToolItem::Style::Separator:
             addSeparator();
@@ -42,8 +43,8 @@ ToolBarView::ToolBarView(const MainToolbar &bar, const IconPath &icon, QWidget *
     }
 }
 
-void ToolBarView::AddButton(ToolItem &item, const IconPath &icon) {
-    QAction *action = addAction(QIcon(icon(item.Icon())), item.Caption());
+void ToolBarView::AddButton(ToolItem &item, const FolderItem &icons) {
+    QAction *action = addAction(QIcon(icons.Child(item.Icon()).Path()), item.Caption());
     action->setObjectName(item.objectName());
     auto *button = static_cast<QToolButton *>(widgetForAction(action));
     const auto show = [action, button, &item] {

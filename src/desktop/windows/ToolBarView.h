@@ -2,8 +2,7 @@
 
 #include <QToolBar>
 
-#include <functional>
-
+class FolderItem;
 class MainToolbar;
 class ToolItem;
 
@@ -14,14 +13,13 @@ class ToolBarView : public QToolBar {
     Q_OBJECT
 
 public:
-    /// Gives the path of a picture by its file name.
-    using IconPath = std::function<QString(const QString &name)>;
-    ToolBarView(const MainToolbar &bar, const IconPath &icon, QWidget *parent);
+    /// The icons are in the folder.
+    ToolBarView(const MainToolbar &bar, const FolderItem &icons, QWidget *parent);
 
     /// Return presses a button.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void AddButton(ToolItem &item, const IconPath &icon);
+    void AddButton(ToolItem &item, const FolderItem &icons);
     void AddSpace(QSizePolicy::Policy width);
 };

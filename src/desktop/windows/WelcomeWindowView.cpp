@@ -1,122 +1,123 @@
 #include "desktop/windows/WelcomeWindowView.h"
 
-#include "desktop/controls/AmountFieldView.h"
-#include "desktop/controls/CanvasButton.h"
-#include "desktop/controls/CanvasView.h"
-#include "desktop/controls/DateControlView.h"
-#include "desktop/controls/FocusRing.h"
-#include "desktop/controls/PagePanelView.h"
-#include "desktop/controls/PopupMenuView.h"
-#include "desktop/controls/TextFieldView.h"
-#include "desktop/windows/GivenColours.h"
+#include "desktop/drawing/CanvasButton.h"
+#include "desktop/drawing/CanvasView.h"
+#include "desktop/drawing/FocusRing.h"
+#include "desktop/fields/DateControlView.h"
+#include "desktop/fields/Fields.h"
+#include "desktop/look/LightPalette.h"
+#include "desktop/look/WindowPlacement.h"
 #include "desktop/windows/MenuBarView.h"
-#include "desktop/windows/Room.h"
+#include "desktop/windows/Pages.h"
 #include "setup/WelcomeWindow.h"
 
 #include <QEvent>
 #include <QLabel>
+#include <QLineEdit>
+#include <QStackedWidget>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr QSize designSize{810, 300};
-constexpr QRect placeOfPages{-1, -1, 566, 303};
-constexpr Sheet::Frame frameOfPages{0xffffffff, 0xffb3b3b3};
-constexpr Sheet::Frame frameOfTitle{0xfff1f1f1, 0xffcccccc};
+constexpr QRect pagesRect{-1, -1, 566, 303};
+constexpr Form::Frame pageFrame{0xffffffff, 0xffb3b3b3};
+constexpr Form::Frame titleFrame{0xfff1f1f1, 0xffcccccc};
 constexpr QRgb strongText = 0xff333333;
 constexpr QRgb softText = 0xff666666;
 
-/// A place of the window on a page.
+/// Converts a rectangle of the window to one of a page.
 QRect OnPage(int left, int top, int width, int height) {
-    return QRect(left, top, width, height).translated(-placeOfPages.topLeft());
+    return QRect(left, top, width, height).translated(-pagesRect.topLeft());
 }
 
-void AddExplanation(Sheet &page, const QString &name, const QString &text, const QRect &place) {
-    page.AddText(name, text, place, Qt::AlignTop)->setWordWrap(true);
+void AddExplanation(Form &page, const QString &name, const QString &text, const QRect &rect) {
+    page.AddText(name, text, rect, Qt::AlignTop)->setWordWrap(true);
 }
 
 } // namespace
 
 WelcomeWindowView::WelcomeWindowView(WelcomeWindow &window, MenuItem &menuBar,
                                      const UserLocale &locale)
-    : window_(window), sheet_(new Sheet(designSize, this)),
-      pages_(new PagePanelView(window.PagePanel1, sheet_)) {
+    : window_(window), form_(new Form(designSize, this)) {
     setObjectName(u"WelcomeWindow"_s);
     setWindowTitle(u"Willkommen"_s);
     setWindowFlags(Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                    Qt::WindowCloseButtonHint);
-    UseGivenColours(*this, 0xffffffff);
-    sheet_->Add(pages_, placeOfPages);
-    pages_->AddPage([this] { return Greeting(); });
-    pages_->AddPage([this] { return CompanyPage(); });
-    pages_->AddPage([this, &locale] { return CashBookPage(locale); });
+    UseLightPalette(*this, 0xffffffff);
+    form_->Add(
+        CreatePages(window.PagePanel1,
+                    {[this](QWidget *parent) { return Greeting(parent); },
+                     [this](QWidget *parent) { return CompanyPage(parent); },
+                     [this, &locale](QWidget *parent) { return CashBookPage(locale, parent); }},
+                    form_),
+        pagesRect);
     AddChoices();
     setMenuBar(new MenuBarView(menuBar, this));
-    setCentralWidget(sheet_);
-    DarkenFrames(*sheet_);
+    setCentralWidget(form_);
+    DarkenFrames(*form_);
     new FocusRing(*this);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
-    UseDesktopFont(*sheet_, designSize);
-    PutInTheMiddle(*this, sizeHint());
+    UseDesktopFont(*form_, designSize);
+    CenterOnScreen(*this, sizeHint());
     connect(&window, &WelcomeWindow::Closed, this, &QWidget::close);
 }
 
 bool WelcomeWindowView::event(QEvent *event) {
     if (event->type() == QEvent::ApplicationFontChange) {
-        UseDesktopFont(*sheet_, designSize);
+        UseDesktopFont(*form_, designSize);
     }
     return QMainWindow::event(event);
 }
 
-Sheet *WelcomeWindowView::NewPage(const QString &name) {
-    auto *page = new Sheet(placeOfPages.size(), pages_);
+Form *WelcomeWindowView::CreatePage(const QString &name, QWidget *parent) {
+    auto *page = new Form(pagesRect.size(), parent);
     page->setObjectName(name);
-    page->SetFrame(frameOfPages);
+    page->SetFrame(pageFrame);
     return page;
 }
 
-QWidget *WelcomeWindowView::Greeting() {
-    Sheet &page = *NewPage(u"Rectangle1"_s);
+QWidget *WelcomeWindowView::Greeting(QWidget *parent) {
+    Form &page = *CreatePage(u"Rectangle1"_s, parent);
     QLabel *welcome = page.AddText(u"Label1"_s, u"Willkomen bei Zolmark"_s, OnPage(27, 9, 510, 36),
                                    Qt::AlignHCenter);
-    SetTextColour(*page.SetLetters(welcome, 32, true), strongText);
+    SetTextColour(*page.SetTextFont(welcome, 32, true), strongText);
     QLabel *purpose = page.AddText(u"Label2"_s,
                                    u"Einnahmen und Ausgabenverwaltung für \n"
                                    "Selbstständige und Freiberufler"_s,
                                    OnPage(27, 54, 510, 45), Qt::AlignHCenter);
     purpose->setWordWrap(true);
-    SetTextColour(*page.SetLetters(purpose, 16), softText);
+    SetTextColour(*page.SetTextFont(purpose, 16), softText);
     page.AddNamed(u"Bild zur Begrüßung"_s, new CanvasView(window_.Canvas1, &page),
                   OnPage(31, 102, 513, 200));
     return &page;
 }
 
-QWidget *WelcomeWindowView::CompanyPage() {
-    Sheet &page = *NewPage(u"Rectangle2"_s);
-    auto *title = new Sheet({526, 41}, &page);
+QWidget *WelcomeWindowView::CompanyPage(QWidget *parent) {
+    Form &page = *CreatePage(u"Rectangle2"_s, parent);
+    auto *title = new Form({526, 41}, &page);
     title->setObjectName(u"Placard1"_s);
-    title->SetFrame(frameOfTitle);
-    title->SetLetters(
+    title->SetFrame(titleFrame);
+    title->SetTextFont(
         title->AddText(u"Label13"_s, u"Firmendaten erfassen"_s, {53, 8, 406, 24}, Qt::AlignHCenter),
         18);
     page.Add(title, OnPage(19, 15, 526, 41));
     // In the order of the Tab key.
     page.AddText(u"Label17"_s, u"Name:"_s, OnPage(39, 77, 82, 20), Qt::AlignRight)
         ->setBuddy(
-            page.Add(new TextFieldView(window_.CompanyField, &page), OnPage(136, 76, 300, 22)));
-    page.AddNamed(u"Name, zweite Zeile"_s, new TextFieldView(window_.DepartmendField, &page),
+            page.Add(CreateTextField(window_.CompanyField, &page), OnPage(136, 76, 300, 22)));
+    page.AddNamed(u"Name, zweite Zeile"_s, CreateTextField(window_.DepartmendField, &page),
                   OnPage(136, 106, 300, 22));
     page.AddText(u"Label3"_s, u"Strasse:"_s, OnPage(41, 138, 80, 20), Qt::AlignRight)
         ->setBuddy(
-            page.Add(new TextFieldView(window_.StreetField, &page), OnPage(136, 137, 300, 22)));
+            page.Add(CreateTextField(window_.StreetField, &page), OnPage(136, 137, 300, 22)));
     page.AddText(u"Label16"_s, u"Plz, Ort:"_s, OnPage(41, 170, 80, 20), Qt::AlignRight)
-        ->setBuddy(page.AddNamed(u"Plz"_s, new TextFieldView(window_.ZipField, &page),
+        ->setBuddy(page.AddNamed(u"Plz"_s, CreateTextField(window_.ZipField, &page),
                                  OnPage(136, 169, 51, 22)));
-    page.AddNamed(u"Ort"_s, new TextFieldView(window_.CityField, &page), OnPage(192, 169, 244, 22));
+    page.AddNamed(u"Ort"_s, CreateTextField(window_.CityField, &page), OnPage(192, 169, 244, 22));
     page.AddText(u"Label15"_s, u"Telefon:"_s, OnPage(39, 200, 82, 20), Qt::AlignRight)
-        ->setBuddy(
-            page.Add(new TextFieldView(window_.PhoneField, &page), OnPage(136, 200, 300, 22)));
+        ->setBuddy(page.Add(CreateTextField(window_.PhoneField, &page), OnPage(136, 200, 300, 22)));
     AddExplanation(page, u"Label14"_s,
                    u"Die Firmenangaben können unter dem Menüpunkt Einstellungen jederzeit "
                    "verändert werden."_s,
@@ -125,10 +126,10 @@ QWidget *WelcomeWindowView::CompanyPage() {
     return &page;
 }
 
-QWidget *WelcomeWindowView::CashBookPage(const UserLocale &locale) {
-    Sheet &page = *NewPage(u"Rectangle3"_s);
+QWidget *WelcomeWindowView::CashBookPage(const UserLocale &locale, QWidget *parent) {
+    Form &page = *CreatePage(u"Rectangle3"_s, parent);
     // In the order of the Tab key.
-    page.AddNamed(u"Kontorahmen"_s, new PopupMenuView(window_.AccountsPopup, &page),
+    page.AddNamed(u"Kontorahmen"_s, CreatePopupMenu(window_.AccountsPopup, &page),
                   OnPage(171, 19, 372, 20));
     AddExplanation(page, u"Label11"_s,
                    u"Wählen Sie den Kontorahmen den Sie in Ihrer Buchhaltung benutzen, oder "
@@ -136,9 +137,9 @@ QWidget *WelcomeWindowView::CashBookPage(const UserLocale &locale) {
                    "hinzufügen."_s,
                    OnPage(171, 48, 365, 53));
     page.AddText(u"Label20"_s, u"Kontobezeichnung:"_s, OnPage(40, 126, 120, 20), Qt::AlignRight)
-        ->setBuddy(page.Add(new TextFieldView(window_.AccountNameField, &page),
-                            OnPage(170, 125, 249, 22)));
-    auto *account = new TextFieldView(window_.AccountField, &page);
+        ->setBuddy(
+            page.Add(CreateTextField(window_.AccountNameField, &page), OnPage(170, 125, 249, 22)));
+    auto *account = CreateTextField(window_.AccountField, &page);
     account->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     page.AddText(u"Label6"_s, u"Konto:"_s, OnPage(433, 126, 45, 20), Qt::AlignRight)
         ->setBuddy(page.Add(account, OnPage(487, 125, 58, 22)));
@@ -148,11 +149,11 @@ QWidget *WelcomeWindowView::CashBookPage(const UserLocale &locale) {
     return &page;
 }
 
-void WelcomeWindowView::AddOpeningBalance(Sheet &page, const UserLocale &locale) {
+void WelcomeWindowView::AddOpeningBalance(Form &page, const UserLocale &locale) {
     page.AddText(u"Label19"_s, u"Eröffnungsbestand:"_s, OnPage(40, 156, 120, 20), Qt::AlignRight)
-        ->setBuddy(page.Add(new AmountFieldView(window_.OpeningBalanceField, &page),
+        ->setBuddy(page.Add(CreateAmountField(window_.OpeningBalanceField, &page),
                             OnPage(170, 155, 100, 22)));
-    page.AddNamed(u"Währung"_s, new PopupMenuView(window_.CurrencyPopup, &page),
+    page.AddNamed(u"Währung"_s, CreatePopupMenu(window_.CurrencyPopup, &page),
                   OnPage(282, 155, 80, 20));
     QLabel *caption = page.AddText(u"Label18"_s, u"Datum des Eröffnungsbestandes:"_s,
                                    OnPage(19, 180, 141, 60), Qt::AlignRight);
@@ -169,7 +170,7 @@ void WelcomeWindowView::AddChoices() {
               {0,
                {u"Label4"_s, u"Demo Datenbank"_s, 12},
                {u"Label9"_s, u"Testen Sie Zolmark mit einer Beispiel-Datenbank.\n"_s, 35}});
-    // Who only presses Return gets a new book.
+    // It has the focus: Return alone begins a new database.
     AddChoice(window_.NewCanvas,
               {100,
                {u"Label5"_s, u"Neue Datenbank"_s, 111},
@@ -183,21 +184,21 @@ void WelcomeWindowView::AddChoices() {
 }
 
 QWidget *WelcomeWindowView::AddChoice(TLXCanvasButton &canvas, const Choice &choice) {
-    const QRect place(565, choice.top, 245, 100);
-    auto *view = new CanvasView(canvas, sheet_);
-    sheet_->Add(view, place);
-    QAbstractButton *button = view->AddButton(choice.title.text, {{0, 0}, place.size()});
+    const QRect rect(565, choice.top, 245, 100);
+    auto *view = new CanvasView(canvas, form_);
+    form_->Add(view, rect);
+    QAbstractButton *button = view->AddButton(choice.title.text, {{0, 0}, rect.size()});
     button->setAccessibleDescription(choice.description.text.trimmed());
     const auto add = [this](const Text &text, int height) {
         QLabel *label =
-            sheet_->AddText(text.name, text.text, {640, text.top, 162, height}, Qt::AlignTop);
-        // The button below answers the mouse.
+            form_->AddText(text.name, text.text, {640, text.top, 162, height}, Qt::AlignTop);
+        // Mouse events go to the canvas below.
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
         label->setWordWrap(true);
         return label;
     };
-    sheet_->SetLetters(add(choice.title, 20), 0, true)->setBuddy(button);
+    form_->SetTextFont(add(choice.title, 20), 0, true)->setBuddy(button);
     QLabel *description = add(choice.description, choice.top + 99 - choice.description.top);
-    SetTextColour(*sheet_->SetLetters(description, 12), strongText);
+    SetTextColour(*form_->SetTextFont(description, 12), strongText);
     return button;
 }

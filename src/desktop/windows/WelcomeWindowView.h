@@ -1,11 +1,10 @@
 #pragma once
 
-#include "desktop/windows/Sheet.h"
+#include "desktop/windows/Form.h"
 
 #include <QMainWindow>
 
 class MenuItem;
-class PagePanelView;
 class TLXCanvasButton;
 class UserLocale;
 class WelcomeWindow;
@@ -18,7 +17,7 @@ public:
     WelcomeWindowView(WelcomeWindow &window, MenuItem &menuBar, const UserLocale &locale);
 
 protected:
-    /// The desktop may get another font.
+    /// Follows a change of the desktop's font.
     bool event(QEvent *event) override;
 
 private:
@@ -33,16 +32,15 @@ private:
         Text description;
     };
 
-    Sheet *NewPage(const QString &name);
-    QWidget *Greeting();
-    QWidget *CompanyPage();
-    QWidget *CashBookPage(const UserLocale &locale);
-    void AddOpeningBalance(Sheet &page, const UserLocale &locale);
+    static Form *CreatePage(const QString &name, QWidget *parent);
+    QWidget *Greeting(QWidget *parent);
+    QWidget *CompanyPage(QWidget *parent);
+    QWidget *CashBookPage(const UserLocale &locale, QWidget *parent);
+    void AddOpeningBalance(Form &page, const UserLocale &locale);
     void AddChoices();
-    /// Gives what of it the keys press.
+    /// Returns the button that gets the keyboard focus.
     QWidget *AddChoice(TLXCanvasButton &canvas, const Choice &choice);
 
     WelcomeWindow &window_;
-    Sheet *sheet_;
-    PagePanelView *pages_;
+    Form *form_;
 };

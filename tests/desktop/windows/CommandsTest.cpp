@@ -57,7 +57,7 @@ TEST_F(CommandsTest, AreRunByTheEntriesOfTheMenusAndTheToolBar) {
                           {u"FileExport"_s, u"export.txt"_s},
                           {u"FilePrint"_s, u"Kassenbericht"_s},
                           {u"PrintButton"_s, u"Kassenbericht"_s},
-                          {u"QuickReferenceItem"_s, book.app.Resource(u"Zolmark.pdf"_s).Path()},
+                          {u"QuickReferenceItem"_s, book.app.Resources().Child(u"Zolmark.pdf"_s).Path()},
                           {u"SupportItem"_s, homepage + u"service-support/"_s},
                           {u"HomepageItem"_s, homepage},
                           {u"NewSaleItem"_s, {}, u""_s},
@@ -155,7 +155,7 @@ TEST(MainWindowView, SavesWhatIsTypedHoweverTheProgramEnds) {
     for (const Case &each : cases) {
         Book book;
         MainWindow window(book.app);
-        MainWindowView view(window, book.app);
+        MainWindowView view(window, book.app.Locale(), book.app.Resources());
         window.Event_Open();
         view.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&view));

@@ -1,5 +1,5 @@
-#include "desktop/windows/LockLayout.h"
-#include "desktop/windows/Room.h"
+#include "desktop/look/LockLayout.h"
+#include "desktop/look/WindowPlacement.h"
 #include "desktop/windows/WelcomeWindowView.h"
 #include "setup/WelcomeWindow.h"
 #include "support/MainWindowTest.h"
@@ -19,7 +19,7 @@ static void ForEveryPage(const std::function<void(const QMainWindow &)> &look) {
         look(greeting);
     }
     MainWindow window(book.app);
-    MainWindowView view(window, book.app);
+    MainWindowView view(window, book.app.Locale(), book.app.Resources());
     window.Event_Open();
     view.resize(1100, 900);
     view.show();
@@ -169,7 +169,7 @@ TEST(EveryPage, GrowsNoFurtherThanTheScreenLetsIt) {
     QWidget pages;
     const QFont before = QApplication::font();
     QApplication::setFont(QFont(u"DejaVu Sans"_s, 24)); // 32 pixels, 2.18 times the largest of the design.
-    const QSize room = Room(pages), half = room / 2;
+    const QSize room = AvailableSize(pages), half = room / 2;
     for (const Case &each : {Case{half / 2, {}, 32}, Case{half, {}, 29}, Case{{room.width(), 9}, {}, 14},
                              Case{{9, half.height()}, {0, half.height()}, 14}, Case{room * 2, {}, 14}}) {
         UseDesktopFont(pages, each.least, each.beside);

@@ -1,4 +1,4 @@
-#include "desktop/controls/HintView.h"
+#include "desktop/fields/HintView.h"
 #include "support/MainWindowTest.h"
 
 class JournalPageTest : public MainWindowTest {
@@ -192,8 +192,7 @@ TEST_F(JournalPageTest, MakesOneLineOfWhatIsPastedOrDropped) {
         },
         [&data](QLineEdit &field) {
             QDropEvent drop({1, 1}, Qt::CopyAction, &data, Qt::LeftButton, {});
-            // The toolkit itself would hand it on only after a drag by the mouse.
-            for (QObject *child : field.children()) { child->eventFilter(&field, &drop); }
+            field.event(&drop); // QApplication would deliver it only after a drag by the mouse.
         }};
     Open();
     for (QLineEdit *field : {&Find<QLineEdit>(u"NoteField"_s), Find<QComboBox>(u"CategoryCombo"_s).lineEdit()}) {
@@ -204,6 +203,11 @@ TEST_F(JournalPageTest, MakesOneLineOfWhatIsPastedOrDropped) {
             EXPECT_EQ(row.NoteField.Text() + category.Text(), u"a b c d  e"_s);
         }
     }
+    row.NoteField.SetText(u"of a booking\nfrom elsewhere"_s);
+    EXPECT_EQ(row.NoteField.Text(), u"of a booking\nfrom elsewhere"_s) << "until the user edits it";
+    row.NoteField.SetFocus();
+    Type(u"{End}!"_s);
+    EXPECT_EQ(row.NoteField.Text(), u"of a booking from elsewhere!"_s);
 }
 
 TEST_F(JournalPageTest, ShowsTheNewBookingInALongList) {

@@ -1,0 +1,77 @@
+#include "desktop/drawing/CanvasView.h"
+
+#include "desktop/drawing/CanvasButton.h"
+#include "desktop/drawing/PainterGraphics.h"
+#include "desktop/fields/ControlBinding.h"
+#include "desktop/look/FontScaling.h"
+#include "platform/controls/Canvas.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+CanvasView::CanvasView(Canvas &canvas, QWidget *parent) : QWidget(parent), canvas_(canvas) {
+    BindControl(canvas, *this);
+    connect(&canvas, &Canvas::Updated, this, qOverload<>(&QWidget::update));
+}
+
+CanvasButton *CanvasView::AddButton(const QString &name, const QRect &place) {
+    return new CanvasButton(canvas_, name, place, this);
+}
+
+void CanvasView::showEvent(QShowEvent * /*event*/) {
+    if (!opened_) {
+        opened_ = true;
+        Q_EMIT canvas_.Open();
+    }
+}
+
+void CanvasView::resizeEvent(QResizeEvent * /*event*/) {
+    const double growth = ScaleFactor(*this);
+    canvas_.SetSize(qRound(width() / growth), qRound(height() / growth));
+    for (CanvasButton *button : findChildren<CanvasButton *>()) {
+        button->setGeometry(Scaled(button->Place(), growth));
+    }
+}
+
+void CanvasView::paintEvent(QPaintEvent * /*event*/) {
+    QPainter painter(this);
+    const double growth = ScaleFactor(*this);
+    painter.scale(growth, growth);
+    PainterGraphics graphics(painter, QRectF(0, 0, width() / growth, height() / growth));
+    if (const Picture *backdrop = canvas_.Backdrop()) {
+        backdrop->DrawOn(graphics);
+    }
+    Q_EMIT canvas_.Paint(graphics);
+}
+
+void CanvasView::mousePressEvent(QMouseEvent *event) {
+    if (event->button() == Qt::LeftButton) {
+        const QPoint place = OnCanvas(*event);
+        Q_EMIT canvas_.MouseDown(place.x(), place.y());
+    }
+}
+
+void CanvasView::mouseDoubleClickEvent(QMouseEvent *event) {
+    if (canvas_.CountsEachPress()) {
+        mousePressEvent(event);
+    }
+}
+
+void CanvasView::mouseReleaseEvent(QMouseEvent *event) {
+    if (event->button() == Qt::LeftButton) {
+        const QPoint place = OnCanvas(*event);
+        Q_EMIT canvas_.MouseUp(place.x(), place.y());
+    }
+}
+
+QPoint CanvasView::OnCanvas(const QMouseEvent &event) const {
+    return (event.position() / ScaleFactor(*this)).toPoint();
+}
+
+void CanvasView::enterEvent(QEnterEvent * /*event*/) {
+    Q_EMIT canvas_.MouseEnter();
+}
+
+void CanvasView::leaveEvent(QEvent * /*event*/) {
+    Q_EMIT canvas_.MouseExit();
+}

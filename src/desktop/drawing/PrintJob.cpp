@@ -1,0 +1,225 @@
+#include "desktop/drawing/PrintJob.h"
+
+#include "desktop/drawing/PainterGraphics.h"
+#include "platform/outside/TextOutputStream.h"
+#include "platform/values/Text.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include <algorithm>
+#include <cups/cups.h>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double pointsPerInch = 72;
+const auto cannotPrint = u"Der Bericht konnte nicht gedruckt werden."_s;
+
+QSizeF PaperOf(const QPrinter &printer) {
+    return printer.pageLayout().fullRect(QPageLayout::Point).size();
+}
+
+/// As far down as the printer gets ink on the paper.
+double LowerEdgeOf(const QPrinter &printer) {
+    QPageLayout layout = printer.pageLayout();
+    layout.setUnits(QPageLayout::Point);
+    return layout.fullRect().height() - layout.minimumMargins().bottom();
+}
+
+/// Returns why the job that was printed last has not reached its queue, in German; empty if it has.
+/// The toolkit drops this outcome.
+QString QueueFailure(const QString &printer) {
+    const ipp_status_t status = cupsLastError();
+    if (status < IPP_STATUS_ERROR_BAD_REQUEST) {
+        return {};
+    }
+    QString reason = QString::fromUtf8(cupsLastErrorString());
+    if (status == IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS) {
+        reason = u"Er nimmt keine Aufträge an."_s;
+    } else if (QPrinterInfo::printerInfo(printer).isNull()) {
+        reason = u"Er ist nicht mehr eingerichtet, oder der Druckdienst läuft nicht."_s;
+    } else if (status == IPP_STATUS_ERROR_INTERNAL || status == IPP_STATUS_ERROR_REQUEST_ENTITY) {
+        // As with a full disk; the text is then that of some call of the system.
+        reason = u"Der Druckdienst konnte ihn nicht speichern."_s;
+    }
+    return u"Der Drucker %1 hat den Bericht nicht angenommen: %2"_s.arg(printer, reason);
+}
+
+} // namespace
+
+PrintJob::PrintJob(std::unique_ptr<QPrinter> printer, std::optional<FolderItem> openBook, Tell tell)
+    : printer_(std::move(printer)), openBook_(std::move(openBook)), tell_(std::move(tell)),
+      pages_(1) {
+    printer_->setFullPage(true);
+}
+
+PrintJob::~PrintJob() {
+    if (const QString failure = End(); !failure.isEmpty()) {
+        QMetaObject::invokeMethod(
+            qApp, [tell = std::move(tell_), failure] { tell(failure); }, Qt::QueuedConnection);
+    }
+}
+
+QString PrintJob::End() const noexcept {
+    try {
+        return Print();
+    } catch (const std::exception &) {
+        return cannotPrint;
+    }
+}
+
+double PrintJob::Width() const {
+    return PaperOf(*printer_).width();
+}
+
+double PrintJob::Height() const {
+    return PaperOf(*printer_).height();
+}
+
+void PrintJob::AddShape(double bottom, const std::function<void(Graphics &)> &draw) {
+    Page &page = pages_.back();
+    page.bottom = std::max(page.bottom, bottom);
+    page.steps.emplace_back([draw, color = color_, paper = PaperOf(*printer_)](QPainter &painter) {
+        PainterGraphics surface(painter, QRectF({}, paper));
+        surface.SetForeColor(color);
+        draw(surface);
+    });
+}
+
+void PrintJob::DrawLine(double x1, double y1, double x2, double y2) {
+    AddShape(std::max(y1, y2), [=](Graphics &surface) { surface.DrawLine(x1, y1, x2, y2); });
+}
+
+void PrintJob::DrawRect(double left, double top, double width, double height) {
+    AddShape(top + height, [=](Graphics &surface) { surface.DrawRect(left, top, width, height); });
+}
+
+void PrintJob::FillRect(double left, double top, double width, double height) {
+    AddShape(top + height, [=](Graphics &surface) { surface.FillRect(left, top, width, height); });
+}
+
+void PrintJob::DrawPicture(const FolderItem &file, double x, double y) {
+    AddShape(y, [=](Graphics &surface) { surface.DrawPicture(file, x, y); });
+}
+
+void PrintJob::SetTextFont(const QString &family) {
+    // A program that asks for Courier counts on letters of one width.
+    font_.setFamily(family);
+    if (!QFontInfo(QFont(font_, printer_.get())).fixedPitch()) {
+        font_.setFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+    }
+}
+
+void PrintJob::SetTextSize(double size) {
+    font_.setPointSizeF(size);
+}
+
+double PrintJob::TextHeight() const {
+    const QFontMetricsF metrics(font_, printer_.get());
+    return metrics.height() * pointsPerInch / printer_->resolution();
+}
+
+void PrintJob::DrawString(const QString &text, double x, double y) {
+    Page &page = pages_.back();
+    page.bottom = std::max(page.bottom, y + QFontMetricsF(font_, printer_.get()).descent() *
+                                                pointsPerInch / printer_->resolution());
+    page.steps.emplace_back([line = OneLine(text), x, y, font = font_,
+                             color = QColor(QRgb(color_.rgb))](QPainter &painter) {
+        painter.save();
+        painter.translate(x, y);
+        // Fonts know the resolution of the paper by themselves.
+        const double toPoints = pointsPerInch / painter.device()->logicalDpiY();
+        painter.scale(toPoints, toPoints);
+        painter.setFont(font);
+        painter.setPen(color);
+        painter.drawText(QPointF(), line);
+        painter.restore();
+    });
+}
+
+std::vector<const PrintJob::Page *> PrintJob::PagesToPrint() const {
+    std::vector<const Page *> pages;
+    const QPageRanges wanted = printer_->pageRanges();
+    for (size_t page = 0; page < pages_.size(); ++page) {
+        if (wanted.isEmpty() || wanted.contains(static_cast<int>(page) + 1)) {
+            pages.push_back(&pages_[page]);
+        }
+    }
+    if (printer_->pageOrder() == QPrinter::LastPageFirst) {
+        std::reverse(pages.begin(), pages.end());
+    }
+    const int copies = printer_->supportsMultipleCopies() ? 1 : printer_->copyCount();
+    std::vector<const Page *> all;
+    if (printer_->collateCopies()) {
+        for (int copy = 0; copy < copies; ++copy) {
+            all.insert(all.end(), pages.begin(), pages.end());
+        }
+    } else {
+        for (const Page *page : pages) {
+            all.insert(all.end(), static_cast<size_t>(copies), page);
+        }
+    }
+    return all;
+}
+
+QString PrintJob::Print() const {
+    if (PagesToPrint().empty()) {
+        return u"Der Bericht hat keine Seite in dem gewählten Bereich."_s;
+    }
+    if (printer_->outputFormat() == QPrinter::PdfFormat) {
+        return PrintIntoFile();
+    }
+    return PrintOn(*printer_) ? QueueFailure(printer_->printerName()) : cannotPrint;
+}
+
+QString PrintJob::PrintIntoFile() const {
+    QBuffer pdf;
+    const bool isOpen = pdf.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&pdf);
+    writer.setResolution(printer_->resolution());
+    writer.setPageLayout(printer_->pageLayout());
+    writer.setTitle(printer_->docName());
+    if (!isOpen || !PrintOn(writer)) {
+        return cannotPrint;
+    }
+    TextOutputStream file(FolderItem(printer_->outputFileName()), openBook_);
+    file.Write(pdf.data());
+    return file.Close() ? QString() : file.ErrorMessage();
+}
+
+bool PrintJob::PrintOn(QPagedPaintDevice &device) const {
+    QPainter painter;
+    if (!painter.begin(&device)) {
+        return false;
+    }
+    bool isFirst = true;
+    for (const Page *page : PagesToPrint()) {
+        if (!std::exchange(isFirst, false) && !device.newPage()) {
+            return false;
+        }
+        PrintPage(painter, *page);
+    }
+    return painter.end();
+}
+
+void PrintJob::PrintPage(QPainter &painter, const Page &page) const {
+    painter.save();
+    const double toDevice = painter.device()->logicalDpiY() / pointsPerInch;
+    painter.scale(toDevice, toDevice);
+    const double fit = std::min(1.0, LowerEdgeOf(*printer_) / page.bottom);
+    painter.scale(fit, fit);
+    for (const auto &step : page.steps) {
+        step(painter);
+    }
+    painter.restore();
+}

@@ -1,0 +1,79 @@
+#include "desktop/fields/CalendarPopup.h"
+
+#include "desktop/drawing/Frame.h"
+
+#include <QPainter>
+#include <QScreen>
+#include <QTableView>
+#include <QTextCharFormat>
+#include <QToolButton>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Darker than the toolkit's red, which is hard to read on white.
+constexpr QColor weekendRed(0x9c, 0x00, 0x06);
+
+} // namespace
+
+CalendarPopup::CalendarPopup(QDate day, const QLocale &locale, QWidget *field)
+    : QCalendarWidget(field) {
+    setWindowFlags(Qt::Popup);
+    setAttribute(Qt::WA_DeleteOnClose);
+    // Colours and font are the field's.
+    setAttribute(Qt::WA_WindowPropagation);
+    // The click that closes it does nothing else; on the field's button it would open it again.
+    setAttribute(Qt::WA_NoMouseReplay);
+    setContentsMargins(1, 1, 1, 1);
+    setLocale(locale);
+    setFirstDayOfWeek(Qt::Monday);
+    setVerticalHeaderFormat(NoVerticalHeader);
+    setDateEditEnabled(false);
+    setSelectedDate(day);
+    setAccessibleName(u"Kalender"_s);
+    findChild<QTableView *>()->setAccessibleName(u"Tage"_s);
+    findChild<QToolButton *>(u"qt_calendar_prevmonth"_s)->setAccessibleName(u"Voriger Monat"_s);
+    findChild<QToolButton *>(u"qt_calendar_nextmonth"_s)->setAccessibleName(u"Nächster Monat"_s);
+    // Its bar is the selection's colour, on which the arrows of most styles are not seen.
+    QPalette bar;
+    bar.setColor(QPalette::Highlight, palette().color(QPalette::Button));
+    bar.setColor(QPalette::HighlightedText, palette().color(QPalette::ButtonText));
+    findChild<QWidget *>(u"qt_calendar_navigationbar"_s)->setPalette(bar);
+    QTextCharFormat weekend;
+    weekend.setForeground(weekendRed);
+    setWeekdayTextFormat(Qt::Saturday, weekend);
+    setWeekdayTextFormat(Qt::Sunday, weekend);
+    connect(this, &QCalendarWidget::clicked, this, &CalendarPopup::Choose);
+    connect(this, &QCalendarWidget::activated, this, &CalendarPopup::Choose);
+}
+
+void CalendarPopup::Open() {
+    move(Place());
+    show();
+    setFocus(Qt::PopupFocusReason);
+}
+
+void CalendarPopup::paintEvent(QPaintEvent *event) {
+    QCalendarWidget::paintEvent(event);
+    QPainter painter(this);
+    FillFrame(painter, rect(), 1, palette().color(QPalette::Dark));
+}
+
+void CalendarPopup::Choose(QDate day) {
+    close();
+    Q_EMIT Chosen(day);
+}
+
+QPoint CalendarPopup::Place() const {
+    const QWidget &field = *parentWidget();
+    const QRect free = field.screen()->availableGeometry();
+    const QSize size = sizeHint();
+    const QPoint above = field.mapToGlobal(QPoint(0, -size.height()));
+    const QPoint below = field.mapToGlobal(QPoint(0, field.height()));
+    const int right = std::max(free.left(), free.right() - size.width());
+    return {std::clamp(below.x(), free.left(), right),
+            below.y() + size.height() > free.bottom() ? above.y() : below.y()};
+}

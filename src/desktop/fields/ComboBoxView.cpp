@@ -1,0 +1,171 @@
+#include "desktop/fields/ComboBoxView.h"
+
+#include "desktop/fields/ControlBinding.h"
+#include "desktop/fields/LineEdits.h"
+#include "desktop/fields/PopupList.h"
+#include "desktop/look/TextFitting.h"
+#include "desktop/look/ToolTipText.h"
+#include "platform/controls/ComboBox.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCompleter>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QToolTip>
+#include <QWindow>
+
+namespace {
+
+/// Gives a press of the mouse to what lies there.
+void HandOn(const QMouseEvent &press) {
+    QWidget *below = QApplication::widgetAt(press.globalPosition().toPoint());
+    if (below == nullptr) {
+        return;
+    }
+    for (QWidget *each = below; each != nullptr; each = each->parentWidget()) {
+        if (each->isEnabled() && (each->focusPolicy() & Qt::ClickFocus)) {
+            each->setFocus(Qt::MouseFocusReason);
+            break;
+        }
+    }
+    QWindow *window = below->window()->windowHandle();
+    const QPointF place = window->mapFromGlobal(press.globalPosition());
+    QMouseEvent again(press.type(), place, place, press.globalPosition(), press.button(),
+                      press.buttons(), press.modifiers(), press.pointingDevice());
+    QCoreApplication::sendEvent(window, &again);
+}
+
+} // namespace
+
+ComboBoxView::ComboBoxView(ComboBox &combo, QWidget *parent) : QComboBox(parent), combo_(combo) {
+    setEditable(true);
+    setInsertPolicy(NoInsert);
+    setModel(combo.Rows());
+    BindControl(combo, *this);
+    OfferCompletions();
+    ShowCombo();
+    connect(&combo, &ComboBox::Updated, this, &ComboBoxView::ShowCombo);
+    connect(this, &QComboBox::activated, &combo, &ComboBox::SetListIndex);
+    connect(lineEdit(), &QLineEdit::textEdited, &combo, &ComboBox::SetText);
+}
+
+void ComboBoxView::showPopup() {
+    FitToLongestRow(*view());
+    QComboBox::showPopup();
+}
+
+void ComboBoxView::ShowCombo() {
+    if (currentIndex() != combo_.ListIndex()) {
+        setCurrentIndex(combo_.ListIndex());
+    }
+    if (currentText() != combo_.Text()) {
+        setEditText(combo_.Text());
+    }
+    FitRow();
+    ShowBeginning(*lineEdit());
+}
+
+/// A chosen row that is a little too long is shown whole; what is typed stays in its letters.
+void ComboBoxView::FitRow() {
+    QLineEdit &edit = *lineEdit();
+    edit.setFont(FittedFont(font(), {currentIndex() < 0 ? QString() : currentText(),
+                                     edit.rect().adjusted(2, 0, -2, 0)}));
+}
+
+bool ComboBoxView::event(QEvent *event) {
+    if (event->type() != QEvent::ToolTip) {
+        return QComboBox::event(event);
+    }
+    const QLineEdit &edit = *lineEdit();
+    const bool cut = edit.fontMetrics().horizontalAdvance(edit.text()) > edit.width();
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
+                       cut ? ToolTipText(edit.text()) : QString(), this);
+    return true;
+}
+
+void ComboBoxView::resizeEvent(QResizeEvent *event) {
+    QComboBox::resizeEvent(event);
+    FitRow();
+}
+
+void ComboBoxView::OfferCompletions() {
+    // Owned by the combo box. The list of its own would replace what was typed.
+    auto *completer = new QCompleter(combo_.Rows(), this);
+    completer->setCompletionMode(QCompleter::PopupCompletion);
+    completer->setFilterMode(Qt::MatchContains);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    setCompleter(completer);
+    completer->popup()->installEventFilter(this);
+    // The open list gets the clicks beside it too. Not every desktop hands them on; this view does.
+    completer->popup()->setAttribute(Qt::WA_NoMouseReplay);
+    AcceptOneLine(*lineEdit());
+}
+
+void ComboBoxView::changeEvent(QEvent *event) {
+    QComboBox::changeEvent(event);
+    if (event->type() == QEvent::FontChange && completer() != nullptr) {
+        completer()->popup()->setFont(font());
+        FitRow();
+    }
+}
+
+QString ComboBoxView::Completion() const {
+    const QAbstractItemView &popup = *completer()->popup();
+    if (popup.currentIndex().isValid()) {
+        return popup.currentIndex().data().toString();
+    }
+    const QAbstractItemModel &rows = *completer()->completionModel();
+    for (int row = 0; row < rows.rowCount(); ++row) {
+        QString text = rows.index(row, 0).data().toString();
+        if (text.startsWith(combo_.Text(), Qt::CaseInsensitive)) {
+            return text;
+        }
+    }
+    return rows.index(0, 0).data().toString();
+}
+
+bool ComboBoxView::eventFilter(QObject *watched, QEvent *event) {
+    if (watched == completer()->popup()) {
+        if (event->type() == QEvent::KeyPress) {
+            return CompletionKey(static_cast<QKeyEvent *>(event));
+        }
+        if (event->type() == QEvent::Show) {
+            FitToLongestRow(*completer()->popup());
+        }
+        if (event->type() == QEvent::MouseButtonPress) {
+            return ClickBeside(*static_cast<QMouseEvent *>(event));
+        }
+    }
+    return QComboBox::eventFilter(watched, event);
+}
+
+bool ComboBoxView::ClickBeside(const QMouseEvent &press) {
+    QAbstractItemView &list = *completer()->popup();
+    const bool beside = !list.rect().contains(press.position().toPoint());
+    if (beside) {
+        list.hide();
+        HandOn(press);
+    }
+    return beside;
+}
+
+bool ComboBoxView::CompletionKey(QKeyEvent *event) {
+    const bool isTab = event->key() == Qt::Key_Tab;
+    if (!isTab && event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        return false;
+    }
+    const QString completion = Completion();
+    const bool completes = !completion.isEmpty() && completion != combo_.Text();
+    completer()->popup()->hide();
+    if (completes) {
+        combo_.SetListIndex(combo_.FindText(completion));
+    }
+    // The Return that completes does not save as well.
+    if (isTab || !completes) {
+        QCoreApplication::sendEvent(this, event);
+    }
+    return true;
+}

@@ -1,0 +1,107 @@
+#include "desktop/fields/Fields.h"
+
+#include "desktop/fields/ControlBinding.h"
+#include "desktop/fields/LineEdits.h"
+#include "desktop/fields/PopupList.h"
+#include "platform/controls/Label.h"
+#include "platform/controls/PopupMenu.h"
+#include "platform/controls/PushButton.h"
+#include "platform/controls/TextField.h"
+
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class AmountEdit : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override {
+        const bool isDecimal = event->key() == Qt::Key_Period || event->key() == Qt::Key_Comma;
+        if (isDecimal && event->modifiers() == Qt::KeypadModifier) {
+            insert(u","_s);
+        } else {
+            QLineEdit::keyPressEvent(event);
+        }
+    }
+};
+
+class PopupMenuBox : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+
+    void showPopup() override {
+        FitToLongestRow(*view());
+        QComboBox::showPopup();
+    }
+};
+
+QLineEdit *BindTextField(TextField &field, QLineEdit *edit) {
+    AcceptOneLine(*edit);
+    const auto show = [edit, &field] {
+        if (edit->text() != field.Text()) {
+            // The line edit may show less than the field contains, which must not change it.
+            const QSignalBlocker blocker(edit);
+            edit->setText(field.Text());
+            ShowBeginning(*edit);
+        }
+    };
+    show();
+    BindControl(field, *edit);
+    QObject::connect(&field, &TextField::Updated, edit, show);
+    QObject::connect(edit, &QLineEdit::textChanged, &field, &TextField::SetText);
+    return edit;
+}
+
+} // namespace
+
+QLabel *CreateLabel(Label &label, QWidget *parent, Qt::Alignment alignment) {
+    auto *view = new QLabel(parent);
+    view->setTextFormat(Qt::PlainText);
+    view->setAlignment(alignment | Qt::AlignVCenter);
+    BindControl(label, *view);
+    const auto show = [view, &label] {
+        view->setText(label.Text());
+        view->setAccessibleName(label.SpokenText());
+    };
+    show();
+    QObject::connect(&label, &Label::Updated, view, show);
+    return view;
+}
+
+QLineEdit *CreateTextField(TextField &field, QWidget *parent) {
+    return BindTextField(field, new QLineEdit(parent));
+}
+
+QLineEdit *CreateAmountField(TextField &field, QWidget *parent) {
+    return BindTextField(field, new AmountEdit(parent));
+}
+
+QPushButton *CreatePushButton(PushButton &button, QWidget *parent) {
+    auto *view = new QPushButton(button.Caption(), parent);
+    // Return presses whichever button has the focus.
+    view->setAutoDefault(true);
+    view->setDefault(button.Kind() == PushButton::Role::Default);
+    BindControl(button, *view);
+    QObject::connect(view, &QPushButton::clicked, &button, &PushButton::Press);
+    return view;
+}
+
+QComboBox *CreatePopupMenu(PopupMenu &menu, QWidget *parent) {
+    auto *view = new PopupMenuBox(parent);
+    view->setModel(menu.Rows());
+    view->setFocusPolicy(Qt::StrongFocus);
+    BindControl(menu, *view);
+    QObject::connect(&menu, &PopupMenu::Updated, view,
+                     [view, &menu] { view->setCurrentIndex(menu.ListIndex()); });
+    QObject::connect(view, &QComboBox::activated, &menu, &PopupMenu::SetListIndex);
+    return view;
+}

@@ -1,0 +1,9 @@
+#include "desktop/fields/FocusChange.h"
+
+#include <QFocusEvent>
+
+bool MovesToOtherControl(const QFocusEvent &focusOut) {
+    return focusOut.reason() != Qt::PopupFocusReason &&
+           focusOut.reason() != Qt::MenuBarFocusReason &&
+           focusOut.reason() != Qt::ActiveWindowFocusReason;
+}

@@ -1,0 +1,110 @@
+#include "desktop/look/TextFitting.h"
+
+#include <QComboBox>
+#include <QFontInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QStyleOption>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int narrowestPercent = 85;
+constexpr int smallestPx = 9;
+
+TextBox BoxOf(const QLabel &label) {
+    return {label.text(), label.contentsRect(), label.wordWrap() ? Qt::TextWordWrap : 0};
+}
+
+TextBox BoxOf(const QPushButton &button) {
+    QStyleOptionButton option;
+    option.initFrom(&button);
+    return {button.text(),
+            button.style()->subElementRect(QStyle::SE_PushButtonContents, &option, &button)};
+}
+
+TextBox BoxOf(const QComboBox &combo) {
+    QStyleOptionComboBox option;
+    option.initFrom(&combo);
+    QString longest;
+    // A combo box that ignores the width of its rows shows texts of the user.
+    const bool isFixed =
+        combo.sizeAdjustPolicy() != QComboBox::AdjustToMinimumContentsLengthWithIcon;
+    for (int row = 0; isFixed && !combo.isEditable() && row < combo.count(); ++row) {
+        const QFontMetrics metrics = combo.fontMetrics();
+        if (metrics.horizontalAdvance(combo.itemText(row)) > metrics.horizontalAdvance(longest)) {
+            longest = combo.itemText(row);
+        }
+    }
+    const QRect field = combo.style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                      QStyle::SC_ComboBoxEditField, &combo);
+    // The style keeps a margin of one point on each side.
+    return {longest, field.adjusted(1, 0, -1, 0)};
+}
+
+TextBox BoxOf(const QLineEdit &edit) {
+    QStyleOptionFrame option;
+    option.initFrom(&edit);
+    return {edit.placeholderText(),
+            edit.style()->subElementRect(QStyle::SE_LineEditContents, &option, &edit)};
+}
+
+TextBox BoxOf(const QWidget &widget) {
+    if (const auto *label = qobject_cast<const QLabel *>(&widget)) {
+        return BoxOf(*label);
+    }
+    if (const auto *button = qobject_cast<const QPushButton *>(&widget)) {
+        return BoxOf(*button);
+    }
+    if (const auto *combo = qobject_cast<const QComboBox *>(&widget)) {
+        return BoxOf(*combo);
+    }
+    const auto *edit = qobject_cast<const QLineEdit *>(&widget);
+    return edit == nullptr ? TextBox{} : BoxOf(*edit);
+}
+
+bool Fits(const QFont &font, const TextBox &box) {
+    const QSize size = QFontMetrics(font).boundingRect(box.rect, box.flags, box.text).size();
+    // A single line may use the margins above and below it.
+    return size.width() <= box.rect.width() &&
+           (box.flags == 0 || size.height() <= box.rect.height());
+}
+
+/// Indents a label whose first character extends to the left of its origin, like a J.
+void ShowLeftBearing(QLabel &label) {
+    const QString text = label.text();
+    const int indent =
+        text.isEmpty() ? 0 : std::max(0, -label.fontMetrics().leftBearing(text.front()));
+    if (label.indent() != indent) {
+        label.setIndent(indent);
+    }
+}
+
+} // namespace
+
+QFont CondensedFont(QFont font, const TextBox &box) {
+    for (int percent = 95; percent >= narrowestPercent && !Fits(font, box); percent -= 5) {
+        font.setStretch(percent);
+    }
+    return font;
+}
+
+QFont FittedFont(const QFont &font, const TextBox &box) {
+    QFont fitted = CondensedFont(font, box);
+    for (int size = QFontInfo(font).pixelSize(); size >= smallestPx && !Fits(fitted, box); --size) {
+        fitted.setPixelSize(size);
+    }
+    return fitted;
+}
+
+void FitText(QWidget &widget, const QFont &font) {
+    const QFont resolved = font.resolve(widget.parentWidget()->font());
+    const QFont fitted = FittedFont(resolved, BoxOf(widget));
+    // A font that fits goes on following the parent's.
+    widget.setFont(fitted == resolved ? font : fitted);
+    if (auto *label = qobject_cast<QLabel *>(&widget)) {
+        ShowLeftBearing(*label);
+    }
+}

@@ -1,0 +1,184 @@
+#include "desktop/drawing/PrintJob.h"
+
+#include "support/FullDisk.h"
+#include "support/GoogleTest.h"
+
+#include <QCoreApplication>
+#include <QImage>
+#include <QPrinter>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cups/cups.h>
+
+class PrintJobTest : public testing::Test {
+protected:
+    using SetUp = std::function<void(QPrinter &)>;
+
+    std::unique_ptr<PrintJob> Begin(const SetUp &setUp = [](QPrinter &) {}) {
+        auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        printer->setOutputFileName(path);
+        printer->setPageSize(QPageSize(QPageSize::A4));
+        setUp(*printer);
+        return std::make_unique<PrintJob>(std::move(printer), openBook, [this](const QString &) { ++failures; });
+    }
+    /// Prints three pages into a PDF file, each with the height of its text, and reads it.
+    QStringList Print(const SetUp &setUp = [](QPrinter &) {}) {
+        auto job = Begin(setUp);
+        job->SetTextFont(u"Courier"_s);
+        job->SetTextSize(10);
+        job->DrawString(u"100"_s, 40, 100);
+        job->NextPage();
+        job->DrawString(u"838"_s, 40, 838);
+        job->NextPage();
+        job->DrawString(u"900"_s, 40, 900);
+        job.reset();
+        EXPECT_EQ(failures, told) << "not before the event loop comes round";
+        QCoreApplication::processEvents();
+        told = failures;
+        return Read();
+    }
+    /// What a tool of poppler's makes of the file.
+    QByteArray Ask(const QString &tool, const QStringList &arguments) const {
+        QProcess process;
+        process.start(tool, arguments);
+        EXPECT_TRUE(process.waitForFinished());
+        return process.readAllStandardOutput();
+    }
+    /// The points of the left, the right and the bottom of each word, and the word.
+    QStringList Read() const {
+        static const QRegularExpression word(u"xMin=\"(\\d+).*xMax=\"(\\d+).*yMax=\"(\\d+).*>(.*)<"_s);
+        QStringList found;
+        const auto xml = QString::fromUtf8(Ask(u"pdftotext"_s, {u"-bbox"_s, path, u"-"_s}));
+        for (const QRegularExpressionMatch &each : word.globalMatch(xml)) {
+            found.append(each.capturedTexts().mid(1).join(u' '));
+        }
+        return found;
+    }
+
+    QTemporaryDir folder;
+    QString path = folder.filePath(u"report.pdf"_s);
+    std::optional<FolderItem> openBook;
+    int failures = 0;
+    int told = 0;
+};
+
+TEST_F(PrintJobTest, PrintsTheWantedPagesInPointsAndScalesDownWhatWouldRunOffThePaper) {
+    struct Case {
+        const char *wanted;
+        SetUp setUp;
+        QStringList printed;
+    };
+    // The letters of a typewriter are six tenths of their height wide.
+    const QString first = u"40 58 103 100"_s;
+    const QString second = u"40 58 841 838"_s;
+    const QString third = u"37 54 841 900"_s;
+    const auto twice = [](QPrinter &printer) {
+        printer.setFromTo(1, 2);
+        printer.setCopyCount(2);
+    };
+    const Case cases[] = {{"all", [](QPrinter & /*printer*/) {}, {first, second, third}},
+                          {"two copies of two pages", twice, {first, second, first, second}},
+                          {"page by page",
+                           [&twice](QPrinter &printer) {
+                               twice(printer);
+                               printer.setCollateCopies(false);
+                           },
+                           {first, first, second, second}},
+                          {"the last page first",
+                           [](QPrinter &printer) { printer.setPageOrder(QPrinter::LastPageFirst); },
+                           {third, second, first}}};
+    for (const Case &each : cases) { EXPECT_EQ(Print(each.setUp), each.printed) << each.wanted; }
+}
+
+TEST_F(PrintJobTest, DrawsLinesInTheirColourAndTextAsOneLineInItsFace) {
+    auto job = Begin();
+    EXPECT_EQ(QSizeF(job->Width(), job->Height()).toSize(), QSize(595, 842));
+    job->SetForeColor(Color{0xff0000});
+    job->DrawLine(100, 200, 150, 200);
+    job->SetTextFont(u"Courier"_s);
+    job->SetTextSize(20);
+    job->SetBold(true);
+    EXPECT_NEAR(job->TextHeight(), 24, 6);
+    job->DrawString(u"ii\ni"_s, 300, 200);
+    job.reset();
+    const auto page = QImage::fromData(Ask(u"pdftoppm"_s, {u"-r"_s, u"72"_s, u"-png"_s, path}));
+    EXPECT_EQ(page.pixelColor(125, 200), QColor(Qt::red));
+    EXPECT_EQ(Read().replaceInStrings(QRegularExpression(u".* "_s), {}), QStringList({u"ii"_s, u"i"_s}));
+    EXPECT_TRUE(Ask(u"pdffonts"_s, {path}).contains("Bold"));
+}
+
+/// A print service of the test's own, with a queue that accepts jobs and one that does not.
+class PrintQueueTest : public testing::Test {
+protected:
+    PrintQueueTest() {
+        Write(u"cupsd.conf"_s, u"Listen %1/socket\n<Location />\nAllow all\n</Location>\n"_s);
+        Write(u"cups-files.conf"_s, u"ServerRoot %1\nStateDir %1\nCacheDir %1\nRequestRoot %1/spool\n"
+                                    "AccessLog %1/log\nErrorLog %1/log\nPageLog %1/log\nFileDevice Yes\n"_s);
+        Write(u"printers.conf"_s, u"<Printer Offen>\nDeviceURI file:///dev/null\nAccepting Yes\n</Printer>\n"
+                                  "<Printer Zu>\nDeviceURI file:///dev/null\nAccepting No\n</Printer>\n"_s);
+        service.start(QStandardPaths::findExecutable(u"cupsd"_s, {u"/usr/sbin"_s}),
+                      {u"-f"_s, u"-c"_s, Path(u"cupsd.conf"_s), u"-s"_s, Path(u"cups-files.conf"_s)});
+        EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(Path(u"socket"_s)); }));
+        cupsSetServer(qUtf8Printable(Path(u"socket"_s)));
+    }
+    ~PrintQueueTest() override {
+        EndService();
+        cupsSetServer(nullptr);
+    }
+    Q_DISABLE_COPY_MOVE(PrintQueueTest)
+
+    QString Path(const QString &name) const { return folder.filePath(name); }
+    void Write(const QString &name, const QString &text) const {
+        QFile file(Path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) &&
+                    file.write(QString(text).replace(u"%1"_s, folder.path()).toUtf8()) > 0);
+    }
+    void EndService() {
+        service.terminate();
+        EXPECT_TRUE(service.state() == QProcess::NotRunning || service.waitForFinished());
+    }
+    std::unique_ptr<PrintJob> Begin(const QString &queue) {
+        auto printer = std::make_unique<QPrinter>();
+        printer->setPrinterName(queue);
+        return std::make_unique<PrintJob>(std::move(printer), std::nullopt,
+                                          [this](const QString &failure) { message = failure; });
+    }
+    /// Returns what the user is shown when the job ends.
+    QString End(std::unique_ptr<PrintJob> job) {
+        message.clear();
+        job.reset();
+        QCoreApplication::processEvents();
+        return message;
+    }
+
+    const QTemporaryDir folder;
+    QProcess service;
+    QString message;
+};
+
+TEST_F(PrintQueueTest, ShowsWhyAJobHasNotReachedItsQueue) {
+    EXPECT_EQ(End(Begin(u"Offen"_s)), QString());
+    EXPECT_EQ(End(Begin(u"Zu"_s)), u"Der Drucker Zu hat den Bericht nicht angenommen: Er nimmt keine Aufträge an."_s);
+    EXPECT_EQ(End(Begin(u"Offen"_s)), QString()) << "usable as before";
+    auto job = Begin(u"Offen"_s);
+    EndService();
+    EXPECT_EQ(End(std::move(job)), u"Der Drucker Offen hat den Bericht nicht angenommen: "
+                                   "Er ist nicht mehr eingerichtet, oder der Druckdienst läuft nicht."_s);
+}
+
+TEST_F(PrintJobTest, TellsWhatCouldNotBePrintedAndLeavesTheFileBefore) {
+    const QStringList before = Print([](QPrinter &printer) { printer.setFromTo(1, 1); });
+    EXPECT_EQ(Print([](QPrinter &printer) { printer.setFromTo(4, 9); }), before);
+    {
+        const FullDisk disk(2000);
+        Print();
+    }
+    openBook = FolderItem(folder.path() + u"/./report.pdf"_s);
+    Print();
+    EXPECT_EQ(failures, 3);
+    EXPECT_EQ(Read(), before);
+}
