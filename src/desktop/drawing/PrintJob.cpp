@@ -25,19 +25,19 @@ namespace {
 constexpr double pointsPerInch = 72;
 const auto cannotPrint = u"Der Bericht konnte nicht gedruckt werden."_s;
 
-QSizeF PaperOf(const QPrinter &printer) {
+QSizeF PaperSize(const QPrinter &printer) {
     return printer.pageLayout().fullRect(QPageLayout::Point).size();
 }
 
-/// As far down as the printer gets ink on the paper.
-double LowerEdgeOf(const QPrinter &printer) {
+/// Returns the lower end of the printable area in points.
+double PrintableBottom(const QPrinter &printer) {
     QPageLayout layout = printer.pageLayout();
     layout.setUnits(QPageLayout::Point);
     return layout.fullRect().height() - layout.minimumMargins().bottom();
 }
 
-/// Returns why the job that was printed last has not reached its queue, in German; empty if it has.
-/// The toolkit drops this outcome.
+/// Returns why the last printed job has not reached its queue, in German; empty if it has. Qt does
+/// not report it.
 QString QueueFailure(const QString &printer) {
     const ipp_status_t status = cupsLastError();
     if (status < IPP_STATUS_ERROR_BAD_REQUEST) {
@@ -49,7 +49,7 @@ QString QueueFailure(const QString &printer) {
     } else if (QPrinterInfo::printerInfo(printer).isNull()) {
         reason = u"Er ist nicht mehr eingerichtet, oder der Druckdienst läuft nicht."_s;
     } else if (status == IPP_STATUS_ERROR_INTERNAL || status == IPP_STATUS_ERROR_REQUEST_ENTITY) {
-        // As with a full disk; the text is then that of some call of the system.
+        // For example on a full disk; the library's text is then that of a system call.
         reason = u"Der Druckdienst konnte ihn nicht speichern."_s;
     }
     return u"Der Drucker %1 hat den Bericht nicht angenommen: %2"_s.arg(printer, reason);
@@ -57,20 +57,23 @@ QString QueueFailure(const QString &printer) {
 
 } // namespace
 
-PrintJob::PrintJob(std::unique_ptr<QPrinter> printer, std::optional<FolderItem> openBook, Tell tell)
-    : printer_(std::move(printer)), openBook_(std::move(openBook)), tell_(std::move(tell)),
-      pages_(1) {
+PrintJob::PrintJob(std::unique_ptr<QPrinter> printer, std::optional<FolderItem> databaseFile,
+                   ShowFailure showFailure)
+    : printer_(std::move(printer)), databaseFile_(std::move(databaseFile)),
+      showFailure_(std::move(showFailure)) {
     printer_->setFullPage(true);
+    NextPage();
 }
 
 PrintJob::~PrintJob() {
-    if (const QString failure = End(); !failure.isEmpty()) {
+    if (const QString failure = TryPrint(); !failure.isEmpty()) {
         QMetaObject::invokeMethod(
-            qApp, [tell = std::move(tell_), failure] { tell(failure); }, Qt::QueuedConnection);
+            qApp, [show = std::move(showFailure_), failure] { show(failure); },
+            Qt::QueuedConnection);
     }
 }
 
-QString PrintJob::End() const noexcept {
+QString PrintJob::TryPrint() const noexcept {
     try {
         return Print();
     } catch (const std::exception &) {
@@ -79,49 +82,47 @@ QString PrintJob::End() const noexcept {
 }
 
 double PrintJob::Width() const {
-    return PaperOf(*printer_).width();
+    return PaperSize(*printer_).width();
 }
 
 double PrintJob::Height() const {
-    return PaperOf(*printer_).height();
+    return PaperSize(*printer_).height();
 }
 
-void PrintJob::AddShape(double bottom, const std::function<void(Graphics &)> &draw) {
+PrintJob::Page &PrintJob::CurrentPage(double bottom) {
     Page &page = pages_.back();
     page.bottom = std::max(page.bottom, bottom);
-    page.steps.emplace_back([draw, color = color_, paper = PaperOf(*printer_)](QPainter &painter) {
-        PainterGraphics surface(painter, QRectF({}, paper));
-        surface.SetForeColor(color);
-        draw(surface);
-    });
+    return page;
+}
+
+Picture &PrintJob::Shapes(double bottom) {
+    Picture &shapes = CurrentPage(bottom).shapes;
+    shapes.SetForeColor(color_);
+    return shapes;
 }
 
 void PrintJob::DrawLine(double x1, double y1, double x2, double y2) {
-    AddShape(std::max(y1, y2), [=](Graphics &surface) { surface.DrawLine(x1, y1, x2, y2); });
+    Shapes(std::max(y1, y2)).DrawLine(x1, y1, x2, y2);
 }
 
 void PrintJob::DrawRect(double left, double top, double width, double height) {
-    AddShape(top + height, [=](Graphics &surface) { surface.DrawRect(left, top, width, height); });
+    Shapes(top + height).DrawRect(left, top, width, height);
 }
 
 void PrintJob::FillRect(double left, double top, double width, double height) {
-    AddShape(top + height, [=](Graphics &surface) { surface.FillRect(left, top, width, height); });
+    Shapes(top + height).FillRect(left, top, width, height);
 }
 
 void PrintJob::DrawPicture(const FolderItem &file, double x, double y) {
-    AddShape(y, [=](Graphics &surface) { surface.DrawPicture(file, x, y); });
+    Shapes(y).DrawPicture(file, x, y);
 }
 
 void PrintJob::SetTextFont(const QString &family) {
-    // A program that asks for Courier counts on letters of one width.
+    // The report needs a fixed-pitch font; the system may replace Courier by another one.
     font_.setFamily(family);
     if (!QFontInfo(QFont(font_, printer_.get())).fixedPitch()) {
         font_.setFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
     }
-}
-
-void PrintJob::SetTextSize(double size) {
-    font_.setPointSizeF(size);
 }
 
 double PrintJob::TextHeight() const {
@@ -130,21 +131,13 @@ double PrintJob::TextHeight() const {
 }
 
 void PrintJob::DrawString(const QString &text, double x, double y) {
-    Page &page = pages_.back();
-    page.bottom = std::max(page.bottom, y + QFontMetricsF(font_, printer_.get()).descent() *
-                                                pointsPerInch / printer_->resolution());
-    page.steps.emplace_back([line = OneLine(text), x, y, font = font_,
-                             color = QColor(QRgb(color_.rgb))](QPainter &painter) {
-        painter.save();
-        painter.translate(x, y);
-        // Fonts know the resolution of the paper by themselves.
-        const double toPoints = pointsPerInch / painter.device()->logicalDpiY();
-        painter.scale(toPoints, toPoints);
-        painter.setFont(font);
-        painter.setPen(color);
-        painter.drawText(QPointF(), line);
-        painter.restore();
-    });
+    const QFontMetricsF metrics(font_, printer_.get());
+    CurrentPage(y + metrics.descent() * pointsPerInch / printer_->resolution())
+        .texts.push_back({OneLine(text), {x, y}, font_, QColor(QRgb(color_.rgb))});
+}
+
+void PrintJob::NextPage() {
+    pages_.emplace_back(Width(), Height());
 }
 
 std::vector<const PrintJob::Page *> PrintJob::PagesToPrint() const {
@@ -192,7 +185,7 @@ QString PrintJob::PrintIntoFile() const {
     if (!isOpen || !PrintOn(writer)) {
         return cannotPrint;
     }
-    TextOutputStream file(FolderItem(printer_->outputFileName()), openBook_);
+    TextOutputStream file(FolderItem(printer_->outputFileName()), databaseFile_);
     file.Write(pdf.data());
     return file.Close() ? QString() : file.ErrorMessage();
 }
@@ -216,10 +209,26 @@ void PrintJob::PrintPage(QPainter &painter, const Page &page) const {
     painter.save();
     const double toDevice = painter.device()->logicalDpiY() / pointsPerInch;
     painter.scale(toDevice, toDevice);
-    const double fit = std::min(1.0, LowerEdgeOf(*printer_) / page.bottom);
+    const double fit = std::min(1.0, PrintableBottom(*printer_) / page.bottom);
     painter.scale(fit, fit);
-    for (const auto &step : page.steps) {
-        step(painter);
+    {
+        PainterGraphics surface(painter, QRectF({}, PaperSize(*printer_)));
+        page.shapes.DrawOn(surface);
     }
+    for (const Text &text : page.texts) {
+        PrintText(painter, text);
+    }
+    painter.restore();
+}
+
+void PrintJob::PrintText(QPainter &painter, const Text &text) {
+    painter.save();
+    painter.translate(text.baseline);
+    // A font of so many points has its size on the device already.
+    const double toPoints = pointsPerInch / painter.device()->logicalDpiY();
+    painter.scale(toPoints, toPoints);
+    painter.setFont(text.font);
+    painter.setPen(text.color);
+    painter.drawText(QPointF(), text.line);
     painter.restore();
 }

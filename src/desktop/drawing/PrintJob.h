@@ -1,10 +1,13 @@
 #pragma once
 
+#include "platform/drawing/Picture.h"
 #include "platform/drawing/PrinterGraphics.h"
 
 #include <QColor>
 #include <QFont>
+#include <QPointF>
 
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -14,17 +17,18 @@ class QPagedPaintDevice;
 class QPainter;
 class QPrinter;
 
-/// A print job on a printer or into a PDF file. It keeps the pages, and prints them when it is let
-/// go, which never throws: the wanted pages in the wanted order and number. A page that would run
-/// past the lower edge of the paper is scaled down as a whole; any other is printed in its own
-/// size. A PDF file is there as a whole or not at all. A job counts as printed when its queue has
-/// accepted it; what the printer then makes of it is not known here.
+/// A print job on a printer or into a PDF file. It records the pages and prints them when it is
+/// destroyed: the selected pages in the selected order and number of copies. A page that would
+/// extend beyond the lower edge of the paper is scaled down as a whole. A PDF file is written
+/// completely or not at all. A job is successful when its queue has accepted it; what the printer
+/// does with it then is not known here.
 class PrintJob : public PrinterGraphics {
 public:
-    /// Hears a failure, in German, when the event loop comes round.
-    using Tell = std::function<void(const QString &)>;
-    /// The printer as the user has chosen and set it. The open book is no file to print into.
-    PrintJob(std::unique_ptr<QPrinter> printer, std::optional<FolderItem> openBook, Tell tell);
+    /// Called with a German message on failure, through the event loop.
+    using ShowFailure = std::function<void(const QString &)>;
+    /// The printer as the user has set it up. The database file is refused as the PDF file.
+    PrintJob(std::unique_ptr<QPrinter> printer, std::optional<FolderItem> databaseFile,
+             ShowFailure showFailure);
     ~PrintJob() override;
 
     double Width() const override;
@@ -35,34 +39,47 @@ public:
     void FillRect(double left, double top, double width, double height) override;
     void DrawPicture(const FolderItem &file, double x, double y) override;
     void SetTextFont(const QString &family) override;
-    void SetTextSize(double size) override;
+    void SetTextSize(double size) override { font_.setPointSizeF(size); }
     void SetBold(bool bold) override { font_.setBold(bold); }
     void SetUnderline(bool underline) override { font_.setUnderline(underline); }
     double TextHeight() const override;
     void DrawString(const QString &text, double x, double y) override;
-    void NextPage() override { pages_.emplace_back(); }
+    void NextPage() override;
 
 private:
+    struct Text {
+        QString line;
+        QPointF baseline;
+        QFont font;
+        QColor color;
+    };
+    /// Texts are drawn over the shapes.
     struct Page {
-        /// Each draws on a painter whose unit is the point.
-        std::vector<std::function<void(QPainter &)>> steps;
-        /// How far down the drawing reaches.
+        Page(double width, double height) : shapes(width, height) {}
+
+        Picture shapes;
+        std::vector<Text> texts;
+        /// The lower end of the drawing in points.
         double bottom = 0;
     };
 
-    void AddShape(double bottom, const std::function<void(Graphics &)> &draw);
+    Page &CurrentPage(double bottom);
+    /// Returns the picture of the current page for a shape that extends down to `bottom`.
+    Picture &Shapes(double bottom);
     std::vector<const Page *> PagesToPrint() const;
-    /// All three give what has failed, nothing if all went well.
-    [[nodiscard]] QString End() const noexcept;
+    /// These three return an error message, empty on success.
+    [[nodiscard]] QString TryPrint() const noexcept;
     [[nodiscard]] QString Print() const;
     [[nodiscard]] QString PrintIntoFile() const;
     [[nodiscard]] bool PrintOn(QPagedPaintDevice &device) const;
     void PrintPage(QPainter &painter, const Page &page) const;
+    static void PrintText(QPainter &painter, const Text &text);
 
     std::unique_ptr<QPrinter> printer_;
-    std::optional<FolderItem> openBook_;
-    Tell tell_;
-    std::vector<Page> pages_;
+    std::optional<FolderItem> databaseFile_;
+    ShowFailure showFailure_;
+    /// A deque: a picture can't be moved.
+    std::deque<Page> pages_;
     Color color_;
     QFont font_;
 };
