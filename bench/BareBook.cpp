@@ -1,6 +1,6 @@
 #include "BareBook.h"
 
-#include "support/Book.h"
+#include "support/TestEnvironment.h"
 
 #define SQLITE_HAS_CODEC 1
 #include <sqlite3.h>
@@ -61,8 +61,8 @@ std::string BookingsBefore(const std::string &month) {
            "-01' AND cashbookID = '1'";
 }
 
-void StepJournal(BareBook &book, const std::string &month) {
+void StepJournal(BareBook &env, const std::string &month) {
     // The columns of a booking stand in the order of the table, the name of its tax after them.
-    book.Step(BookingsOf(month), {0, 1, 2, 6, 7, 8, 9, 12, 13}, {5});
-    book.Step(BookingsBefore(month), {2}, {5});
+    env.Step(BookingsOf(month), {0, 1, 2, 6, 7, 8, 9, 12, 13}, {5});
+    env.Step(BookingsBefore(month), {2}, {5});
 }

@@ -28,7 +28,7 @@ private:
 };
 
 /// The two statements behind the journal of the year 2026, or of one month of it, both stepped.
-void StepJournal(BareBook &book, const std::string &month = {});
+void StepJournal(BareBook &env, const std::string &month = {});
 /// Their texts: the bookings of the period, and all that lie before it.
 std::string BookingsOf(const std::string &month);
 std::string BookingsBefore(const std::string &month);

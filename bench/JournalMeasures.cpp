@@ -8,10 +8,10 @@ namespace {
 using Pair = std::shared_ptr<BookPair>;
 
 /// The journal of a month, or for 0 of the year.
-void LoadJournal(benchmark::State &state, LargeBook &book, int month) {
-    book.window.selectors.MonthPopup.SetListIndex(month);
+void LoadJournal(benchmark::State &state, LargeBook &env, int month) {
+    env.window.selectors.MonthPopup.SetListIndex(month);
     for (auto _ : state) {
-        book.window.journal.Reload();
+        env.window.journal.Reload();
     }
 }
 
@@ -57,7 +57,7 @@ Measure SaveBooking(const Pair &books) {
         EntryRow &row = books->ours.window.entryRow;
         for (auto _ : state) {
             state.PauseTiming();
-            books->ours.book.Run(QString::fromLatin1(removeAdded));
+            books->ours.env.Run(QString::fromLatin1(removeAdded));
             books->ours.window.selectors.MonthPopup.SetListIndex(0);
             row.OutputField.SetText(u"12,50"_s);
             row.pickLists.CategoryCombo.SetText(u"Porto"_s);
@@ -84,11 +84,11 @@ Measure DeleteBooking(const Pair &books) {
         window.selectors.MonthPopup.SetListIndex(0);
         for (auto _ : state) {
             state.PauseTiming();
-            books->ours.book.Run(QString::fromLatin1(addOne));
+            books->ours.env.Run(QString::fromLatin1(addOne));
             window.journal.Reload();
             Listbox &list = window.journal.CashList;
             list.SetListIndex(
-                list.FindRow(QString::number(books->ours.book.app.kvoDB().LastRowID())));
+                list.FindRow(QString::number(books->ours.env.app.kvoDB().LastRowID())));
             state.ResumeTiming();
             window.MenuAction(u"delete"_s);
         }

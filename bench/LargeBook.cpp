@@ -27,9 +27,9 @@ const auto fill = u"WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM
 } // namespace
 
 LargeBook::LargeBook(int bookings) {
-    book.Run(QString(fill).replace(u"%1"_s, QString::number(bookings)));
-    book.Run(u"UPDATE cash_book SET opening_balance_date = '2017-01-01'"_s);
+    env.Run(QString(fill).replace(u"%1"_s, QString::number(bookings)));
+    env.Run(u"UPDATE cash_book SET opening_balance_date = '2017-01-01'"_s);
     // Copied while nobody holds a lock on the file, which would go with the handle.
-    EXPECT_TRUE(QFile::copy(book.app.DefaultDatabaseFile().Path(), copy_));
+    EXPECT_TRUE(QFile::copy(env.app.DefaultDatabaseFile().Path(), copy_));
     window.Event_Open();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/MainWindow.h"
-#include "support/Book.h"
+#include "support/TestEnvironment.h"
 
 /// A keyed file with so many bookings of one cash book, spread evenly over the years 2017 to 2026,
 /// and the main window on it, without a view. It shows the last year, with a tenth of them.
@@ -12,9 +12,9 @@ public:
     /// A copy of the file as it was made, for somebody else to open. It goes with the book.
     const QString &Copy() const { return copy_; }
 
-    Book book{Book::Place::File};
-    MainWindow window{book.app};
+    TestEnvironment env{TestEnvironment::Storage::File};
+    MainWindow window{env.app};
 
 private:
-    QString copy_ = book.desktop.Path(QStringLiteral("copy.sdb"));
+    QString copy_ = env.desktop.Path(QStringLiteral("copy.sdb"));
 };

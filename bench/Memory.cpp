@@ -23,8 +23,8 @@ double ResidentKiB() {
     return resident * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1024;
 }
 
-double GrowthOfJournal(LargeBook &book) {
-    MainWindow window(book.book.app);
+double GrowthOfJournal(LargeBook &env) {
+    MainWindow window(env.env.app);
     window.selectors.GetCashbooks(); // No year yet: an empty journal, and a file that is read.
     const double before = ResidentKiB();
     window.selectors.GetJournalYears();
@@ -57,8 +57,8 @@ MemoryOfRows MeasureMemory() {
 }
 
 int PrintGrowth(const std::string &side) {
-    LargeBook book(200000);
-    std::printf("%.0f\n", side == "ours" ? GrowthOfJournal(book)
-                                         : GrowthOfTexts(book.window.journal.CashList));
+    LargeBook env(200000);
+    std::printf("%.0f\n", side == "ours" ? GrowthOfJournal(env)
+                                         : GrowthOfTexts(env.window.journal.CashList));
     return 0;
 }

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 Measure ExportYear(const std::shared_ptr<BookPair> &books) {
-    FakeDesktop &desktop = books->ours.book.desktop;
+    FakeDesktop &desktop = books->ours.env.desktop;
     desktop.fileToSave = FolderItem(desktop.Path(u"export.txt"_s));
     books->ours.window.MenuAction(u"export"_s);
     QFile written(desktop.fileToSave->Path());
@@ -89,14 +89,14 @@ private:
 /// A main window on its own large book, with paper that counts. The journal stands in the list, and
 /// has gone from the file: what the report asks the database takes no time.
 struct Printing {
-    Printing() : desktop(book.book.desktop), app(desktop, book.book.app.Locale()), window(app) {
+    Printing() : desktop(env.env.desktop), app(desktop, env.env.app.Locale()), window(app) {
         EXPECT_TRUE(app.DBLoad());
         app.Connect();
         window.Event_Open();
         app.kvoDB().SQLExecute(u"DELETE FROM cash_journal"_s);
     }
 
-    LargeBook book{200000};
+    LargeBook env{200000};
     CountingDesktop desktop;
     App app;
     MainWindow window;

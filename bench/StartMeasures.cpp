@@ -32,11 +32,11 @@ void Start(benchmark::State &state, const FakeDesktop &desktop, const QString &p
 }
 
 /// The program, and an empty window on the same file after these statements.
-Measure StartOf(const std::string &name, double goal, const LargeBook &book,
+Measure StartOf(const std::string &name, double goal, const LargeBook &env,
                 const QStringList &statements) {
-    const FakeDesktop &desktop = book.book.desktop;
+    const FakeDesktop &desktop = env.env.desktop;
     const QStringList arguments =
-        QStringList{book.Copy(), QString::fromLatin1(fixedKey)} + statements;
+        QStringList{env.Copy(), QString::fromLatin1(fixedKey)} + statements;
     return {.name = name,
             .goal = goal,
             .ours = [&desktop](auto &state) { Start(state, desktop, u"start_program"_s, {}); },

@@ -12,13 +12,13 @@
 /// follow, and shows an empty window.
 int main(int argc, char *argv[]) {
     QApplication application(argc, argv);
-    sqlite3 *book = nullptr;
-    sqlite3_open_v2(argv[1], &book, SQLITE_OPEN_READWRITE, nullptr);
-    sqlite3_key(book, argv[2], static_cast<int>(std::strlen(argv[2])));
-    sqlite3_exec(book, "PRAGMA cipher_compatibility = 3", nullptr, nullptr, nullptr);
-    sqlite3_exec(book, "PRAGMA cache_size = -65536", nullptr, nullptr, nullptr);
+    sqlite3 *env = nullptr;
+    sqlite3_open_v2(argv[1], &env, SQLITE_OPEN_READWRITE, nullptr);
+    sqlite3_key(env, argv[2], static_cast<int>(std::strlen(argv[2])));
+    sqlite3_exec(env, "PRAGMA cipher_compatibility = 3", nullptr, nullptr, nullptr);
+    sqlite3_exec(env, "PRAGMA cache_size = -65536", nullptr, nullptr, nullptr);
     for (const char *statement : std::span(argv, static_cast<size_t>(argc)).subspan(3)) {
-        if (sqlite3_exec(book, statement, nullptr, nullptr, nullptr) != SQLITE_OK) {
+        if (sqlite3_exec(env, statement, nullptr, nullptr, nullptr) != SQLITE_OK) {
             return 1;
         }
     }
@@ -27,6 +27,6 @@ int main(int argc, char *argv[]) {
     new PaintWatch(window.objectName(), &application);
     window.show();
     const int result = QApplication::exec();
-    sqlite3_close_v2(book);
+    sqlite3_close_v2(env);
     return result;
 }

@@ -1,6 +1,6 @@
 #include "core/Scripts.h"
 
-#include "support/Book.h"
+#include "support/TestEnvironment.h"
 
 #include <QCryptographicHash>
 
@@ -20,12 +20,12 @@ TEST(Scripts, MakeTheTablesOfTheFileFormatAndEveryRowThatTheyStartWith) {
     const auto sumOf = [](const QString &text) {
         return QCryptographicHash::hash(text.toUtf8(), QCryptographicHash::Sha256).toHex().left(16);
     };
-    const Book book(Book::Place::File);
+    const TestEnvironment env(TestEnvironment::Storage::File);
     for (const Case &each : cases) {
-        const QString shown = ReadWithShell(book.app, each.statement);
+        const QString shown = ReadWithShell(env.app, each.statement);
         EXPECT_EQ(sumOf(shown), each.sum) << qPrintable(shown);
     }
-    book.Run(u"DELETE FROM cash_accounts"_s);
-    book.Run(ChartSKR04SQL());
-    EXPECT_EQ(sumOf(ReadWithShell(book.app, accounts)), "67f5180e34b07b11");
+    env.Run(u"DELETE FROM cash_accounts"_s);
+    env.Run(ChartSKR04SQL());
+    EXPECT_EQ(sumOf(ReadWithShell(env.app, accounts)), "67f5180e34b07b11");
 }

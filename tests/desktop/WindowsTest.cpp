@@ -53,25 +53,25 @@ TEST_F(FirstStartTest, LeadsByTheKeysToABookOfOnesOwn) {
 }
 
 TEST(Windows, OpenTheMainWindowAtOnceOnABookInItsPlace) {
-    Book book(Book::Place::File);
-    Windows windows(book.app);
+    TestEnvironment env(TestEnvironment::Storage::File);
+    Windows windows(env.app);
     windows.Open();
     EXPECT_TRUE(Shown(u"MainWindow"_s) && !Shown(u"WelcomeWindow"_s));
 }
 
 TEST(WelcomeWindowView, ShowsThePointedButtonAndOpensTheManualByKeys) {
-    Book book; // Its desktop tells without a box, and has no pictures.
-    WelcomeWindow welcome(book.app);
+    TestEnvironment env; // Its desktop tells without a box, and has no pictures.
+    WelcomeWindow welcome(env.app);
     MainMenuBar menuBar;
-    WelcomeWindowView view(welcome, menuBar, book.app.Locale());
+    WelcomeWindowView view(welcome, menuBar, env.app.Locale());
     view.show();
     QTest::mouseMove(view.windowHandle(), {600, 200});
     QTest::mouseMove(view.windowHandle(), {700, 250});
     EXPECT_TRUE(QTest::qWaitFor([&view] { return view.grab().toImage().pixel(575, 290) == 0xffe6e6e6; }));
     Type(view.windowHandle(), u"\t "_s); // From the new book to the manual.
-    EXPECT_EQ(book.desktop.opened, QStringList(book.desktop.Path(u"Resources/Zolmark.pdf"_s)));
+    EXPECT_EQ(env.desktop.opened, QStringList(env.desktop.Path(u"Resources/Zolmark.pdf"_s)));
     auto *manual = view.findChild<QWidget *>(u"ManualCanvas"_s);
     QTest::mouseClick(manual, Qt::LeftButton);
     QTest::mouseDClick(manual, Qt::LeftButton);
-    EXPECT_EQ(book.desktop.opened.size(), 2) << "a double click opens it once";
+    EXPECT_EQ(env.desktop.opened.size(), 2) << "a double click opens it once";
 }

@@ -7,15 +7,15 @@ class RandomUser {
 public:
     using Dice = std::function<int(int)>;
     explicit RandomUser(Dice dice) : any(std::move(dice)) {
-        book.desktop.paper.emplace();
-        book.desktop.fileToSave = FolderItem(book.desktop.Path(u"export.txt"_s));
+        env.desktop.paper.emplace();
+        env.desktop.fileToSave = FolderItem(env.desktop.Path(u"export.txt"_s));
         window.Event_Open();
         view.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
     }
 
     void Act() {
-        book.desktop.menuChoice = any(2);
+        env.desktop.menuChoice = any(2);
         const int dice = any(20);
         if (dice < 2) {
             Submit();
@@ -50,20 +50,20 @@ public:
         }
         EXPECT_EQ(shown, Stored());
         EXPECT_EQ(window.balances.LastAmountLabel.Text(), bookings.Cell(bookings.LastIndex(), Journal::Balance));
-        EXPECT_EQ(book.Value(u"PRAGMA integrity_check"_s), u"ok"_s);
+        EXPECT_EQ(env.Value(u"PRAGMA integrity_check"_s), u"ok"_s);
         // The last is that of a booking which was deleted while it was open for change.
         static const QRegularExpression known(u"^(Hauptkasse kann nicht gelöscht werden!|"
                                               "DB Error: UNIQUE constraint failed: cash_book.account|"
                                               "DB Error: Der Datensatz ist nicht mehr vorhanden.)$"_s);
-        for (const QString &message : book.desktop.TakeMessages().split(u'|', Qt::SkipEmptyParts)) {
+        for (const QString &message : env.desktop.TakeMessages().split(u'|', Qt::SkipEmptyParts)) {
             EXPECT_TRUE(known.match(message).hasMatch()) << qPrintable(message);
         }
-        book.desktop.paper->clear();
-        book.desktop.opened.clear();
+        env.desktop.paper->clear();
+        env.desktop.opened.clear();
     }
 
     QString Count(const QString &condition) const {
-        return book.Value(u"SELECT count(*) FROM cash_journal WHERE "_s + condition);
+        return env.Value(u"SELECT count(*) FROM cash_journal WHERE "_s + condition);
     }
 
 private:
@@ -133,13 +133,13 @@ private:
     QStringList Stored() const {
         const Selectors &at = window.selectors;
         const QString lines = ReadWithShell(
-            book.app, u"SELECT id || '|E|' || ifnull(opening_balance, 0) FROM cash_book WHERE id = %1;"
-                      "SELECT id || '|' || type || '|' || amount FROM cash_journal WHERE vdate < '%2' AND %3;"
-                      "SELECT 'rows';"
-                      "SELECT id || '|' || type || '|' || amount FROM cash_journal WHERE %4 ORDER BY vdate, id"_s
-                          .arg(at.SelectedCashbookID())
-                          .arg(at.PeriodStartSQL(), at.CashbookCondition(), Condition()));
-        const UserLocale &locale = book.app.Locale();
+            env.app, u"SELECT id || '|E|' || ifnull(opening_balance, 0) FROM cash_book WHERE id = %1;"
+                     "SELECT id || '|' || type || '|' || amount FROM cash_journal WHERE vdate < '%2' AND %3;"
+                     "SELECT 'rows';"
+                     "SELECT id || '|' || type || '|' || amount FROM cash_journal WHERE %4 ORDER BY vdate, id"_s
+                         .arg(at.SelectedCashbookID())
+                         .arg(at.PeriodStartSQL(), at.CashbookCondition(), Condition()));
+        const UserLocale &locale = env.app.Locale();
         Currency balance;
         QStringList stored;
         for (const QString &line : lines.split(u'\n')) {
@@ -178,10 +178,10 @@ private:
                                                           Qt::KeypadModifier};
 
     Dice any;
-    Book book{Book::Place::File};
-    MainWindow window{book.app};
+    TestEnvironment env{TestEnvironment::Storage::File};
+    MainWindow window{env.app};
     const Listbox &bookings = window.journal.CashList;
-    MainWindowView view{window, book.app.Locale(), book.app.Resources()};
+    MainWindowView view{window, env.app.Locale(), env.app.Resources()};
 };
 
 using Actions = Endurance;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "setup/WelcomeWindow.h"
-#include "support/Book.h"
+#include "support/TestEnvironment.h"
 
 /// The program from its start, without a widget: the welcome window makes a book if there is none, and opens the main
 /// window. What fails is told by the desktop's messages.

@@ -11,7 +11,7 @@ protected:
 
     FakeDesktop desktop;
     const QString root = desktop.Path({});
-    const FolderItem book = App(desktop, UserLocale(QLocale())).DefaultDatabaseFile();
+    const FolderItem env = App(desktop, UserLocale(QLocale())).DefaultDatabaseFile();
     QFile exported{root + u"/export.txt"_s};
     std::optional<Program> program;
 };
@@ -27,7 +27,7 @@ TEST_F(Refusal, IsToldAndLeavesWhatWasThere) {
                           {u"Die Datei "_s, [](auto &at) { at.window->MenuAction(u"export"_s); }},
                           {u"not told"_s, [](auto &at) { at.Delete(0); }}};
     Run(60, [&] {
-        static_cast<void>(book.Delete());
+        static_cast<void>(env.Delete());
         program.emplace(desktop);
         program->Submit(QString::number(random()), u"2.50"_s);
         EXPECT_TRUE(exported.open(QIODevice::WriteOnly) && exported.write("before") > 0);
@@ -37,7 +37,7 @@ TEST_F(Refusal, IsToldAndLeavesWhatWasThere) {
         {
             // What is there can be written over: the journal is too long, or the book.
             const int bytes = Any(40'000);
-            const FullDisk disk(bytes < 10'000 ? bytes / 10 : QFile(book.Path()).size() + bytes / 2);
+            const FullDisk disk(bytes < 10'000 ? bytes / 10 : QFile(env.Path()).size() + bytes / 2);
             program.emplace(desktop);
             step.take(*program);
         }

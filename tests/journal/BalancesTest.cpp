@@ -1,14 +1,14 @@
-#include "support/Book.h"
+#include "support/TestEnvironment.h"
 
-using BalancesTest = BookTest;
+using BalancesTest = EnvironmentTest;
 
 TEST_F(BalancesTest, CarryEarlierBookingsIntoThePeriodAndSumATypeOverAllCashBooks) {
-    book.Add({u"2024-12-31"_s, u"E"_s, u"50"_s});
-    book.Add({u"2024-11-30"_s, u"EX"_s, u"7"_s}); // Of no known type: it does not count.
-    book.Add({u"2026-01-31"_s, u"a"_s, u"150"_s});
-    book.Add({u"2026-02-01"_s, u"E"_s, u"0.1"_s});
-    book.Add({u"2026-03-31"_s, u"A"_s, u"0.75"_s});
-    book.Add({.date = u"2026-02-28"_s, .type = u"E"_s, .amount = u"0.2"_s, .cashbook = u"2"_s});
+    env.Add({u"2024-12-31"_s, u"E"_s, u"50"_s});
+    env.Add({u"2024-11-30"_s, u"EX"_s, u"7"_s}); // Of no known type: it does not count.
+    env.Add({u"2026-01-31"_s, u"a"_s, u"150"_s});
+    env.Add({u"2026-02-01"_s, u"E"_s, u"0.1"_s});
+    env.Add({u"2026-03-31"_s, u"A"_s, u"0.75"_s});
+    env.Add({.date = u"2026-02-28"_s, .type = u"E"_s, .amount = u"0.2"_s, .cashbook = u"2"_s});
     window.Event_Open();
     const Balances &shown = window.balances;
     struct Case {

@@ -1,9 +1,9 @@
 #include "platform/controls/MenuItem.h"
-#include "support/Book.h"
+#include "support/TestEnvironment.h"
 
-class EntryRowTest : public BookTest {
+class EntryRowTest : public EnvironmentTest {
 protected:
-    EntryRowTest() : BookTest(Book::Place::File) { window.Event_Open(); }
+    EntryRowTest() : EnvironmentTest(TestEnvironment::Storage::File) { window.Event_Open(); }
 
     void Submit(const QString &receipt, const QString &account = u"Erlöse 19% USt"_s) {
         row.InputField.SetText(receipt);
@@ -16,7 +16,7 @@ protected:
     }
     /// Columns of the last booking, one after the other.
     QString Columns(const QString &columns) const {
-        return book.Value(
+        return env.Value(
             u"SELECT %1 FROM cash_journal ORDER BY id DESC LIMIT 1"_s.arg(columns.split(u' ').join(u" || '|' || "_s)));
     }
 
@@ -32,8 +32,8 @@ TEST_F(EntryRowTest, WritesEveryColumnOfAReceiptAndOfAnExpense) {
     row.DateField.SetDateValue(Date(QDate(2026, 3, 16)));
     TypeExpense(u"3"_s);
     row.SubmitButton.Press();
-    EXPECT_EQ(ReadWithShell(book.app, u".nullvalue NULL\nSELECT *, typeof(amount), typeof(input), "
-                                      "typeof(cashbookID), typeof(bdate) FROM cash_journal"_s),
+    EXPECT_EQ(ReadWithShell(env.app, u".nullvalue NULL\nSELECT *, typeof(amount), typeof(input), "
+                                     "typeof(cashbookID), typeof(bdate) FROM cash_journal"_s),
               u"1|2026-03-15|E|12.50|NULL|12.5|3|Erlöse 19% USt|R-1|'); DROP TABLE cash_journal; "
               u"-- %1 \"\u202e\U0001F469\u200D|1|2026-03-15 12:00:00|8400|real|text|integer|text\n"
               "2|2026-03-16|A|NULL|3|3.0|9|Porto|||1|2026-03-15 12:00:00|4910|real|null|integer|text"_s);
@@ -59,7 +59,7 @@ TEST_F(EntryRowTest, KeepsAnyAmountAsTypedAndShowsTheNumberAtItsStart) {
         EXPECT_EQ(Columns(u"typeof(amount)"_s), each.type) << qPrintable(each.typed);
         EXPECT_EQ(bookings.Cell(-1, Journal::Input), each.shown);
         EXPECT_EQ(bookings.Cell(-1, Journal::Balance), each.balance) << qPrintable(each.typed);
-        book.Run(u"DELETE FROM cash_journal"_s);
+        env.Run(u"DELETE FROM cash_journal"_s);
     }
 }
 
@@ -107,7 +107,7 @@ TEST_F(EntryRowTest, TellsACategoryWithoutAnAccountAndTheSideThatIsEntered) {
 }
 
 TEST_F(EntryRowTest, LocksTheOtherAmountAndOffersItsSide) {
-    book.Run(u"UPDATE cash_accounts SET name = 'Äpfel' WHERE name = 'Privateinlagen'"_s);
+    env.Run(u"UPDATE cash_accounts SET name = 'Äpfel' WHERE name = 'Privateinlagen'"_s);
     row.InputField.SetText(u"1"_s);
     EXPECT_EQ(category.List(0), u"Äpfel"_s);
     EXPECT_FALSE(row.OutputField.Enabled());
@@ -120,18 +120,18 @@ TEST_F(EntryRowTest, LocksTheOtherAmountAndOffersItsSide) {
 }
 
 TEST_F(EntryRowTest, BooksIntoTheCashBookThatWasMeantOrNowhere) {
-    book.Run(u"INSERT INTO cash_book (name, account) VALUES ('Laden', '1010')"_s);
+    env.Run(u"INSERT INTO cash_book (name, account) VALUES ('Laden', '1010')"_s);
     row.NewSale();
     window.selectors.CashbookPopup.SetListIndex(1);
     const QStringList tables = {u"cash_book"_s, u"cash_journal"_s};
     const QString failure = u"DB Error: no such table: cash_journal"_s;
     const auto failToLoad = [&] {
-        book.Hide({tables[1]});
-        book.Break(tables[0]);
+        env.Hide({tables[1]});
+        env.Break(tables[0]);
         row.NewSale();
         bookings.SetListIndex(0);
         row.EditSale(EntryRow::EditMode::Change); // Of the booking from the first time.
-        EXPECT_EQ(book.desktop.TakeMessages(), failure);
+        EXPECT_EQ(env.desktop.TakeMessages(), failure);
     };
     QString typed = u"5"_s;
     for (PushButton *button : {&row.SubmitButton, &row.ChangeButton}) {
@@ -141,15 +141,15 @@ TEST_F(EntryRowTest, BooksIntoTheCashBookThatWasMeantOrNowhere) {
         button->Press();
         EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Kasse auswählen!"_s);
         EXPECT_EQ(row.InputField.Text(), typed);
-        EXPECT_EQ(book.desktop.TakeMessages(), failure) << "the lists were read again";
-        book.Show(tables);
+        EXPECT_EQ(env.desktop.TakeMessages(), failure) << "the lists were read again";
+        env.Show(tables);
         button->Press();
         EXPECT_EQ(Columns(u"id cashbookID amount"_s), u"1|2|%1.0"_s.arg(typed));
         typed = u"7"_s;
     }
     for (const auto &word : {u"print"_s, u"export"_s}) {
         failToLoad();
-        book.Show(tables);
+        env.Show(tables);
         window.MenuAction(word);
         EXPECT_EQ(window.selectors.CashbookPopup.Text() + window.selectors.YearPopup.Text(), u"1010:Laden2026"_s);
     }
@@ -160,13 +160,13 @@ TEST_F(EntryRowTest, OffersNothingOfTheOtherSideWhenTheListsCannotBeRead) {
     row.InputField.SetText(u"1"_s);
     category.SetText(u"Erlöse 7% USt"_s);
     row.InputField.SetText({});
-    book.Hide(tables);
+    env.Hide(tables);
     row.OutputField.SetText(u"3"_s);
     EXPECT_EQ(tax.ListCount() + category.ListCount(), 0);
     EXPECT_EQ(tax.Text() + category.Text(), QString());
     row.SubmitButton.Press();
     EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Steuer auswählen!"_s);
-    book.Show(tables);
+    env.Show(tables);
     category.SetText(u"Porto"_s);
     row.SubmitButton.Press();
     EXPECT_EQ(Columns(u"type tax category account"_s), u"A|9|Porto|4910"_s);
@@ -189,7 +189,7 @@ protected:
         Submit(u"10"_s);
         bookings.SetListIndex(0);
         row.DateField.SetDateValue(Date(QDate(2027, 1, 9)));
-        book.desktop.now = Date(QDateTime(QDate(2026, 4, 1), QTime(8, 0)));
+        env.desktop.now = Date(QDateTime(QDate(2026, 4, 1), QTime(8, 0)));
     }
     void Change() {
         bookings.SetListIndex(0);
@@ -220,10 +220,10 @@ TEST_F(ChangeTest, ACopyFromTheMenuBecomesANewBooking) {
 }
 
 TEST_F(ChangeTest, KeepsTheNameOfASwitchedOffAccountAndAsksForASwitchedOffTax) {
-    book.Run(u"UPDATE cash_accounts SET active = 0 WHERE account = '8400'"_s);
+    env.Run(u"UPDATE cash_accounts SET active = 0 WHERE account = '8400'"_s);
     Change();
     EXPECT_EQ(Columns(u"category account"_s), u"Erlöse 19% USt|"_s);
-    book.Run(u"UPDATE cash_tax SET active = 0 WHERE id = 3"_s);
+    env.Run(u"UPDATE cash_tax SET active = 0 WHERE id = 3"_s);
     Change();
     EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Steuer auswählen!"_s);
 }

@@ -1,15 +1,15 @@
 #include "journal/Selectors.h"
 
-#include "support/Book.h"
+#include "support/TestEnvironment.h"
 
 TEST(Selectors, OfferTheYearsOfAllBookingsAndShowThePeriodOfADate) {
-    Book book;
-    Selectors selectors(book.app);
+    TestEnvironment env;
+    Selectors selectors(env.app);
     selectors.LoadMonths();
     selectors.GetJournalYears();
     EXPECT_EQ(selectors.PeriodStartSQL(), u"2026-01-01"_s) << "the opening year";
     for (const auto &year : {u"2024"_s, u"2027"_s, u"2024"_s, u"2025"_s}) {
-        book.Add({year + u"-12-31"_s, u"E"_s, u"1"_s, {}, {}, u"2"_s});
+        env.Add({year + u"-12-31"_s, u"E"_s, u"1"_s, {}, {}, u"2"_s});
     }
     selectors.GetJournalYears();
     const PopupMenu &years = selectors.YearPopup;
@@ -22,14 +22,14 @@ TEST(Selectors, OfferTheYearsOfAllBookingsAndShowThePeriodOfADate) {
 }
 
 TEST(Selectors, OfferNoYearAfterAFailedQueryAndReadItAgainWhenItIsNeeded) {
-    const Book book;
-    Selectors selectors(book.app);
-    book.Add({u"2024-12-31"_s, u"E"_s, u"1"_s});
+    const TestEnvironment env;
+    Selectors selectors(env.app);
+    env.Add({u"2024-12-31"_s, u"E"_s, u"1"_s});
     selectors.GetJournalYears();
-    book.Hide({u"cash_journal"_s});
+    env.Hide({u"cash_journal"_s});
     selectors.GetJournalYears();
     EXPECT_EQ(selectors.YearPopup.ListCount(), 0) << "the opening year is 2026";
-    book.Show({u"cash_journal"_s});
+    env.Show({u"cash_journal"_s});
     selectors.GetMissing();
     EXPECT_EQ(selectors.YearPopup.Text(), u"2024"_s);
 }

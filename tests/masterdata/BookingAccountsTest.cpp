@@ -1,23 +1,23 @@
 #include "masterdata/BookingAccounts.h"
 
-#include "support/Book.h"
+#include "support/TestEnvironment.h"
 
 class BookingAccountsTest : public testing::Test {
 protected:
     BookingAccountsTest() {
-        book.Run(u"DELETE FROM cash_accounts"_s);
-        book.Run(u"INSERT INTO cash_accounts (id, name, account, type, active, taxID) VALUES "
-                 "(1, 'ölig', '0815', 'A', '1', 9), (2, 'b', '4711', 'E', '0', 9), (3, 'A', NULL, 'E', NULL, 9)"_s);
+        env.Run(u"DELETE FROM cash_accounts"_s);
+        env.Run(u"INSERT INTO cash_accounts (id, name, account, type, active, taxID) VALUES "
+                "(1, 'ölig', '0815', 'A', '1', 9), (2, 'b', '4711', 'E', '0', 9), (3, 'A', NULL, 'E', NULL, 9)"_s);
         accounts.LoadCashAccounts();
     }
 
     /// Columns of all accounts, in the order of their ids, as the database holds them.
     QString Stored(const QString &columns) const {
-        return book.Value(u"SELECT group_concat(ifnull(%1, 'NULL'), ' ') FROM cash_accounts"_s.arg(columns));
+        return env.Value(u"SELECT group_concat(ifnull(%1, 'NULL'), ' ') FROM cash_accounts"_s.arg(columns));
     }
 
-    Book book;
-    BookingAccounts accounts{book.app};
+    TestEnvironment env;
+    BookingAccounts accounts{env.app};
     Listbox &list = accounts.CashaccountList;
     TLXPlusMinusButton &button = accounts.AccountsAdd;
 };
@@ -49,7 +49,7 @@ TEST_F(BookingAccountsTest, WritesTheOpenCellIntoItsOwnRowBeforeTheRowsChange) {
 TEST_F(BookingAccountsTest, ChoosesTheKindFromAMenu) {
     const auto choose = [this](int row, std::optional<int> choice, int column = BookingAccounts::Kind) {
         bool taken = false;
-        book.desktop.menuChoice = choice;
+        env.desktop.menuChoice = choice;
         Q_EMIT list.MouseDown(row, column, taken);
         Q_EMIT list.MouseUp(row, column);
         EXPECT_EQ(taken, column == BookingAccounts::Kind);

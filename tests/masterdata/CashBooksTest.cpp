@@ -1,6 +1,6 @@
 #include "masterdata/CashBooks.h"
 
-#include "support/Book.h"
+#include "support/TestEnvironment.h"
 
 class CashBooksTest : public testing::Test {
 protected:
@@ -8,26 +8,26 @@ protected:
 
     /// All cash books but the first, as the database holds them.
     QString Stored() const {
-        return book.Value(u"SELECT group_concat(name || ' ' || account || ' ' || opening_balance "
-                          "|| ' ' || opening_balance_date, ', ') FROM cash_book WHERE id > 1"_s);
+        return env.Value(u"SELECT group_concat(name || ' ' || account || ' ' || opening_balance "
+                         "|| ' ' || opening_balance_date, ', ') FROM cash_book WHERE id > 1"_s);
     }
 
-    Book book;
-    CashBooks books{book.app};
+    TestEnvironment env;
+    CashBooks books{env.app};
     Listbox &list = books.CashbookList;
     TLXPlusMinusButton &button = books.CashBookAdd;
 };
 
 TEST_F(CashBooksTest, ListsWhatTheBookHoldsAndKeepsTheMainOneFirst) {
-    book.Run(u"INSERT INTO cash_book VALUES (7, 'Büro', NULL, '12,50', 'bald', NULL)"_s);
+    env.Run(u"INSERT INTO cash_book VALUES (7, 'Büro', NULL, '12,50', 'bald', NULL)"_s);
     books.LoadCashBook();
     list.PressHeading(CashBooks::Name);
     EXPECT_EQ(list.Heading(-1), u"Kassen\tKonto\tAnfangsbetsand\tDatum"_s);
     EXPECT_EQ(list.Cell(-1, -1), u"Kasse\t1000\t100.0\t01.01.2026\nBüro\t\t12,50\tbald"_s);
-    book.Run(u"UPDATE cash_book SET id = 2 WHERE id = 7"_s);
-    book.Break(u"cash_book"_s);
+    env.Run(u"UPDATE cash_book SET id = 2 WHERE id = 7"_s);
+    env.Break(u"cash_book"_s);
     books.LoadCashBook();
-    EXPECT_EQ(book.desktop.TakeMessages(), u"DB Error: integer overflow"_s);
+    EXPECT_EQ(env.desktop.TakeMessages(), u"DB Error: integer overflow"_s);
 }
 
 TEST_F(CashBooksTest, PlusNumbersNewBooksAndTabWritesEachCellAsTyped) {
@@ -46,11 +46,11 @@ TEST_F(CashBooksTest, PlusNumbersNewBooksAndTabWritesEachCellAsTyped) {
     list.EditCell(2, CashBooks::Account);
     list.SetEditText(u"990"_s);
     Q_EMIT button.PlusPressed();
-    EXPECT_EQ(book.desktop.TakeMessages(), u"DB Error: UNIQUE constraint failed: cash_book.account"_s);
+    EXPECT_EQ(env.desktop.TakeMessages(), u"DB Error: UNIQUE constraint failed: cash_book.account"_s);
 }
 
 TEST_F(CashBooksTest, MinusRemovesTheSelectedBookButNeverTheMainOne) {
-    book.Add({.date = u"2026-01-02"_s, .type = u"A"_s, .amount = u"2"_s, .cashbook = u"2"_s});
+    env.Add({.date = u"2026-01-02"_s, .type = u"A"_s, .amount = u"2"_s, .cashbook = u"2"_s});
     Q_EMIT button.PlusPressed();
     Q_EMIT button.PlusPressed();
     list.SetEditText(u"Laden"_s);
@@ -61,6 +61,6 @@ TEST_F(CashBooksTest, MinusRemovesTheSelectedBookButNeverTheMainOne) {
     }
     list.SetListIndex(0);
     Q_EMIT button.MinusPressed();
-    EXPECT_EQ(book.desktop.TakeMessages(), u"Hauptkasse kann nicht gelöscht werden!"_s);
-    EXPECT_EQ(book.Value(u"SELECT count(*) FROM cash_journal, cash_book"_s), u"2"_s);
+    EXPECT_EQ(env.desktop.TakeMessages(), u"Hauptkasse kann nicht gelöscht werden!"_s);
+    EXPECT_EQ(env.Value(u"SELECT count(*) FROM cash_journal, cash_book"_s), u"2"_s);
 }

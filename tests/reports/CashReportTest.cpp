@@ -1,24 +1,24 @@
-#include "support/Book.h"
+#include "support/TestEnvironment.h"
 
-class CashReportTest : public BookTest {
+class CashReportTest : public EnvironmentTest {
 protected:
     void Open() {
-        book.Run(u"UPDATE core_company SET company = 'Holz & Söhne', department = 'Werkstatt', "
-                 "street = 'Am Markt 1', city = 'Köln'"_s);
+        env.Run(u"UPDATE core_company SET company = 'Holz & Söhne', department = 'Werkstatt', "
+                "street = 'Am Markt 1', city = 'Köln'"_s);
         window.Event_Open();
-        book.desktop.paper.emplace();
+        env.desktop.paper.emplace();
     }
     QStringList Print() {
         window.MenuAction(u"print"_s);
-        return *std::exchange(book.desktop.paper, QStringList());
+        return *std::exchange(env.desktop.paper, QStringList());
     }
 };
 
 TEST_F(CashReportTest, DrawsWhatTheJournalShowsAndTheTotals) {
     const QString wood = u"Erlöse aus dem Verkauf von Holz"_s;
-    book.Add({u"2026-03-01"_s, u"E"_s, u"119"_s, u"3"_s, wood, u"1"_s, {}, u"17"_s, u"bar"_s});
-    book.Add({u"2026-03-02"_s, u"A"_s, u"1234567.5"_s, u"0"_s});
-    book.Add({.date = u"2025-03-02"_s, .type = u"E"_s, .amount = u"0.5"_s, .cashbook = u"2"_s});
+    env.Add({u"2026-03-01"_s, u"E"_s, u"119"_s, u"3"_s, wood, u"1"_s, {}, u"17"_s, u"bar"_s});
+    env.Add({u"2026-03-02"_s, u"A"_s, u"1234567.5"_s, u"0"_s});
+    env.Add({.date = u"2025-03-02"_s, .type = u"E"_s, .amount = u"0.5"_s, .cashbook = u"2"_s});
     Open();
     const QStringList lines[] = {
         {u"333333 Courier 9 40 15 Holz & Söhne Werkstatt - Am Markt 1 - Köln"_s, u"410 15 Sonntag, 15. März 2026"_s,
@@ -53,10 +53,10 @@ TEST_F(CashReportTest, EndsAPageAfterItsLastLine) {
                           {58, 2, u"40 95 01.01.2026"_s, u"40 137 Anfangsbestand"_s}};
     Open();
     for (const Case &each : cases) {
-        book.Run(u"DELETE FROM cash_journal"_s);
-        book.Run(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %1) "
-                 "INSERT INTO cash_journal (vdate, type, amount, tax, cashbookID) "
-                 "SELECT '2026-01-01', 'E', 1, '3', 1 FROM n WHERE i <= %1"_s.arg(each.rows));
+        env.Run(u"DELETE FROM cash_journal"_s);
+        env.Run(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %1) "
+                "INSERT INTO cash_journal (vdate, type, amount, tax, cashbookID) "
+                "SELECT '2026-01-01', 'E', 1, '3', 1 FROM n WHERE i <= %1"_s.arg(each.rows));
         window.journal.Reload();
         const QStringList drawn = Print();
         const QStringList rows = drawn.filter(u" 01.01.2026"_s);

@@ -1,13 +1,13 @@
-#include "support/Book.h"
+#include "support/TestEnvironment.h"
 
 #include <QFile>
 
 const QByteArray headings("Belegdatum;Buchungsbetrag;Steuerschl\xFCssel;Steuer;Buchungstext;"
                           "Belegnummer;Sollkonto;Habenkonto;W\xE4hrung;Notiz;Intern\r\n");
 
-class ExportTest : public BookTest {
+class ExportTest : public EnvironmentTest {
 protected:
-    ExportTest() { book.desktop.fileToSave = FolderItem(path); }
+    ExportTest() { env.desktop.fileToSave = FolderItem(path); }
 
     QByteArray Export() {
         window.MenuAction(u"export"_s);
@@ -15,17 +15,17 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
 
-    const QString path = book.desktop.Path(u"export.txt"_s);
+    const QString path = env.desktop.Path(u"export.txt"_s);
 };
 
 TEST_F(ExportTest, WritesTheYearOfTheCashBookByteForByte) {
-    book.Run(u"INSERT INTO cash_book (id, name, account) VALUES ('7', 'Laden', '1010')"_s);
-    book.Run(u"INSERT INTO cash_journal (vdate, type, amount, tax, category, salesnumber, note, "
-             "cashbookID, account) VALUES "
-             "('2026-12-31', 'A', 0.5, '0', 'Bürobedarf', '', 'a;b\tc\nd\re\r\nf', 1, '4930'), "
-             "('2026-03-15', 'e', 119, '3', 'Erlöse', '17', '5 € „Łódź“ ⅔ Жук 🎉 Mu\u0308ller', 1, "
-             "'8400'), ('2026-04-01', 'A', -3, '77', '', '', '', 1, ''), "
-             "('2025-03-15', 'E', 1, '3', '', '', '', 1, ''), ('2026-05-01', 'E', 2, '3', '', '', NULL, 7, NULL)"_s);
+    env.Run(u"INSERT INTO cash_book (id, name, account) VALUES ('7', 'Laden', '1010')"_s);
+    env.Run(u"INSERT INTO cash_journal (vdate, type, amount, tax, category, salesnumber, note, "
+            "cashbookID, account) VALUES "
+            "('2026-12-31', 'A', 0.5, '0', 'Bürobedarf', '', 'a;b\tc\nd\re\r\nf', 1, '4930'), "
+            "('2026-03-15', 'e', 119, '3', 'Erlöse', '17', '5 € „Łódź“ ⅔ Жук 🎉 Mu\u0308ller', 1, "
+            "'8400'), ('2026-04-01', 'A', -3, '77', '', '', '', 1, ''), "
+            "('2025-03-15', 'E', 1, '3', '', '', '', 1, ''), ('2026-05-01', 'E', 2, '3', '', '', NULL, 7, NULL)"_s);
     window.Event_Open();
     window.selectors.MonthPopup.SetListIndex(3);
     EXPECT_EQ(Export(), headings + "15.03.2026;119,00;3;19% USt.;Erl\xF6se;17;1000;8400;EUR;5 \x80 \x84L\xF3"
@@ -36,19 +36,19 @@ TEST_F(ExportTest, WritesTheYearOfTheCashBookByteForByte) {
 }
 
 TEST(Export, RefusesTheOpenBookAsItsFile) {
-    Book book(Book::Place::File);
-    MainWindow window(book.app);
+    TestEnvironment env(TestEnvironment::Storage::File);
+    MainWindow window(env.app);
     window.Event_Open();
-    const QString place = book.app.DefaultDatabaseFile().Path();
-    const QString link = book.desktop.Path(u"link.txt"_s);
+    const QString place = env.app.DefaultDatabaseFile().Path();
+    const QString link = env.desktop.Path(u"link.txt"_s);
     ASSERT_TRUE(QFile::link(place, link));
     for (const QString &path : {place, link}) {
-        book.desktop.fileToSave = FolderItem(path);
+        env.desktop.fileToSave = FolderItem(path);
         window.MenuAction(u"export"_s);
-        EXPECT_EQ(book.desktop.TakeMessages(),
+        EXPECT_EQ(env.desktop.TakeMessages(),
                   u"Die Datei %1 konnte nicht geschrieben werden: Sie ist das geöffnete Kassenbuch."_s.arg(path));
     }
-    EXPECT_EQ(ReadWithShell(book.app, u"SELECT company FROM core_company"_s), u"Muster"_s);
+    EXPECT_EQ(ReadWithShell(env.app, u"SELECT company FROM core_company"_s), u"Muster"_s);
     window.MenuAction(u"print"_s);
-    EXPECT_TRUE(book.desktop.notToPrintInto && book.desktop.notToPrintInto->Path() == place);
+    EXPECT_TRUE(env.desktop.notToPrintInto && env.desktop.notToPrintInto->Path() == place);
 }

@@ -1,7 +1,7 @@
 #include "setup/WelcomeWindow.h"
 
-#include "support/Book.h"
 #include "support/EventLog.h"
+#include "support/TestEnvironment.h"
 
 #include <QDir>
 

@@ -1,6 +1,6 @@
-#include "support/Book.h"
+#include "support/TestEnvironment.h"
 
-using MainWindowTest = BookTest;
+using MainWindowTest = EnvironmentTest;
 
 TEST_F(MainWindowTest, TellsEachStatementThatFailsAndLeavesTheShownFigures) {
     struct Case {
@@ -38,9 +38,9 @@ TEST_F(MainWindowTest, TellsEachStatementThatFailsAndLeavesTheShownFigures) {
                           {"an account more", u"cash_accounts"_s, [&account1] { Q_EMIT account1.PlusPressed(); }},
                           {"an account less", u"cash_accounts"_s, [&account1] { Q_EMIT account1.MinusPressed(); }},
                           {"close", u"core_company"_s, [this] { window.Event_Close(); }}};
-    book.Add({u"2026-01-01"_s, u"E"_s, u"1"_s});
-    book.Add({u"2026-02-01"_s, u"E"_s, u"2"_s});
-    book.Run(u"INSERT INTO cash_book (name, account) VALUES ('Laden', '1010')"_s);
+    env.Add({u"2026-01-01"_s, u"E"_s, u"1"_s});
+    env.Add({u"2026-02-01"_s, u"E"_s, u"2"_s});
+    env.Run(u"INSERT INTO cash_book (name, account) VALUES ('Laden', '1010')"_s);
     window.MenuAction(u"preferences"_s);
     const QString lists = books.Cell(-1, -1) + accounts.Cell(-1, -1);
     for (const Case &each : cases) {
@@ -49,21 +49,21 @@ TEST_F(MainWindowTest, TellsEachStatementThatFailsAndLeavesTheShownFigures) {
         for (Listbox *list : {&bookings, &books, &accounts}) { list->SetListIndex(1); }
         window.MenuAction(u"edit"_s);
         window.companyProfile.CityField.SetText(u"Köln"_s);
-        book.desktop.paper.emplace();
-        book.Hide({each.table});
+        env.desktop.paper.emplace();
+        env.Hide({each.table});
         each.run();
-        EXPECT_EQ(book.desktop.TakeMessages().count(u"no such table: "_s + each.table), each.messages) << each.command;
+        EXPECT_EQ(env.desktop.TakeMessages().count(u"no such table: "_s + each.table), each.messages) << each.command;
         // The opening balance of a cash book that cannot be read counts as 0.
         EXPECT_TRUE(each.table == u"cash_book"_s || shown() == figures) << each.command;
         EXPECT_EQ(books.Cell(-1, -1) + accounts.Cell(-1, -1), lists) << each.command;
-        book.Show({each.table});
+        env.Show({each.table});
     }
 }
 
 TEST_F(MainWindowTest, TakesACommandInAnyLettersAndEndsTheProgramForAnEntryThatIsMissing) {
     window.MenuAction(u"ABOUT"_s);
     window.MenuAction(u"nothing"_s);
-    EXPECT_EQ(book.desktop.opened, QStringList(u"about"_s));
+    EXPECT_EQ(env.desktop.opened, QStringList(u"about"_s));
     EXPECT_DEATH(window.menuBar.DataMenu().Child(u"Fehlt"), "Fehlt");
 }
 
@@ -74,6 +74,6 @@ TEST_F(MainWindowTest, WritesWhatIsTypedInEveryOpenCellBeforeItCloses) {
         list->SetEditText(u"neu"_s);
     }
     window.Event_Close();
-    EXPECT_EQ(book.Value(u"SELECT count(*) FROM cash_book cb, cash_accounts ca WHERE cb.name || ca.name = 'neuneu'"_s),
+    EXPECT_EQ(env.Value(u"SELECT count(*) FROM cash_book cb, cash_accounts ca WHERE cb.name || ca.name = 'neuneu'"_s),
               u"1"_s);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/windows/MainWindowView.h"
-#include "support/Book.h"
+#include "support/TestEnvironment.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -24,7 +24,7 @@ void Type(Target *target, const QString &text) {
 
 /// The real main window on a book, driven by keys and clicks as by its user. A test fills the book and opens the
 /// window.
-class MainWindowTest : public BookTest {
+class MainWindowTest : public EnvironmentTest {
 protected:
     void Open() {
         window.Event_Open();
@@ -58,5 +58,5 @@ protected:
         QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, place);
     }
 
-    MainWindowView view{window, book.app.Locale(), book.app.Resources()};
+    MainWindowView view{window, env.app.Locale(), env.app.Resources()};
 };

@@ -1,10 +1,10 @@
-#include "support/Book.h"
+#include "support/TestEnvironment.h"
 
 TEST(RecordSet, WritesOnlyTheFieldsThatWereSetAndTellsThatItsRowHasGone) {
-    Book book;
-    SQLiteDatabase &database = book.app.kvoDB();
-    book.Add({u"2026-01-01"_s, u"E"_s, u"1"_s});
-    book.Add({u"2026-01-02"_s, u"E"_s, u"2"_s});
+    TestEnvironment env;
+    SQLiteDatabase &database = env.app.kvoDB();
+    env.Add({u"2026-01-01"_s, u"E"_s, u"1"_s});
+    env.Add({u"2026-01-02"_s, u"E"_s, u"2"_s});
     const QString second = u"SELECT * FROM cash_journal WHERE id = 2"_s;
     const auto records = database.SQLSelect(second);
     const auto late = database.SQLSelect(second);
@@ -13,16 +13,16 @@ TEST(RecordSet, WritesOnlyTheFieldsThatWereSetAndTellsThatItsRowHasGone) {
     records->Edit(); // Begins anew.
     records->Field("NOTE"_L1).SetStringValue(u"it's; 'new'"_s);
     records->Field("amount"_L1).SetStringValue(u"12.50"_s);
-    book.Run(u"UPDATE cash_journal SET category = 'meanwhile', note = 'old'"_s);
+    env.Run(u"UPDATE cash_journal SET category = 'meanwhile', note = 'old'"_s);
     records->Update();
     EXPECT_EQ(database.ErrorMessage(), QString());
-    EXPECT_EQ(book.Value(u"SELECT group_concat(category || type || note || amount) FROM cash_journal"_s),
+    EXPECT_EQ(env.Value(u"SELECT group_concat(category || type || note || amount) FROM cash_journal"_s),
               u"meanwhileEold1.0,meanwhileEit's; 'new'12.5"_s);
     late->Edit();
     late->Field("fehlt"_L1).SetStringValue(u"x"_s);
     late->Update();
     EXPECT_EQ(database.ErrorMessage(), u"In der Datenbank fehlt eine Spalte."_s);
-    book.Run(u"DELETE FROM cash_journal"_s); // By another program.
+    env.Run(u"DELETE FROM cash_journal"_s); // By another program.
     late->Edit();
     late->Field("note"_L1).SetStringValue(u"x"_s);
     late->Update();
@@ -44,10 +44,10 @@ TEST(RecordSet, ReadsEveryKindOfValue) {
                         {"1, 1, '2026-02-281'", u"True"_s, 1, std::nullopt},
                         {"NULL, NULL, NULL", u""_s, 0, std::nullopt},
                         {"2, 'abc', 7", u"True"_s, 0, std::nullopt}};
-    const Book book;
-    book.Run(u"CREATE TABLE t (flag boolean, amount double, day date)"_s);
-    for (const Row &each : rows) { book.Run(u"INSERT INTO t VALUES (%1)"_s.arg(QString::fromUtf8(each.values))); }
-    const auto records = book.app.kvoDB().SQLSelect(u"SELECT * FROM t"_s);
+    const TestEnvironment env;
+    env.Run(u"CREATE TABLE t (flag boolean, amount double, day date)"_s);
+    for (const Row &each : rows) { env.Run(u"INSERT INTO t VALUES (%1)"_s.arg(QString::fromUtf8(each.values))); }
+    const auto records = env.app.kvoDB().SQLSelect(u"SELECT * FROM t"_s);
     for (const Row &each : rows) {
         EXPECT_EQ(records->Field("FLAG"_L1).StringValue(), each.flag) << each.values;
         EXPECT_EQ(records->IdxField(2).DoubleValue(), each.amount) << each.values;

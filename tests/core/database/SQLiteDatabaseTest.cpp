@@ -1,5 +1,5 @@
 #include "core/database/Transaction.h"
-#include "support/Book.h"
+#include "support/TestEnvironment.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -20,11 +20,11 @@ TEST(SQLiteDatabase, KeepsTheFormatTheDurabilityAndThePrivacyOfTheFile) {
     const Case cases[] = {{u"cipher_page_size"_s, u"1024"_s}, {u"kdf_iter"_s, u"64000"_s},
                           {u"journal_mode"_s, u"delete"_s},   {u"synchronous"_s, u"2"_s},
                           {u"temp_store"_s, u"2"_s},          {u"cache_size"_s, u"-65536"_s}};
-    const Book book(Book::Place::File);
+    const TestEnvironment env(TestEnvironment::Storage::File);
     for (const Case &each : cases) {
-        EXPECT_EQ(book.Value(u"PRAGMA "_s + each.pragma), each.value) << qPrintable(each.pragma);
+        EXPECT_EQ(env.Value(u"PRAGMA "_s + each.pragma), each.value) << qPrintable(each.pragma);
     }
-    const QByteArray bytes = Bytes(book.app.DefaultDatabaseFile().Path());
+    const QByteArray bytes = Bytes(env.app.DefaultDatabaseFile().Path());
     EXPECT_FALSE(bytes.contains("SQLite format") || bytes.contains("Kasse"));
 }
 
@@ -33,12 +33,12 @@ TEST(SQLiteDatabase, LeavesAFileThatItCannotReadAsItIs) {
         QByteArray content, key;
         bool opens;
     };
-    const Book book(Book::Place::File);
-    const QByteArray keyed = Bytes(book.app.DefaultDatabaseFile().Path());
+    const TestEnvironment env(TestEnvironment::Storage::File);
+    const QByteArray keyed = Bytes(env.app.DefaultDatabaseFile().Path());
     const QByteArray text = QByteArray("Kein Kassenbuch. ").repeated(200);
     const Case cases[] = {{keyed, fixedKey, true}, {"", fixedKey, true}, {text, fixedKey, false},
                           {text, "", false},       {keyed, "rk", false}, {keyed, "", false}};
-    const QDir folder(book.desktop.Path(u"files"_s));
+    const QDir folder(env.desktop.Path(u"files"_s));
     ASSERT_TRUE(folder.mkpath(u"."_s));
     const QString path = folder.filePath(u"Zolmark.sdb"_s);
     SQLiteDatabase database;
@@ -67,30 +67,30 @@ TEST(SQLiteDatabase, RefusesAPipeInsteadOfWaitingForItsOtherEnd) {
 }
 
 TEST(Transaction, RollsBackWhatWasNotCommitted) {
-    const Book book;
+    const TestEnvironment env;
     const QString count = u"SELECT count(*) FROM cash_tax WHERE name = 'neu'"_s;
     const QString insert = u"INSERT INTO cash_tax (name) VALUES ('neu')"_s;
     {
-        const Transaction dropped(book.app.kvoDB());
-        book.Run(insert);
+        const Transaction dropped(env.app.kvoDB());
+        env.Run(insert);
     }
-    EXPECT_EQ(book.Value(count), u"0"_s);
+    EXPECT_EQ(env.Value(count), u"0"_s);
     {
-        Transaction kept(book.app.kvoDB());
-        book.Run(insert);
+        Transaction kept(env.app.kvoDB());
+        env.Run(insert);
         EXPECT_TRUE(kept.Commit());
         EXPECT_FALSE(kept.Commit()) << "it has ended";
     }
-    EXPECT_EQ(book.Value(count), u"1"_s);
+    EXPECT_EQ(env.Value(count), u"1"_s);
 }
 
 TEST(SQLiteDatabase, WaitsOnceForALockedFile) {
-    const Book book(Book::Place::File);
+    const TestEnvironment env(TestEnvironment::Storage::File);
     SQLiteDatabase other;
-    App::UseFile(other, book.app.DefaultDatabaseFile());
+    App::UseFile(other, env.app.DefaultDatabaseFile());
     other.SetPatience(100ms);
     ASSERT_TRUE(other.Connect());
-    book.Run(u"BEGIN EXCLUSIVE"_s);
+    env.Run(u"BEGIN EXCLUSIVE"_s);
     QElapsedTimer timer;
     timer.start();
     other.SQLExecute(u"DELETE FROM cash_book"_s);

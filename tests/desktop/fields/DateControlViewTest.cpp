@@ -65,7 +65,7 @@ TEST_F(DateControlViewTest, StepsByKeys) {
         Begin();
         Type(each.keys);
         EXPECT_TRUE(Selects(each.shown)) << qPrintable(each.keys + field.text());
-        EXPECT_EQ(book.app.Locale().ShortDate(date.DateValue()), each.shown);
+        EXPECT_EQ(env.app.Locale().ShortDate(date.DateValue()), each.shown);
     }
 }
 

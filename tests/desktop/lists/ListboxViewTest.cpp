@@ -21,11 +21,11 @@ protected:
 };
 
 TEST_F(ListboxViewTest, ShowsTheJournalInColumnsAndBands) {
-    book.Add({.date = u"2026-01-02"_s,
-              .type = u"E"_s,
-              .amount = u"7"_s,
-              .category = u"Erlöse <19%> und noch einiges mehr"_s});
-    book.Add({u"2026-01-03"_s, u"A"_s, u"4"_s});
+    env.Add({.date = u"2026-01-02"_s,
+             .type = u"E"_s,
+             .amount = u"7"_s,
+             .category = u"Erlöse <19%> und noch einiges mehr"_s});
+    env.Add({u"2026-01-03"_s, u"A"_s, u"4"_s});
     Open();
     view.resize(view.size() + QSize(1080, 770) - view.centralWidget()->size());
     QApplication::processEvents();
@@ -53,7 +53,7 @@ TEST_F(ListboxViewTest, ShowsTheJournalInColumnsAndBands) {
 }
 
 TEST_F(ListboxViewTest, ShowsTheAccountsWithAMarkInTheMiddleOfActiveOnes) {
-    book.Run(u"UPDATE cash_accounts SET active = 0 WHERE id > 1"_s);
+    env.Run(u"UPDATE cash_accounts SET active = 0 WHERE id > 1"_s);
     Open();
     window.MenuAction(u"preferences"_s);
     QApplication::processEvents();

@@ -18,7 +18,7 @@ protected:
         return open;
     }
 
-    QString Opened() { return std::exchange(book.desktop.opened, {}).join(u' '); }
+    QString Opened() { return std::exchange(env.desktop.opened, {}).join(u' '); }
     QString Shown(const QString &menu) {
         QStringList shown;
         for (const QAction *each : Find<QMenu>(menu).actions()) {
@@ -57,7 +57,7 @@ TEST_F(CommandsTest, AreRunByTheEntriesOfTheMenusAndTheToolBar) {
                           {u"FileExport"_s, u"export.txt"_s},
                           {u"FilePrint"_s, u"Kassenbericht"_s},
                           {u"PrintButton"_s, u"Kassenbericht"_s},
-                          {u"QuickReferenceItem"_s, book.app.Resources().Child(u"Zolmark.pdf"_s).Path()},
+                          {u"QuickReferenceItem"_s, env.app.Resources().Child(u"Zolmark.pdf"_s).Path()},
                           {u"SupportItem"_s, homepage + u"service-support/"_s},
                           {u"HomepageItem"_s, homepage},
                           {u"NewSaleItem"_s, {}, u""_s},
@@ -73,8 +73,8 @@ TEST_F(CommandsTest, AreRunByTheEntriesOfTheMenusAndTheToolBar) {
                           {.entry = u"PreferencesButton"_s, .page = preferences}};
     const EntryRow &row = window.entryRow;
     for (const Case &each : cases) {
-        book.Run(u"DELETE FROM cash_journal"_s);
-        book.Add({u"2026-01-02"_s, u"E"_s, u"7"_s});
+        env.Run(u"DELETE FROM cash_journal"_s);
+        env.Add({u"2026-01-02"_s, u"E"_s, u"7"_s});
         window.MenuAction(u"new"_s);
         bookings.SetListIndex(0);
         Q_EMIT bookings.KeyDown();
@@ -93,8 +93,8 @@ TEST_F(CommandsTest, AreRunByTheEntriesOfTheMenusAndTheToolBar) {
 TEST_F(CommandsTest, OnARowAreOpenFromAClickInItUntilTheFocusLeavesTheList) {
     Click(list.viewport(), {100, 9});
     EXPECT_EQ(RowCommands(), u"-----"_s) << "an empty list has no row";
-    book.Add({u"2026-01-02"_s, u"E"_s, u"7"_s});
-    book.Add({u"2026-01-03"_s, u"A"_s, u"4"_s});
+    env.Add({u"2026-01-02"_s, u"E"_s, u"7"_s});
+    env.Add({u"2026-01-03"_s, u"A"_s, u"4"_s});
     Choose(u"NewSaleItem"_s);
     Click(list, 1, 2);
     EXPECT_EQ(RowCommands(), u"+++++"_s);
@@ -153,9 +153,9 @@ TEST(MainWindowView, SavesWhatIsTypedHoweverTheProgramEnds) {
     const TerminationSignals endOfSession;
     QObject::connect(&endOfSession, &TerminationSignals::Raised, qApp, &QApplication::closeAllWindows);
     for (const Case &each : cases) {
-        Book book;
-        MainWindow window(book.app);
-        MainWindowView view(window, book.app.Locale(), book.app.Resources());
+        TestEnvironment env;
+        MainWindow window(env.app);
+        MainWindowView view(window, env.app.Locale(), env.app.Resources());
         window.Event_Open();
         view.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
@@ -165,7 +165,7 @@ TEST(MainWindowView, SavesWhatIsTypedHoweverTheProgramEnds) {
         window.cashBooks.CashbookList.SetEditText(u"Laden"_s);
         each.run(view);
         EXPECT_TRUE(QTest::qWaitFor([&] { return !view.isVisible(); })) << each.end;
-        EXPECT_EQ(book.Value(u"SELECT company || name FROM core_company, cash_book"_s), u"NeuLaden"_s) << each.end;
+        EXPECT_EQ(env.Value(u"SELECT company || name FROM core_company, cash_book"_s), u"NeuLaden"_s) << each.end;
     }
 }
 

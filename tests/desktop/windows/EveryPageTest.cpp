@@ -9,17 +9,17 @@
 
 /// Looks at each page of the welcome window and of the main window, each as it shows.
 static void ForEveryPage(const std::function<void(const QMainWindow &)> &look) {
-    Book book;
-    WelcomeWindow welcome(book.app);
+    TestEnvironment env;
+    WelcomeWindow welcome(env.app);
     MainMenuBar menuBar;
-    WelcomeWindowView greeting(welcome, menuBar, book.app.Locale());
+    WelcomeWindowView greeting(welcome, menuBar, env.app.Locale());
     greeting.show();
     for (const int page : {0, 1, 2}) {
         welcome.PagePanel1.SetValue(page);
         look(greeting);
     }
-    MainWindow window(book.app);
-    MainWindowView view(window, book.app.Locale(), book.app.Resources());
+    MainWindow window(env.app);
+    MainWindowView view(window, env.app.Locale(), env.app.Resources());
     window.Event_Open();
     view.resize(1100, 900);
     view.show();

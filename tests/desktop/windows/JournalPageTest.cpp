@@ -16,12 +16,12 @@ protected:
 };
 
 TEST_F(JournalPageTest, BooksChangesCopiesAndDeletesInTheChosenCashBookAlone) {
-    book.Run(u"INSERT INTO cash_book VALUES (2, 'Laden', '1010', 50, '2026-01-01', NULL)"_s);
-    book.Add({u"2026-04-01"_s, u"E"_s, u"1"_s});
-    book.desktop.fileToSave = FolderItem(book.desktop.Path(u"export.txt"_s));
+    env.Run(u"INSERT INTO cash_book VALUES (2, 'Laden', '1010', 50, '2026-01-01', NULL)"_s);
+    env.Add({u"2026-04-01"_s, u"E"_s, u"1"_s});
+    env.desktop.fileToSave = FolderItem(env.desktop.Path(u"export.txt"_s));
     const auto stored = [this] {
-        return book.Value(u"SELECT group_concat(cashbookID || type || amount || ' ' || vdate || "
-                          "' ' || tax || account || note, '; ') FROM cash_journal WHERE id > 1"_s);
+        return env.Value(u"SELECT group_concat(cashbookID || type || amount || ' ' || vdate || "
+                         "' ' || tax || account || note, '; ') FROM cash_journal WHERE id > 1"_s);
     };
     Open();
     Choose(u"CashbookPopup"_s, 1);
@@ -44,7 +44,7 @@ TEST_F(JournalPageTest, BooksChangesCopiesAndDeletesInTheChosenCashBookAlone) {
     EXPECT_EQ(stored(), changed + u"; 2A8.0 2026-03-16 94730"_s);
     EXPECT_EQ(bookings.Cell(-1, Journal::Balance), u"42,00\n34,00"_s);
     window.MenuAction(u"export"_s);
-    QFile file(book.desktop.fileToSave->Path());
+    QFile file(env.desktop.fileToSave->Path());
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll().count(";1010;EUR;"), 2);
     Click(list, 0, 4);
@@ -65,12 +65,12 @@ TEST_F(JournalPageTest, BooksAReceiptAndAnExpenseByKeysAlone) {
     Type(u"\tR1\tbar\r+\t\t2.5\t\tfrei\r"_s); // Return takes the focus back to the date.
     EXPECT_EQ(bookings.Cell(-1, -1), u"02.03.2026\t119,50\t\t7% USt.\tErlöse 7% USt\tR1\tbar\t219,50\n"
                                      "03.03.2026\t\t2,50\t19% VSt.\tfrei\t\t\t217,00"_s);
-    EXPECT_EQ(book.Value(u"SELECT account FROM cash_journal WHERE id = 1"_s), u"8300"_s);
+    EXPECT_EQ(env.Value(u"SELECT account FROM cash_journal WHERE id = 1"_s), u"8300"_s);
 }
 
 TEST_F(JournalPageTest, ChangesABookingByKeysAndEscapeLeavesTheChange) {
     const QString note = u"eins\nzwei "_s + QString(40000, u'x'); // No line edit holds it.
-    book.Add({.date = u"2026-03-01"_s, .type = u"E"_s, .amount = u"10"_s, .note = note});
+    env.Add({.date = u"2026-03-01"_s, .type = u"E"_s, .amount = u"10"_s, .note = note});
     Open();
     DoubleClick(list, 0, 4);
     EXPECT_TRUE(Shows(u"ChangeButton"_s) && !Shows(u"SubmitButton"_s));
@@ -80,12 +80,12 @@ TEST_F(JournalPageTest, ChangesABookingByKeysAndEscapeLeavesTheChange) {
     EXPECT_TRUE(Shows(u"SubmitButton"_s));
     DoubleClick(list, 0, 4);
     Type(u"2\r"_s);
-    EXPECT_EQ(book.Value(u"SELECT vdate || note FROM cash_journal"_s), u"2026-03-02"_s + note);
+    EXPECT_EQ(env.Value(u"SELECT vdate || note FROM cash_journal"_s), u"2026-03-02"_s + note);
 }
 
 TEST_F(JournalPageTest, OpensAMenuOnTheRowUnderThePointer) {
-    book.Add({u"2026-03-01"_s, u"E"_s, u"10"_s});
-    book.Add({u"2026-03-02"_s, u"E"_s, u"20"_s});
+    env.Add({u"2026-03-01"_s, u"E"_s, u"10"_s});
+    env.Add({u"2026-03-02"_s, u"E"_s, u"20"_s});
     Open();
     OpenMenu(Centre(list, 1, 4), u"{Down}{Down}{Down}\r"_s);
     EXPECT_EQ(bookings.Cell(-1, Journal::Input), u"10,00"_s);
@@ -95,7 +95,7 @@ TEST_F(JournalPageTest, OpensAMenuOnTheRowUnderThePointer) {
 }
 
 TEST_F(JournalPageTest, HintsBelowTheFieldWithTheFocusAndBesideNothingElse) {
-    book.Add({u"2026-03-01"_s, u"E"_s, u"10"_s});
+    env.Add({u"2026-03-01"_s, u"E"_s, u"10"_s});
     Open();
     const auto &input = Find<QLineEdit>(u"InputField"_s);
     Type(u"\t12"_s);
@@ -121,8 +121,8 @@ TEST_F(JournalPageTest, HintsBelowTheFieldWithTheFocusAndBesideNothingElse) {
 
 TEST_F(JournalPageTest, OpensListsAsWideAsTheirLongestRow) {
     const QString name = u"Ein Konto mit einem Namen, der in kein Feld dieser Breite passt"_s;
-    book.Run(u"UPDATE cash_accounts SET name = '%1' WHERE account = '8400'"_s.arg(name));
-    book.Run(u"UPDATE cash_book SET name = '%1'"_s.arg(name));
+    env.Run(u"UPDATE cash_accounts SET name = '%1' WHERE account = '8400'"_s.arg(name));
+    env.Run(u"UPDATE cash_book SET name = '%1'"_s.arg(name));
     Open();
     Type(u"\t1\t\tkonto"_s);
     auto &accounts = Find<QComboBox>(u"CategoryCombo"_s);
@@ -212,9 +212,9 @@ TEST_F(JournalPageTest, MakesOneLineOfWhatIsPastedOrDropped) {
 
 TEST_F(JournalPageTest, ShowsTheNewBookingInALongList) {
     Open();
-    book.Run(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 9000) "
-             "INSERT INTO cash_journal (vdate, type, amount, tax, cashbookID) "
-             "SELECT date('2026-01-01', '+' || (i % 365) || ' days'), 'E', 1, '3', 1 FROM n"_s);
+    env.Run(u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 9000) "
+            "INSERT INTO cash_journal (vdate, type, amount, tax, cashbookID) "
+            "SELECT date('2026-01-01', '+' || (i % 365) || ' days'), 'E', 1, '3', 1 FROM n"_s);
     row.InputField.SetText(u"5"_s);
     category.SetText(u"frei"_s);
     row.SubmitButton.Press();

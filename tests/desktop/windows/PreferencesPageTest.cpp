@@ -4,9 +4,9 @@
 class PreferencesPage : public MainWindowTest {
 protected:
     PreferencesPage() {
-        book.Run(u"DELETE FROM cash_accounts"_s);
-        book.Run(u"INSERT INTO cash_accounts (name, account, type, active) VALUES "
-                 "('b', '20', 'E', 1), ('c', '10', 'A', 0)"_s);
+        env.Run(u"DELETE FROM cash_accounts"_s);
+        env.Run(u"INSERT INTO cash_accounts (name, account, type, active) VALUES "
+                "('b', '20', 'E', 1), ('c', '10', 'A', 0)"_s);
         Open();
         FlipPage();
     }
@@ -23,11 +23,11 @@ protected:
     void PressPlus() { Click(&Find<QWidget>(u"CashBookAdd"_s), {10, 14}); }
     void PressMinus() { Click(&Find<QWidget>(u"CashBookAdd"_s), {40, 14}); }
     QString Accounts() const {
-        return book.Value(u"SELECT group_concat(name || account || type || active, ' ') "
-                          "FROM (SELECT * FROM cash_accounts ORDER BY id)"_s);
+        return env.Value(u"SELECT group_concat(name || account || type || active, ' ') "
+                         "FROM (SELECT * FROM cash_accounts ORDER BY id)"_s);
     }
     QString CashBooks() const {
-        return book.Value(u"SELECT group_concat(name || account || '=' || opening_balance, ' ') FROM cash_book"_s);
+        return env.Value(u"SELECT group_concat(name || account || '=' || opening_balance, ' ') FROM cash_book"_s);
     }
 
     QTableView &books = Find<QTableView>(u"CashbookList"_s);
@@ -114,7 +114,7 @@ TEST_F(PreferencesPageTest, CountsBothPressesOfADoubleClickOnPlus) {
 }
 
 TEST_F(PreferencesPageTest, WritesAnOpenCellBeforeACommandAndTakesItsEditorAway) {
-    book.desktop.paper.emplace();
+    env.desktop.paper.emplace();
     QString name = u"Kasse"_s;
     for (const auto &command : {u"{Ctrl+N}"_s, u"{Ctrl+P}"_s, u"{Alt+D}x"_s}) {
         DoubleClick(books, 0, 0);
@@ -151,7 +151,7 @@ TEST_F(PreferencesPageTest, AddsAndRemovesWhileACellIsOpen) {
     EXPECT_EQ(CashBooks(), u"Kasse1000=100.0 Laden1010=12,50"_s);
     DoubleClick(books, 1, 0);
     Type(u"Lager\r"_s);
-    book.Add({.date = u"2026-01-05"_s, .type = u"E"_s, .amount = u"7"_s, .cashbook = u"2"_s});
+    env.Add({.date = u"2026-01-05"_s, .type = u"E"_s, .amount = u"7"_s, .cashbook = u"2"_s});
     FlipPage();
     window.selectors.CashbookPopup.SetListIndex(1);
     EXPECT_EQ(bookings.ListCount(), 1);
@@ -180,5 +180,5 @@ TEST_F(PreferencesPageTest, WorksByTheKeysAloneAndIsReadByAssistiveTools) {
     Find<QLineEdit>(u"CompanyField"_s).setFocus();
     Type(u"!"_s);
     FlipPage();
-    EXPECT_EQ(book.Value(u"SELECT company FROM core_company"_s), u"!Muster"_s);
+    EXPECT_EQ(env.Value(u"SELECT company FROM core_company"_s), u"!Muster"_s);
 }

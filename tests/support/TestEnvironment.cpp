@@ -1,12 +1,13 @@
-#include "support/Book.h"
+#include "support/TestEnvironment.h"
 
 #include "core/Scripts.h"
 
 #include <QProcess>
 
-Book::Book(Place place) : app(desktop, UserLocale(QLocale(QLocale::German, QLocale::Germany))) {
+TestEnvironment::TestEnvironment(Storage storage)
+    : app(desktop, UserLocale(QLocale(QLocale::German, QLocale::Germany))) {
     SQLiteDatabase &database = app.NewDatabase();
-    if (place == Place::File) {
+    if (storage == Storage::File) {
         const FolderItem file = app.DefaultDatabaseFile();
         EXPECT_TRUE(file.Parent().CreateAsFolder());
         database.SetDatabaseFile(file);
@@ -23,19 +24,19 @@ Book::Book(Place place) : app(desktop, UserLocale(QLocale(QLocale::German, QLoca
     Run(u"COMMIT"_s);
 }
 
-void Book::Add(const Booking &booking) const {
+void TestEnvironment::Add(const Booking &booking) const {
     Run(u"INSERT INTO cash_journal (vdate, type, amount, tax, category, salesnumber, note, "
         "cashbookID, account) VALUES ('%1', '%2', '%3', '%4', '%5', '%6', '%7', '%8', '%9')"_s.arg(
             booking.date, booking.type, booking.amount, booking.tax, booking.category, booking.number, booking.note,
             booking.cashbook, booking.account));
 }
 
-void Book::Run(const QString &sql) const {
+void TestEnvironment::Run(const QString &sql) const {
     app.kvoDB().SQLExecute(sql);
     EXPECT_FALSE(app.kvoDB().Error()) << qPrintable(app.kvoDB().ErrorMessage());
 }
 
-QString Book::Value(const QString &sql) const {
+QString TestEnvironment::Value(const QString &sql) const {
     const auto records = app.kvoDB().SQLSelect(sql);
     EXPECT_TRUE(records) << qPrintable(app.kvoDB().ErrorMessage());
     return records ? records->IdxField(1).StringValue() : QString();

@@ -16,10 +16,10 @@ struct Booking {
 
 /// An application on an open book: schema, reference data and the chart SKR-03, one company, and one cash book,
 /// 1000:Kasse, that opens with 100.00 on 2026-01-01.
-class Book {
+class TestEnvironment {
 public:
-    enum class Place { Memory, File };
-    explicit Book(Place place = Place::Memory);
+    enum class Storage { Memory, File };
+    explicit TestEnvironment(Storage storage = Storage::Memory);
 
     FakeDesktop desktop;
     App app;
@@ -52,11 +52,11 @@ inline const QByteArray fixedKey("rk7WPNdTLqhvM4");
 QString ReadWithShell(const App &app, const QString &sql);
 
 /// What the main window knows and decides on a book, without a widget. A test fills the book and opens the window.
-class BookTest : public testing::Test {
+class EnvironmentTest : public testing::Test {
 protected:
-    explicit BookTest(Book::Place place = Book::Place::Memory) : book(place) {}
+    explicit EnvironmentTest(TestEnvironment::Storage storage = TestEnvironment::Storage::Memory) : env(storage) {}
 
-    Book book;
-    MainWindow window{book.app};
+    TestEnvironment env;
+    MainWindow window{env.app};
     Listbox &bookings = window.journal.CashList;
 };
