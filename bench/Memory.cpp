@@ -1,10 +1,6 @@
-#include "Memory.h"
+#include "Measures.h"
 
-#include "LargeBook.h"
-
-#include <QCoreApplication>
 #include <QFile>
-#include <QProcess>
 
 #include <cstdio>
 #include <malloc.h>
@@ -14,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What has been freed before goes back to the system first: it is no part of what grows.
+/// Freed memory goes back to the system first.
 double ResidentKiB() {
     malloc_trim(0);
     QFile pages(u"/proc/self/statm"_s);
@@ -23,9 +19,9 @@ double ResidentKiB() {
     return resident * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1024;
 }
 
-double GrowthOfJournal(LargeBook &env) {
-    MainWindow window(env.env.app);
-    window.selectors.GetCashbooks(); // No year yet: an empty journal, and a file that is read.
+double GrowthOfJournal(LargeDatabase &database) {
+    MainWindow window(database.env.app);
+    window.selectors.GetCashbooks(); // Reads the file; without a year the journal stays empty.
     const double before = ResidentKiB();
     window.selectors.GetJournalYears();
     return ResidentKiB() - before;
@@ -43,22 +39,10 @@ double GrowthOfTexts(const Listbox &list) {
     return ResidentKiB() - before;
 }
 
-double Measured(const QString &side) {
-    QProcess process;
-    process.start(QCoreApplication::applicationFilePath(), {u"--memory"_s, side});
-    process.waitForFinished(-1);
-    return process.readAllStandardOutput().toDouble();
-}
-
 } // namespace
 
-MemoryOfRows MeasureMemory() {
-    return {.oursKiB = Measured(u"ours"_s), .bareKiB = Measured(u"bare"_s)};
-}
-
-int PrintGrowth(const std::string &side) {
-    LargeBook env(200000);
-    std::printf("%.0f\n", side == "ours" ? GrowthOfJournal(env)
-                                         : GrowthOfTexts(env.window.journal.CashList));
-    return 0;
+void PrintMemory(const std::string &side) {
+    LargeDatabase database(200000);
+    std::printf("%.0f\n", side == "ours" ? GrowthOfJournal(database)
+                                         : GrowthOfTexts(database.window.journal.CashList));
 }

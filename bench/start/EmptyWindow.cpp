@@ -8,8 +8,8 @@
 #include <cstring>
 #include <span>
 
-/// Opens the file of the first argument with the key of the second, steps the statements that
-/// follow, and shows an empty window.
+/// Opens the file of the first argument with the key of the second, runs the statements of the
+/// others, and shows an empty window.
 int main(int argc, char *argv[]) {
     QApplication application(argc, argv);
     sqlite3 *env = nullptr;

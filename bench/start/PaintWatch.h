@@ -6,8 +6,7 @@
 
 #include <cstdio>
 
-/// Tells by a line who has started the program that a window has been painted with all that is in
-/// it, and ends the program.
+/// Prints a line when a window has been painted with its widgets, and quits the program.
 class PaintWatch : public QObject {
 public:
     PaintWatch(const QString &window, QCoreApplication *application)
@@ -18,7 +17,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override {
         if (event->type() == QEvent::Paint && watched->objectName() == window_) {
             QCoreApplication::instance()->removeEventFilter(this);
-            // The widgets in the window are painted after it, before the next event.
+            // Its widgets are painted after it, before the next event.
             QTimer::singleShot(0, this, [] {
                 std::puts("painted");
                 std::fflush(stdout);

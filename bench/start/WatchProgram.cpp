@@ -2,7 +2,7 @@
 
 namespace {
 
-/// Linked beside the program's own main, of which it knows nothing.
+/// Linked with the program's own main.
 void WatchMainWindow() {
     new PaintWatch(QStringLiteral("MainWindow"), QCoreApplication::instance());
 }

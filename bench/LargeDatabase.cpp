@@ -1,4 +1,4 @@
-#include "LargeBook.h"
+#include "LargeDatabase.h"
 
 #include <QFile>
 
@@ -6,8 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Two expenses to a receipt; the texts repeat as they do in a real book, and every second booking
-/// has a note.
+/// Two expenses per receipt; texts repeat as in a real cash book, every second booking has a note.
 const auto fill = u"WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n "
                   "WHERE i < %1 - 1), "
                   "a AS (SELECT i, CASE WHEN i % 3 = 0 THEN 'E' ELSE 'A' END AS type, "
@@ -26,10 +25,10 @@ const auto fill = u"WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM
 
 } // namespace
 
-LargeBook::LargeBook(int bookings) {
+LargeDatabase::LargeDatabase(int bookings) {
     env.Run(QString(fill).replace(u"%1"_s, QString::number(bookings)));
     env.Run(u"UPDATE cash_book SET opening_balance_date = '2017-01-01'"_s);
-    // Copied while nobody holds a lock on the file, which would go with the handle.
+    // Now: closing another handle on the file would drop SQLite's lock.
     EXPECT_TRUE(QFile::copy(env.app.DefaultDatabaseFile().Path(), copy_));
     window.Event_Open();
 }

@@ -1,4 +1,4 @@
-#include "BareBook.h"
+#include "BareDatabase.h"
 
 #include "support/TestEnvironment.h"
 
@@ -7,11 +7,11 @@
 
 #include <benchmark/benchmark.h>
 
-void BareBook::Closer::operator()(sqlite3 *handle) const {
+void BareDatabase::Closer::operator()(sqlite3 *handle) const {
     sqlite3_close_v2(handle);
 }
 
-BareBook::BareBook(const QString &path) {
+BareDatabase::BareDatabase(const QString &path) {
     sqlite3 *handle = nullptr;
     sqlite3_open_v2(path.toUtf8().constData(), &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX,
                     nullptr);
@@ -24,14 +24,14 @@ BareBook::BareBook(const QString &path) {
     Run("SELECT count(*) FROM sqlite_master");
 }
 
-void BareBook::Run(const char *sql) {
+void BareDatabase::Run(const char *sql) {
     if (sqlite3_exec(handle_.get(), sql, nullptr, nullptr, nullptr) != SQLITE_OK) {
         qFatal("%s", sqlite3_errmsg(handle_.get()));
     }
 }
 
-void BareBook::Step(const std::string &sql, const std::vector<int> &texts,
-                    const std::vector<int> &numbers) {
+void BareDatabase::Step(const std::string &sql, const std::vector<int> &texts,
+                        const std::vector<int> &numbers) {
     sqlite3_stmt *statement = nullptr;
     sqlite3_prepare_v2(handle_.get(), sql.data(), static_cast<int>(sql.size()), &statement,
                        nullptr);
@@ -50,19 +50,14 @@ void BareBook::Step(const std::string &sql, const std::vector<int> &texts,
     sqlite3_finalize(statement);
 }
 
-std::string BookingsOf(const std::string &month) {
-    return "SELECT DISTINCT cj.*, ct.name AS taxname FROM cash_journal As cj JOIN cash_tax AS ct "
-           "ON cj.tax = ct.value WHERE cashbookID = '1' AND substr(vdate,1,4) = '2026'" +
-           (month.empty() ? "" : " AND substr(vdate, 6, 2)='" + month + "'") + " ORDER BY vdate";
-}
+const char *const bookingsOfYear =
+    "SELECT DISTINCT cj.*, ct.name AS taxname FROM cash_journal As cj JOIN cash_tax AS ct "
+    "ON cj.tax = ct.value WHERE cashbookID = '1' AND substr(vdate,1,4) = '2026' ORDER BY vdate";
+const char *const bookingsBefore =
+    "SELECT * FROM cash_journal WHERE vdate  < '2026-01-01' AND cashbookID = '1'";
 
-std::string BookingsBefore(const std::string &month) {
-    return "SELECT * FROM cash_journal WHERE vdate  < '2026-" + (month.empty() ? "01" : month) +
-           "-01' AND cashbookID = '1'";
-}
-
-void StepJournal(BareBook &env, const std::string &month) {
-    // The columns of a booking stand in the order of the table, the name of its tax after them.
-    env.Step(BookingsOf(month), {0, 1, 2, 6, 7, 8, 9, 12, 13}, {5});
-    env.Step(BookingsBefore(month), {2}, {5});
+void StepJournal(BareDatabase &database) {
+    // The columns of cash_journal in the order of the table, then the name of the tax.
+    database.Step(bookingsOfYear, {0, 1, 2, 6, 7, 8, 9, 12, 13}, {5});
+    database.Step(bookingsBefore, {2}, {5});
 }
