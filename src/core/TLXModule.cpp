@@ -1,6 +1,6 @@
 #include "core/TLXModule.h"
 
-#include "platform/controls/SelectionControl.h"
+#include "platform/lists/SelectionControl.h"
 #include "platform/values/Text.h"
 #include "platform/values/UserLocale.h"
 

@@ -1,7 +1,7 @@
 #include "desktop/QtDesktop.h"
 
 #include "desktop/drawing/PrintJob.h"
-#include "platform/controls/MenuItem.h"
+#include "platform/menus/MenuItem.h"
 #include "platform/outside/SaveAsDialog.h"
 #include "platform/values/Text.h"
 
@@ -68,7 +68,7 @@ void QtDesktop::MsgBox(const QString &message) {
     QMessageBox box(QMessageBox::NoIcon, QApplication::applicationName(),
                     ReplaceLineEndings(message, u"\n"_s), QMessageBox::Ok, Owner());
     box.setWindowModality(Qt::WindowModal);
-    // Texts of the database may hold what looks like markup.
+    // Texts of the database may contain what looks like markup.
     box.setTextFormat(Qt::PlainText);
     Ask(box);
 }

@@ -55,7 +55,7 @@ void Balances::ReCalcAmount() {
 
 void Balances::RunBalance(Currency balance) {
     Listbox &list = journal_.CashList;
-    Texts texts;
+    TextColumn texts;
     for (int row = 0; row < list.ListCount(); ++row) {
         const QStringView input = list.CellsOf(Journal::Input).At(row);
         const QStringView output = list.CellsOf(Journal::Output).At(row);

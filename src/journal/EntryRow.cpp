@@ -5,7 +5,7 @@
 #include "journal/Balances.h"
 #include "journal/Journal.h"
 #include "journal/Selectors.h"
-#include "platform/controls/MenuItem.h"
+#include "platform/menus/MenuItem.h"
 #include "platform/outside/DebugLog.h"
 #include "platform/values/Text.h"
 

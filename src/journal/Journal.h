@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/controls/Listbox.h"
+#include "platform/lists/Listbox.h"
 
 #include <QObject>
 

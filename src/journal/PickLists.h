@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/controls/ComboBox.h"
+#include "platform/lists/ComboBox.h"
 
 #include <QObject>
 

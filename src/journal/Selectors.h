@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/controls/PopupMenu.h"
+#include "platform/lists/PopupMenu.h"
 #include "platform/values/Date.h"
 
 #include <QObject>

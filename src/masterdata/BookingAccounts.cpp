@@ -1,7 +1,7 @@
 #include "masterdata/BookingAccounts.h"
 
 #include "core/App.h"
-#include "platform/controls/MenuItem.h"
+#include "platform/menus/MenuItem.h"
 #include "platform/values/Text.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "masterdata/RecordList.h"
-#include "platform/controls/Listbox.h"
 #include "platform/controls/TLXPlusMinusButton.h"
+#include "platform/lists/Listbox.h"
 
 #include <QObject>
 

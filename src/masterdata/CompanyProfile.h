@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/controls/ComboBox.h"
 #include "platform/controls/TextField.h"
+#include "platform/lists/ComboBox.h"
 
 #include <QObject>
 

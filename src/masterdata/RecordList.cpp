@@ -1,7 +1,7 @@
 #include "masterdata/RecordList.h"
 
 #include "core/App.h"
-#include "platform/controls/Listbox.h"
+#include "platform/lists/Listbox.h"
 
 using namespace Qt::StringLiterals;
 

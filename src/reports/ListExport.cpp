@@ -1,6 +1,6 @@
 #include "reports/ListExport.h"
 
-#include "platform/controls/CellModel.h"
+#include "platform/lists/CellModel.h"
 #include "platform/outside/Desktop.h"
 #include "platform/outside/SaveAsDialog.h"
 #include "platform/outside/TextOutputStream.h"

@@ -2,10 +2,10 @@
 
 #include "platform/controls/DateControl.h"
 #include "platform/controls/PagePanel.h"
-#include "platform/controls/PopupMenu.h"
 #include "platform/controls/PushButton.h"
 #include "platform/controls/TLXCanvasButton.h"
 #include "platform/controls/TextField.h"
+#include "platform/lists/PopupMenu.h"
 
 #include <QObject>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/controls/MenuItem.h"
+#include "platform/menus/MenuItem.h"
 
 /// The menu bar: its items are the menus, in their order from the left. A window answers the
 /// entries that it has a handler for; the others stay disabled, but for the editing entries and

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/controls/ToolItem.h"
+#include "platform/menus/ToolItem.h"
 
 #include <memory>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "platform/controls/MenuItem.h"
+#include "platform/menus/MenuItem.h"
 #include "support/TestEnvironment.h"
 
 class EntryRowTest : public EnvironmentTest {

@@ -5,7 +5,7 @@
 #include "desktop/fields/PopupList.h"
 #include "desktop/look/TextFitting.h"
 #include "desktop/look/ToolTipText.h"
-#include "platform/controls/ComboBox.h"
+#include "platform/lists/ComboBox.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

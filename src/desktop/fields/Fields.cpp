@@ -4,9 +4,9 @@
 #include "desktop/fields/LineEdits.h"
 #include "desktop/fields/PopupList.h"
 #include "platform/controls/Label.h"
-#include "platform/controls/PopupMenu.h"
 #include "platform/controls/PushButton.h"
 #include "platform/controls/TextField.h"
+#include "platform/lists/PopupMenu.h"
 
 #include <QComboBox>
 #include <QKeyEvent>

@@ -3,7 +3,7 @@
 #include "desktop/fields/FocusChange.h"
 #include "desktop/fields/HintView.h"
 #include "desktop/fields/LineEdits.h"
-#include "platform/controls/Listbox.h"
+#include "platform/lists/Listbox.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 #include "desktop/lists/ListHeading.h"
 
 #include "desktop/look/TextFitting.h"
-#include "platform/controls/Listbox.h"
+#include "platform/lists/Listbox.h"
 
 #include <QPainter>
 

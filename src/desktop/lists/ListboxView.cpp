@@ -7,8 +7,8 @@
 #include "desktop/lists/ListHeading.h"
 #include "desktop/lists/RowDelegate.h"
 #include "desktop/look/FontScaling.h"
-#include "platform/controls/Listbox.h"
-#include "platform/controls/MenuItem.h"
+#include "platform/lists/Listbox.h"
+#include "platform/menus/MenuItem.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>

@@ -1,7 +1,7 @@
 #include "desktop/windows/MenuBarView.h"
 
 #include "desktop/windows/EditActions.h"
-#include "platform/controls/MenuItem.h"
+#include "platform/menus/MenuItem.h"
 
 #include <QApplication>
 

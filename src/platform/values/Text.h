@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// Text functions of the desktop's own kind. Texts are compared without regard to case everywhere.
+/// Text functions. Texts are compared without regard to case everywhere.
 
 /// The number at the start of the text, with a dot or the given letter as decimal mark; 0 if there
 /// is none.

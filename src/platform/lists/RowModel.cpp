@@ -1,4 +1,4 @@
-#include "platform/controls/RowModel.h"
+#include "platform/lists/RowModel.h"
 
 #include "platform/values/Text.h"
 

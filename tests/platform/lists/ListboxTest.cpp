@@ -1,4 +1,4 @@
-#include "platform/controls/Listbox.h"
+#include "platform/lists/Listbox.h"
 
 #include "support/EventLog.h"
 #include "support/GoogleTest.h"

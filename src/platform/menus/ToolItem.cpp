@@ -1,4 +1,4 @@
-#include "platform/controls/ToolItem.h"
+#include "platform/menus/ToolItem.h"
 
 ToolItem::ToolItem(const Properties &properties)
     : Control(properties.name.toString()), style_(properties.style),

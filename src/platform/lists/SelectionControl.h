@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/controls/Control.h"
-#include "platform/controls/RowModel.h"
+#include "platform/lists/RowModel.h"
 
 /// What PopupMenu and ComboBox share: rows with a text and a tag, one of them selected or none.
 class SelectionControl : public Control {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/controls/Texts.h"
+#include "platform/lists/TextColumn.h"
 #include "platform/values/Date.h"
 
 #include <QAbstractTableModel>
@@ -28,8 +28,8 @@ public:
             : cells(static_cast<size_t>(columnCount)), cellTags(static_cast<size_t>(columnCount)) {}
 
         /// One for each row.
-        Texts tags;
-        std::vector<Texts> cells;
+        TextColumn tags;
+        std::vector<TextColumn> cells;
         std::vector<std::deque<Tag>> cellTags;
     };
 
@@ -44,15 +44,15 @@ public:
     /// by a line feed.
     QString Cell(int row, int column) const;
     /// All texts of a column that exists, as they lie there.
-    const Texts &CellsOf(int column) const { return ColumnAt(column).cells; }
+    const TextColumn &CellsOf(int column) const { return ColumnAt(column).cells; }
     void SetCell(int row, int column, const QString &text);
     /// Writes one column from the first row to the last, one text to a row, and shows it at once.
-    void SetColumn(int column, Texts texts);
+    void SetColumn(int column, TextColumn texts);
     bool CellCheck(int row, int column) const;
     void SetCellCheck(int row, int column, bool checked);
     const Tag &CellTag(int row, int column) const;
     QString RowTag(int row) const;
-    const Texts &RowTags() const { return rowTags_; }
+    const TextColumn &RowTags() const { return rowTags_; }
     void SetRowTag(int row, const QString &tag);
     /// The first row with the tag, -1 if there is none.
     int FindRow(const QString &tag) const;
@@ -96,7 +96,7 @@ private:
         QString heading;
         Alignment alignment = Alignment::Default;
         ColumnType type = ColumnType::Default;
-        Texts cells;
+        TextColumn cells;
         /// These two reach to the last row that has one.
         std::deque<Tag> tags;
         std::vector<bool> checks;
@@ -109,7 +109,7 @@ private:
     void ShowCell(int row, int column);
 
     std::vector<Column> columns_;
-    Texts rowTags_;
+    TextColumn rowTags_;
     int refills_ = 0;
     bool hasHeading_ = false;
 };

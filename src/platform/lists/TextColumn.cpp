@@ -1,11 +1,11 @@
-#include "platform/controls/Texts.h"
+#include "platform/lists/TextColumn.h"
 
-void Texts::Add(QStringView text) {
+void TextColumn::Add(QStringView text) {
     letters_.append(text.utf16(), static_cast<size_t>(text.size()));
     ends_.push_back(static_cast<qsizetype>(letters_.size()));
 }
 
-void Texts::Set(int place, QStringView text) {
+void TextColumn::Set(int place, QStringView text) {
     const qsizetype before = End(place) - Begin(place);
     letters_.replace(static_cast<size_t>(Begin(place)), static_cast<size_t>(before), text.utf16(),
                      static_cast<size_t>(text.size()));
@@ -14,7 +14,7 @@ void Texts::Set(int place, QStringView text) {
     }
 }
 
-void Texts::SetCount(int count) {
+void TextColumn::SetCount(int count) {
     if (count < Count()) {
         letters_.resize(static_cast<size_t>(Begin(count)));
     }

@@ -1,8 +1,8 @@
-# Fails, and names the line, when a file of the room ROOM includes one of another room than the rooms
-# MAY_INCLUDE, which stand with bars between them.
-file(GLOB_RECURSE files ${ROOM}/*.h ${ROOM}/*.cpp)
+# Fails if a file in the folder MODULE includes a header of a module that is not in MAY_INCLUDE, a list
+# separated by vertical bars.
+file(GLOB_RECURSE files ${MODULE}/*.h ${MODULE}/*.cpp)
 if(NOT files)
-    message(FATAL_ERROR "${ROOM} is empty")
+    message(FATAL_ERROR "${MODULE} is empty")
 endif()
 set(wrong)
 foreach(file IN LISTS files)
@@ -14,5 +14,5 @@ foreach(file IN LISTS files)
     endforeach()
 endforeach()
 if(wrong)
-    message(FATAL_ERROR "These includes lead out of what the room links:${wrong}")
+    message(FATAL_ERROR "These includes are of modules that the file's own does not link:${wrong}")
 endif()

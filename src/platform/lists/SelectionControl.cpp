@@ -1,4 +1,4 @@
-#include "platform/controls/SelectionControl.h"
+#include "platform/lists/SelectionControl.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "platform/controls/CellModel.h"
+#include "platform/lists/CellModel.h"
 
 #include <algorithm>
 
@@ -35,8 +35,8 @@ void Reorder(Values &values, const std::vector<int> &order) {
     values = std::move(ordered);
 }
 
-void Reorder(Texts &texts, const std::vector<int> &order) {
-    Texts ordered;
+void Reorder(TextColumn &texts, const std::vector<int> &order) {
+    TextColumn ordered;
     for (const int row : order) {
         ordered.Add(texts.At(row));
     }
@@ -137,7 +137,7 @@ void CellModel::SetCell(int row, int column, const QString &text) {
     }
 }
 
-void CellModel::SetColumn(int column, Texts texts) {
+void CellModel::SetColumn(int column, TextColumn texts) {
     if (!HasColumn(column)) {
         return;
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/controls/SelectionControl.h"
+#include "platform/lists/SelectionControl.h"
 
 /// A text field with rows to choose from; the text may be one that no row has.
 class ComboBox : public SelectionControl {

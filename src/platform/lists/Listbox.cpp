@@ -1,4 +1,4 @@
-#include "platform/controls/Listbox.h"
+#include "platform/lists/Listbox.h"
 
 #include "platform/values/Text.h"
 

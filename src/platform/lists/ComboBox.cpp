@@ -1,4 +1,4 @@
-#include "platform/controls/ComboBox.h"
+#include "platform/lists/ComboBox.h"
 
 void ComboBox::SetListIndex(int index) {
     index = ValidIndex(index);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/controls/CellModel.h"
 #include "platform/drawing/Graphics.h"
+#include "platform/lists/CellModel.h"
 
 #include <functional>
 

@@ -8,10 +8,10 @@
 
 /// Many texts, counted from 0, most of them short and few of them ever changed. They lie in one
 /// piece: twenty thousand are a few allocations to make, and two to let go.
-class Texts {
+class TextColumn {
 public:
-    Texts() = default;
-    Texts(std::initializer_list<QStringView> texts) {
+    TextColumn() = default;
+    TextColumn(std::initializer_list<QStringView> texts) {
         for (const QStringView text : texts) {
             Add(text);
         }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/controls/SelectionControl.h"
+#include "platform/lists/SelectionControl.h"
 
 /// A pop-up list to choose one row from.
 class PopupMenu : public SelectionControl {
