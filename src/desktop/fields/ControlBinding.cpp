@@ -1,8 +1,7 @@
 #include "desktop/fields/ControlBinding.h"
 
-#include "desktop/fields/FocusChange.h"
+#include "desktop/fields/Focus.h"
 #include "desktop/fields/HintView.h"
-#include "desktop/fields/WheelGuard.h"
 #include "platform/controls/Control.h"
 
 #include <QFocusEvent>

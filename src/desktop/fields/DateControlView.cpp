@@ -3,7 +3,7 @@
 #include "desktop/drawing/Frame.h"
 #include "desktop/fields/CalendarPopup.h"
 #include "desktop/fields/ControlBinding.h"
-#include "desktop/fields/FocusChange.h"
+#include "desktop/fields/Focus.h"
 #include "desktop/look/FontScaling.h"
 #include "platform/controls/DateControl.h"
 #include "platform/values/UserLocale.h"

@@ -1,6 +1,6 @@
 #include "desktop/lists/CellEditor.h"
 
-#include "desktop/fields/FocusChange.h"
+#include "desktop/fields/Focus.h"
 #include "desktop/fields/HintView.h"
 #include "desktop/fields/LineEdits.h"
 #include "platform/lists/Listbox.h"

@@ -2,7 +2,7 @@
 
 #include "desktop/drawing/Frame.h"
 #include "desktop/drawing/PainterGraphics.h"
-#include "desktop/fields/FocusChange.h"
+#include "desktop/fields/Focus.h"
 #include "desktop/lists/CellEditor.h"
 #include "desktop/lists/ListHeading.h"
 #include "desktop/lists/RowDelegate.h"

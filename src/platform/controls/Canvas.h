@@ -15,12 +15,18 @@ public:
     /// The size in points. It is 0 until the canvas shows.
     int Width() const { return width_; }
     int Height() const { return height_; }
-    /// For the view: the canvas has another size.
-    void SetSize(int width, int height);
+    /// Called by the view when the canvas has been resized.
+    void SetSize(int width, int height) {
+        width_ = width;
+        height_ = height;
+    }
 
     /// The picture behind what Paint draws; none at the start.
     const Picture *Backdrop() const { return backdrop_.get(); }
-    void SetBackdrop(std::unique_ptr<const Picture> picture);
+    void SetBackdrop(std::unique_ptr<const Picture> picture) {
+        backdrop_ = std::move(picture);
+        Refresh();
+    }
 
     /// Whether the second press of a double click is a MouseDown too.
     virtual bool CountsEachPress() const { return true; }

@@ -19,7 +19,12 @@ public:
         bool enabled = true;
     };
 
-    explicit ToolItem(const Properties &properties);
+    explicit ToolItem(const Properties &properties)
+        : Control(properties.name.toString()), style_(properties.style),
+          caption_(properties.caption.toString()), icon_(properties.icon.toString()),
+          word_(properties.word.toString()) {
+        SetEnabled(properties.enabled);
+    }
 
     Style ItemStyle() const { return style_; }
     QString Caption() const { return caption_; }
