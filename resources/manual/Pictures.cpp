@@ -37,15 +37,16 @@ public:
     Date Now() const override { return Date(QDateTime(QDate(2026, 1, 20), QTime(12, 0))); }
     void MsgBox(const QString & /*message*/) override {}
     std::unique_ptr<PrinterGraphics>
-    OpenPrinterDialog(const QString &document, const std::optional<FolderItem> &openBook) override {
+    OpenPrinterDialog(const QString &document,
+                      const std::optional<FolderItem> &databaseFile) override {
         auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
         printer->setOutputFormat(QPrinter::PdfFormat);
         printer->setPageSize(QPageSize(QPageSize::A4));
         printer->setOutputFileName(paper_);
         printer->setDocName(document);
-        return std::make_unique<PrintJob>(std::move(printer), openBook, [](const QString &failure) {
-            qFatal("%s", qUtf8Printable(failure));
-        });
+        return std::make_unique<PrintJob>(
+            std::move(printer), databaseFile,
+            [](const QString &failure) { qFatal("%s", qUtf8Printable(failure)); });
     }
 
 private:

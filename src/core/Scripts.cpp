@@ -32,6 +32,6 @@ QString ChartSKR04SQL() {
     return Script(u"ChartSKR04.sql"_s);
 }
 
-QString SampleBookSQL(int year) {
-    return Script(u"SampleBook.sql"_s).replace(u"{year}"_s, QString::number(year));
+QString SampleDataSQL(int year) {
+    return Script(u"SampleData.sql"_s).replace(u"{year}"_s, QString::number(year));
 }

@@ -9,4 +9,4 @@ QString ReferenceDataSQL();
 QString ChartSKR03SQL();
 QString ChartSKR04SQL();
 /// The company, the cash book and the five bookings of the sample book, dated in the year.
-QString SampleBookSQL(int year);
+QString SampleDataSQL(int year);

@@ -70,13 +70,13 @@ void QtDesktop::MsgBox(const QString &message) {
     box.setWindowModality(Qt::WindowModal);
     // Texts of the database may contain what looks like markup.
     box.setTextFormat(Qt::PlainText);
-    Ask(box);
+    Exec(box);
 }
 
 std::optional<FolderItem> QtDesktop::GetOpenFolderItem() {
     QFileDialog box(Owner());
     box.setFileMode(QFileDialog::ExistingFile);
-    return Ask(box) ? std::optional(FolderItem(box.selectedFiles().constFirst())) : std::nullopt;
+    return Exec(box) ? std::optional(FolderItem(box.selectedFiles().constFirst())) : std::nullopt;
 }
 
 std::optional<FolderItem> QtDesktop::ShowModal(const SaveAsDialog &dialog) {
@@ -86,11 +86,12 @@ std::optional<FolderItem> QtDesktop::ShowModal(const SaveAsDialog &dialog) {
     box.setLabelText(QFileDialog::FileName, dialog.promptText);
     box.setDefaultSuffix(dialog.filter.extensions);
     box.selectFile(dialog.suggestedFileName);
-    return Ask(box) ? std::optional(FolderItem(box.selectedFiles().constFirst())) : std::nullopt;
+    return Exec(box) ? std::optional(FolderItem(box.selectedFiles().constFirst())) : std::nullopt;
 }
 
 std::unique_ptr<PrinterGraphics>
-QtDesktop::OpenPrinterDialog(const QString &document, const std::optional<FolderItem> &openBook) {
+QtDesktop::OpenPrinterDialog(const QString &document,
+                             const std::optional<FolderItem> &databaseFile) {
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer->setDocName(document);
     if (printer->outputFormat() == QPrinter::PdfFormat) {
@@ -99,10 +100,10 @@ QtDesktop::OpenPrinterDialog(const QString &document, const std::optional<Folder
             FolderOf(QStandardPaths::DocumentsLocation).Child(document + u".pdf"_s).Path());
     }
     QPrintDialog dialog(printer.get(), Owner());
-    if (!Ask(dialog)) {
+    if (!Exec(dialog)) {
         return nullptr;
     }
-    return std::make_unique<PrintJob>(std::move(printer), openBook,
+    return std::make_unique<PrintJob>(std::move(printer), databaseFile,
                                       [this](const QString &failure) { MsgBox(failure); });
 }
 
@@ -121,11 +122,11 @@ void QtDesktop::ShowAboutPanel() {
                                                    QApplication::applicationVersion()),
                     QMessageBox::Ok, Owner());
     box.setIconPixmap(QApplication::windowIcon().pixmap(96));
-    Ask(box);
+    Exec(box);
 }
 
-bool QtDesktop::Ask(QDialog &dialog) const {
-    return isAsking_ && dialog.exec() == QDialog::Accepted;
+bool QtDesktop::Exec(QDialog &dialog) const {
+    return showsDialogs_ && dialog.exec() == QDialog::Accepted;
 }
 
 void QtDesktop::Launch(const FolderItem &file) {

@@ -16,21 +16,22 @@ public:
     std::optional<FolderItem> GetOpenFolderItem() override;
     std::optional<FolderItem> ShowModal(const SaveAsDialog &dialog) override;
     std::unique_ptr<PrinterGraphics>
-    OpenPrinterDialog(const QString &document, const std::optional<FolderItem> &openBook) override;
+    OpenPrinterDialog(const QString &document,
+                      const std::optional<FolderItem> &databaseFile) override;
     std::optional<int> PopUp(const MenuItem &base) override;
     void ShowAboutPanel() override;
     void Launch(const FolderItem &file) override;
     void ShowURL(const QString &address) override;
 
     /// From now on no message and no dialog opens: each is answered as if the user had closed it.
-    void StopAsking() { isAsking_ = false; }
+    void SuppressDialogs() { showsDialogs_ = false; }
 
 private:
     /// Whether the user accepts what the dialog asks.
-    bool Ask(QDialog &dialog) const;
+    bool Exec(QDialog &dialog) const;
     /// Starts the desktop's program for it, which goes on when this program ends. If it can't be
     /// started a message shows the name, unless that is empty.
     void Open(const QUrl &address, const QString &name);
 
-    bool isAsking_ = true;
+    bool showsDialogs_ = true;
 };

@@ -42,7 +42,7 @@ TerminationSignals::TerminationSignals() {
     }
     wakeUp = ends_[1];
     const auto *notifier = new QSocketNotifier(ends_[0], QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, &TerminationSignals::TakeSignal);
+    connect(notifier, &QSocketNotifier::activated, this, &TerminationSignals::ReadSignal);
     for (const int signal : endings) {
         std::signal(signal, HandleSignal);
     }
@@ -57,7 +57,7 @@ TerminationSignals::~TerminationSignals() {
     }
 }
 
-void TerminationSignals::TakeSignal() {
+void TerminationSignals::ReadSignal() {
     char byte = 0;
     // What it says is known: there is only one message.
     static_cast<void>(!read(ends_[0], &byte, 1));

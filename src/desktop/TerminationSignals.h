@@ -19,7 +19,7 @@ Q_SIGNALS:
     void Raised();
 
 private:
-    void TakeSignal();
+    void ReadSignal();
 
     /// The ends of a pipe, for reading and for writing.
     std::array<int, 2> ends_ = {-1, -1};

@@ -12,7 +12,8 @@ Windows::~Windows() = default;
 
 void Windows::Open() {
     welcomeWindow_ = std::make_unique<WelcomeWindow>(app_);
-    connect(welcomeWindow_.get(), &WelcomeWindow::MainWindowWanted, this, &Windows::ShowMainWindow);
+    connect(welcomeWindow_.get(), &WelcomeWindow::MainWindowRequested, this,
+            &Windows::ShowMainWindow);
     // Queued: the welcome window emits the signal and is in use until it returns.
     connect(
         welcomeWindow_.get(), &WelcomeWindow::Closed, this,

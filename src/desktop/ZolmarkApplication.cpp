@@ -44,7 +44,7 @@ bool ZolmarkApplication::notify(QObject *receiver, QEvent *event) {
     try {
         return QApplication::notify(receiver, event);
     } catch (const std::exception &exception) {
-        Tell(exception);
+        ShowException(exception);
         if (!HasWindow()) {
             exit(EXIT_FAILURE);
         }
@@ -52,12 +52,12 @@ bool ZolmarkApplication::notify(QObject *receiver, QEvent *event) {
     }
 }
 
-void ZolmarkApplication::Tell(const std::exception &exception) {
+void ZolmarkApplication::ShowException(const std::exception &exception) {
     desktop_.MsgBox(QString::fromLocal8Bit(exception.what()));
 }
 
 void ZolmarkApplication::End() {
-    desktop_.StopAsking();
+    desktop_.SuppressDialogs();
     closeAllWindows();
     if (QThread::currentThread()->loopLevel() > 1) {
         // What a message has held up goes on first, and may open a window.

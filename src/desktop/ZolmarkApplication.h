@@ -20,7 +20,7 @@ public:
     /// An exception that nobody caught is told in a message, and the program goes on if it has a
     /// window to go on with.
     bool notify(QObject *receiver, QEvent *event) override;
-    void Tell(const std::exception &exception);
+    void ShowException(const std::exception &exception);
 
     /// Closes all windows and ends the program, whatever message stands, and opens no other.
     void End();

@@ -13,13 +13,13 @@
 namespace {
 
 /// Answers on the terminal, without a display, what is asked there; false if nothing is.
-bool Answer(int argc, const char *const *argv) {
-    const char *question = argc == 2 ? argv[1] : "";
-    if (std::strcmp(question, "--version") == 0) {
+bool HandleOption(int argc, const char *const *argv) {
+    const char *option = argc == 2 ? argv[1] : "";
+    if (std::strcmp(option, "--version") == 0) {
         std::printf("Zolmark %s\n", ZolmarkApplication::Version());
         return true;
     }
-    if (std::strcmp(question, "--help") == 0) {
+    if (std::strcmp(option, "--help") == 0) {
         std::puts("Zolmark führt Kassenbücher für Selbstständige und Freiberufler.\n\n"
                   "Aufruf: zolmark [--help | --version]\n\n"
                   "Alles andere geschieht im Fenster; Hilfe > Kurzanleitung öffnet das Handbuch.");
@@ -29,7 +29,8 @@ bool Answer(int argc, const char *const *argv) {
 }
 
 /// Where the toolkit finds no display, it would end the program with a list of its plugins.
-void TellWithoutDisplay(QtMsgType type, const QMessageLogContext &context, const QString &message) {
+void ReportMissingDisplay(QtMsgType type, const QMessageLogContext &context,
+                          const QString &message) {
     if (type == QtFatalMsg) {
         std::fputs("Zolmark kann kein Fenster öffnen: Es ist keine Anzeige erreichbar.\n", stderr);
         std::_Exit(EXIT_FAILURE);
@@ -55,7 +56,7 @@ int Run(ZolmarkApplication &application, QtDesktop &desktop) {
 } // namespace
 
 int main(int argc, char *argv[]) {
-    if (Answer(argc, argv)) {
+    if (HandleOption(argc, argv)) {
         return EXIT_SUCCESS;
     }
     // The toolkit's salted hash, as of Qt 6.4, leaves processors with vector AES in a state that
@@ -63,13 +64,13 @@ int main(int argc, char *argv[]) {
     // texts that collide in it has the book open already.
     QHashSeed::setDeterministicGlobalSeed();
     QtDesktop desktop;
-    qInstallMessageHandler(TellWithoutDisplay);
+    qInstallMessageHandler(ReportMissingDisplay);
     ZolmarkApplication application(argc, argv, desktop);
     qInstallMessageHandler(nullptr);
     try {
         return Run(application, desktop);
     } catch (const std::exception &exception) {
-        application.Tell(exception);
+        application.ShowException(exception);
         return EXIT_FAILURE;
     }
 }

@@ -48,12 +48,12 @@ void Balances::ReCalcAmount() {
         return;
     }
     OpeningBalanceLabel.SetText(app_.Locale().FormatBalance(start.ToDouble()));
-    RunBalance(start);
+    FillBalanceColumn(start);
     const Listbox &list = journal_.CashList;
     LastAmountLabel.SetText(list.Cell(list.LastIndex(), Journal::Balance));
 }
 
-void Balances::RunBalance(Currency balance) {
+void Balances::FillBalanceColumn(Currency balance) {
     Listbox &list = journal_.CashList;
     TextColumn texts;
     for (int row = 0; row < list.ListCount(); ++row) {

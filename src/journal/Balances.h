@@ -40,7 +40,7 @@ public:
 
 private:
     std::unique_ptr<RecordSet> SelectCashbook(int id) const;
-    void RunBalance(Currency balance);
+    void FillBalanceColumn(Currency balance);
 
     const App &app_;
     const Selectors &selectors_;

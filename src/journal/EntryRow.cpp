@@ -13,15 +13,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const auto nameOfReceipts = u"Art der Einnahme"_s;
-const auto nameOfExpenses = u"Art der Ausgabe"_s;
+const auto receiptCaption = u"Art der Einnahme"_s;
+const auto expenseCaption = u"Art der Ausgabe"_s;
 
 } // namespace
 
 EntryRow::EntryRow(const App &app, Selectors &selectors, Journal &journal, const Balances &balances)
     : DateField(u"DateField"_s, app.GetDesktop().Now(), [&app] { return app.GetDesktop().Now(); }),
       InputField(u"InputField"_s), OutputField(u"OutputField"_s), pickLists(app),
-      CategoryLabel(u"CategoryLabel"_s, nameOfReceipts), SaleNumberField(u"SaleNumberField"_s),
+      CategoryLabel(u"CategoryLabel"_s, receiptCaption), SaleNumberField(u"SaleNumberField"_s),
       NoteField(u"NoteField"_s),
       SubmitButton(u"SubmitButton"_s, u"Eintragen"_s, PushButton::Role::Default),
       ChangeButton(u"ChangeButton"_s, u"Ändern"_s, PushButton::Role::Default),
@@ -32,9 +32,9 @@ EntryRow::EntryRow(const App &app, Selectors &selectors, Journal &journal, const
     ErrorRect.SetVisible(false);
     connect(&InputField, &TextField::TextChange, this, &EntryRow::InputField_TextChange);
     connect(&OutputField, &TextField::TextChange, this, &EntryRow::OutputField_TextChange);
-    connect(&InputField, &Control::GotFocus, this, [this] { NameCategory(nameOfReceipts); });
-    connect(&OutputField, &Control::GotFocus, this, [this] { NameCategory(nameOfExpenses); });
-    connect(&pickLists.CategoryCombo, &ComboBox::TextChanged, this, &EntryRow::TellCategory);
+    connect(&InputField, &Control::GotFocus, this, [this] { SetCategoryCaption(receiptCaption); });
+    connect(&OutputField, &Control::GotFocus, this, [this] { SetCategoryCaption(expenseCaption); });
+    connect(&pickLists.CategoryCombo, &ComboBox::TextChanged, this, &EntryRow::UpdateCategoryHint);
     connect(&SubmitButton, &PushButton::Action, this, &EntryRow::SubmitButton_Action);
     connect(&ChangeButton, &PushButton::Action, this, &EntryRow::ChangeButton_Action);
     connect(&CancelButton, &PushButton::Action, this, &EntryRow::NewSale);
@@ -84,18 +84,18 @@ void EntryRow::AmountTyped(TextField &field, Control &other, const QString &type
         pickLists.LoadTax(type);
         pickLists.LoadAccounts(type);
     }
-    TellCategory();
+    UpdateCategoryHint();
 }
 
-void EntryRow::NameCategory(const QString &caption) {
+void EntryRow::SetCategoryCaption(const QString &caption) {
     CategoryLabel.SetText(caption);
-    TellCategory();
+    UpdateCategoryHint();
 }
 
-void EntryRow::TellCategory() {
+void EntryRow::UpdateCategoryHint() {
     const QString side = Side();
-    CategoryLabel.SetSpokenText(side == u'E'   ? nameOfReceipts
-                                : side == u'A' ? nameOfExpenses
+    CategoryLabel.SetSpokenText(side == u'E'   ? receiptCaption
+                                : side == u'A' ? expenseCaption
                                                : CategoryLabel.Text());
     ComboBox &category = pickLists.CategoryCombo;
     const bool unknown =
@@ -104,7 +104,7 @@ void EntryRow::TellCategory() {
 }
 
 bool EntryRow::CheckFields() {
-    selectors_.GetMissing();
+    selectors_.LoadMissing();
     pickLists.LoadMissing(Side());
     pickLists.SelectTypedRows();
     // All checks run, and the message of the last one that fails is the one to read.
@@ -124,7 +124,7 @@ bool EntryRow::CheckFields() {
         message = u"Buchungsdatum darf nicht unter dem Eröffnungsdatum liegen!"_s;
     }
     // A click on the button leaves a field whose text is no day; the day from before is not meant.
-    if (DateField.TakeRefusal()) {
+    if (DateField.ResetRefusal()) {
         message = u"Bitte das Datum prüfen!"_s;
     }
     ErrorRect.SetVisible(!message.isEmpty());

@@ -50,7 +50,7 @@ public:
     void DeleteSale();
 
 private:
-    void NameCategory(const QString &caption);
+    void SetCategoryCaption(const QString &caption);
     void InputField_TextChange();
     void OutputField_TextChange();
     void CashList_ConstructContextualMenu(MenuItem &base) const;
@@ -65,7 +65,7 @@ private:
     void ShowButtons(bool changing);
     void AmountTyped(TextField &field, Control &other, const QString &type);
     /// Says which kind of category is wanted, and whether the typed one is an account.
-    void TellCategory();
+    void UpdateCategoryHint();
     /// What the row holds, as the columns that a new and a changed booking share.
     DatabaseRecord Entry() const;
     /// Writes the row into the booking; the database's Error tells how that went.

@@ -31,7 +31,7 @@ void Selectors::ChangeTogether(const std::function<void()> &changes) {
         const QScopedValueRollback<int> inside(together_, together_ + 1);
         changes();
     }
-    if (together_ == 0 && std::exchange(refreshWanted_, false)) {
+    if (together_ == 0 && std::exchange(isRefreshRequested_, false)) {
         Q_EMIT RefreshJournal();
     }
 }
@@ -67,7 +67,7 @@ void Selectors::GetJournalYears() {
         // The opening year, or half a list, would select another year than the journal shows. The
         // refresh meets the same failure and shows it.
         rows.clear();
-        AskForRefresh();
+        RequestRefresh();
     } else if (rows.empty()) {
         const auto opening =
             app_.kvoDB()
@@ -91,7 +91,7 @@ void Selectors::LoadMonths() {
     MonthPopup.SetListIndex(0);
 }
 
-void Selectors::GetMissing() {
+void Selectors::LoadMissing() {
     ChangeTogether([this] {
         if (CashbookPopup.ListIndex() < 0) {
             GetCashbooks();
@@ -131,7 +131,7 @@ void Selectors::CashbookPopup_Change() {
         return;
     }
     mCashbookID_ = CashbookPopup.ListIndex();
-    AskForRefresh();
+    RequestRefresh();
 }
 
 void Selectors::YearPopup_Change() {
@@ -139,13 +139,13 @@ void Selectors::YearPopup_Change() {
         return;
     }
     mYear_ = YearPopup.ListIndex();
-    AskForRefresh();
+    RequestRefresh();
 }
 
 void Selectors::MonthPopup_Change() {
-    AskForRefresh();
+    RequestRefresh();
 }
 
-void Selectors::AskForRefresh() {
-    ChangeTogether([this] { refreshWanted_ = true; });
+void Selectors::RequestRefresh() {
+    ChangeTogether([this] { isRefreshRequested_ = true; });
 }

@@ -33,7 +33,7 @@ public:
     void LoadMonths();
     /// Rebuilds what a failed query has left empty. To be called before a selection is booked,
     /// printed or exported, for without one the main cash book would be taken.
-    void GetMissing();
+    void LoadMissing();
 
     /// Selects year and month of the date. A year that is not in the list leaves the year.
     void ShowPeriod(const Date &date);
@@ -56,12 +56,12 @@ private:
     void CashbookPopup_Change();
     void YearPopup_Change();
     void MonthPopup_Change();
-    void AskForRefresh();
+    void RequestRefresh();
 
     const App &app_;
     // Positions in their lists, not ids or years; they outlive a rebuilding of the lists.
     int mCashbookID_ = 0;
     int mYear_ = 0;
     int together_ = 0;
-    bool refreshWanted_ = false;
+    bool isRefreshRequested_ = false;
 };

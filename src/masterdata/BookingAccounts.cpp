@@ -28,7 +28,7 @@ BookingAccounts::BookingAccounts(const App &app)
     CashaccountList.SetRequiresSelection(true);
     AccountsAdd.FillColor = Color{0xC0C0C0};
     AccountsAdd.HoverColor = Color{0xEBEBEB};
-    FollowTheList();
+    ConnectList();
     connect(&AccountsAdd, &TLXPlusMinusButton::PlusPressed, this,
             &BookingAccounts::AccountsAdd_PlusPressed);
     connect(&AccountsAdd, &TLXPlusMinusButton::MinusPressed, this,
@@ -36,7 +36,7 @@ BookingAccounts::BookingAccounts(const App &app)
     CashaccountList_Open();
 }
 
-void BookingAccounts::FollowTheList() {
+void BookingAccounts::ConnectList() {
     const Listbox *list = &CashaccountList;
     connect(list, &Listbox::CellClick, this, &BookingAccounts::CashaccountList_CellClick);
     connect(list, &Listbox::CellAction, this, &BookingAccounts::CashaccountList_CellAction);
@@ -89,8 +89,8 @@ void BookingAccounts::CashaccountList_CellKeyDown(int row, int column, QChar key
     }
 }
 
-void BookingAccounts::CashaccountList_MouseDown(int /*row*/, int column, bool &taken) const {
-    taken = column == Kind;
+void BookingAccounts::CashaccountList_MouseDown(int /*row*/, int column, bool &handled) const {
+    handled = column == Kind;
 }
 
 void BookingAccounts::CashaccountList_MouseUp(int row, int column) {

@@ -35,7 +35,7 @@ private:
     void CashaccountList_CellClick(int row, int column, bool &handled);
     void CashaccountList_CellAction(int row, int column);
     void CashaccountList_CellKeyDown(int row, int column, QChar key);
-    void CashaccountList_MouseDown(int row, int column, bool &taken) const;
+    void CashaccountList_MouseDown(int row, int column, bool &handled) const;
     void CashaccountList_MouseUp(int row, int column);
     void CashaccountList_CompareRows(int first, int second, int column, int &result,
                                      bool &handled) const;
@@ -46,7 +46,7 @@ private:
     void AccountsAdd_PlusPressed();
     void AccountsAdd_MinusPressed();
     void AddRow(RecordSet &record);
-    void FollowTheList();
+    void ConnectList();
 
     const App &app_;
     RecordList records_;

@@ -32,7 +32,7 @@ CashBooks::CashBooks(const App &app)
     connect(&CashbookList, &Listbox::CellAction, this, &CashBooks::CashbookList_CellAction);
     connect(&CashbookList, &Listbox::DoubleClick, this, &CashBooks::CashbookList_DoubleClick);
     connect(&CashbookList, &Listbox::CellKeyDown, this, &CashBooks::CashbookList_CellKeyDown);
-    connect(&CashbookList, &Listbox::AskHint, this,
+    connect(&CashbookList, &Listbox::HintRequested, this,
             [this](int column, const QString &text, QString &hint) {
                 hint = column == OpeningBalance ? TLXModule::AmountHint(text, app_.Locale())
                                                 : QString();

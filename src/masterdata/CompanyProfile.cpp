@@ -42,10 +42,10 @@ CompanyProfile::CompanyProfile(const App &app)
     CurrencyCombo.AddRow(u"EUR"_s);
     CurrencyCombo.SetListIndex(0);
     for (const auto &[field, column] : mappings) {
-        connect(&(this->*field), &TextField::TextChange, this, &CompanyProfile::NoteChange);
+        connect(&(this->*field), &TextField::TextChange, this, &CompanyProfile::MarkChanged);
     }
     for (const ComboBox *combo : {&CountryCombo, &AccountFrameCombo, &CurrencyCombo}) {
-        connect(combo, &ComboBox::TextChanged, this, &CompanyProfile::NoteChange);
+        connect(combo, &ComboBox::TextChanged, this, &CompanyProfile::MarkChanged);
     }
 }
 
@@ -86,6 +86,6 @@ void CompanyProfile::SaveFields() {
     app_.ReportError();
 }
 
-void CompanyProfile::NoteChange() {
+void CompanyProfile::MarkChanged() {
     recordChange_ = true;
 }

@@ -46,7 +46,7 @@ public:
     bool RecordChange() const { return recordChange_; }
 
 private:
-    void NoteChange();
+    void MarkChanged();
     /// The company; nothing after a failure, which has been told.
     std::unique_ptr<RecordSet> SelectCompany();
 

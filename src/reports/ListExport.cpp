@@ -28,7 +28,7 @@ QByteArray WithSemicolons(const QString &cells) {
 } // namespace
 
 void TLXModule::ExportCSV(Desktop &desktop, const CellModel &list,
-                          const std::optional<FolderItem> &openBook) {
+                          const std::optional<FolderItem> &databaseFile) {
     const std::optional<FolderItem> file =
         desktop.ShowModal({.initialDirectory = desktop.DesktopFolder(),
                            .promptText = u"Speichern als"_s,
@@ -38,7 +38,7 @@ void TLXModule::ExportCSV(Desktop &desktop, const CellModel &list,
     if (!file) {
         return;
     }
-    TextOutputStream stream(*file, openBook);
+    TextOutputStream stream(*file, databaseFile);
     stream.Write(WithSemicolons(list.Heading(-1) + endOfLine));
     stream.Write(WithSemicolons(ReplaceLineEndings(list.Cell(-1, -1), endOfLine)));
     if (!stream.Close()) {

@@ -17,7 +17,7 @@ constexpr int pictureLeft = 14;
 constexpr int pictureTop = 26;
 
 /// How the names of books in the making begin. They stand beside the place of the book.
-const auto unfinished = u"Zolmark.neu-"_s;
+const auto temporaryPrefix = u"Zolmark.neu-"_s;
 const auto cannotCreate = u"Die Datenbank konnte nicht erstellt werden: "_s;
 
 } // namespace
@@ -78,9 +78,9 @@ void WelcomeWindow::Event_Open() {
     }
     app_.Connect();
     // Who was ended between the last two steps of making the book has left it a second name.
-    app_.DefaultDatabaseFile().Parent().DeleteFiles(unfinished);
+    app_.DefaultDatabaseFile().Parent().DeleteFiles(temporaryPrefix);
     Q_EMIT Closed();
-    Q_EMIT MainWindowWanted();
+    Q_EMIT MainWindowRequested();
 }
 
 void WelcomeWindow::AboutItem_Action() {
@@ -124,7 +124,7 @@ void WelcomeWindow::SaveButton_Action() {
         return;
     }
     // The shown day is not the one that was meant if a typed text was refused and left behind.
-    if (OpeningDate.TakeRefusal()) {
+    if (OpeningDate.ResetRefusal()) {
         app_.GetDesktop().MsgBox(u"Bitte das Datum prüfen!"_s);
         OpeningDate.SetFocus();
         return;
@@ -140,9 +140,9 @@ void WelcomeWindow::CreateDatabase() {
         static_cast<void>(folder.CreateAsFolder());
     }
     // What an attempt has left that was ended half-way.
-    folder.DeleteFiles(unfinished);
-    const QString name = unfinished + QUuid::createUuid().toString(QUuid::Id128);
-    if (!MakeBook(folder.Child(name))) {
+    folder.DeleteFiles(temporaryPrefix);
+    const QString name = temporaryPrefix + QUuid::createUuid().toString(QUuid::Id128);
+    if (!CreateFile(folder.Child(name))) {
         folder.DeleteFiles(name);
         return;
     }
@@ -155,18 +155,18 @@ void WelcomeWindow::CreateDatabase() {
     if (app_.DBLoad()) {
         app_.Connect();
     }
-    Q_EMIT MainWindowWanted();
+    Q_EMIT MainWindowRequested();
     Q_EMIT Closed();
 }
 
-bool WelcomeWindow::MakeBook(const FolderItem &file) {
+bool WelcomeWindow::CreateFile(const FolderItem &file) {
     SQLiteDatabase &database = app_.NewDatabase();
     app_.UseFile(database, file);
     const bool created = database.CreateDatabaseFile();
     if (!created) {
         app_.GetDesktop().MsgBox(cannotCreate + database.ErrorMessage());
     }
-    const bool made = created && BuildBook(AccountsPopup.Text(), ClosingSQL());
+    const bool made = created && FillDatabase(AccountsPopup.Text(), ClosingSQL());
     app_.NewDatabase();
     return made;
 }
@@ -179,13 +179,13 @@ void WelcomeWindow::CreateDemoDatabase() {
                        database.ErrorMessage());
         return;
     }
-    if (!BuildBook(u"SKR-03"_s, SampleBookSQL(desktop.Now().Year()))) {
+    if (!FillDatabase(u"SKR-03"_s, SampleDataSQL(desktop.Now().Year()))) {
         return;
     }
     desktop.MsgBox(
         u"In der Demo werden Beispieldaten geladen. Sie können alle Funktionen des Programms "
         "testen. Die eingegebenen Daten gehen beim beenden des Programmes verloren."_s);
-    Q_EMIT MainWindowWanted();
+    Q_EMIT MainWindowRequested();
     Q_EMIT Closed();
 }
 
@@ -205,7 +205,7 @@ QString WelcomeWindow::ClosingSQL() const {
            cashBook.join(u"', '"_s) + u"');"_s;
 }
 
-bool WelcomeWindow::BuildBook(const QString &chart, const QString &closingSQL) {
+bool WelcomeWindow::FillDatabase(const QString &chart, const QString &closingSQL) {
     SQLiteDatabase &database = app_.kvoDB();
     Transaction transaction(database);
     database.SQLExecute(CashBookDDL());

@@ -60,7 +60,7 @@ public:
 
 Q_SIGNALS:
     /// Show the main window; the database is dealt with.
-    void MainWindowWanted();
+    void MainWindowRequested();
     /// This window has done its work.
     void Closed();
 
@@ -77,8 +77,8 @@ private:
     void DrawPicture(Canvas &canvas, const QString &name);
     QString ClosingSQL() const;
     /// Makes the whole book in a file, and closes it; false after a failure, which has been told.
-    [[nodiscard]] bool MakeBook(const FolderItem &file);
-    [[nodiscard]] bool BuildBook(const QString &chart, const QString &closingSQL);
+    [[nodiscard]] bool CreateFile(const FolderItem &file);
+    [[nodiscard]] bool FillDatabase(const QString &chart, const QString &closingSQL);
 
     App &app_;
 };

@@ -26,7 +26,7 @@ MainWindow::MainWindow(App &app)
     connect(&journal.CashList, &Listbox::LostFocus, this, [this] { EnableRowCommands(false); });
     connect(&MainWindowToolbar, &MainToolbar::Action, this, &MainWindow::MainWindowToolbar_Action);
     for (int place = 0; place < MainWindowToolbar.Count(); ++place) {
-        MustKnow(MainWindowToolbar.Item(place).Word());
+        RequireCommand(MainWindowToolbar.Item(place).Word());
     }
     AddMenuHandlers();
 }
@@ -38,8 +38,8 @@ const MainWindow::Command MainWindow::commands[] = {
     {u"delete", [](MainWindow &at) { at.entryRow.DeleteSale(); }},
     {u"print", [](MainWindow &at) { at.Print(); }},
     {u"export", [](MainWindow &at) { at.Export(); }},
-    {u"preferences", [](MainWindow &at) { at.EnterPreferences(); }},
-    {u"cashbook", [](MainWindow &at) { at.LeavePreferences(); }},
+    {u"preferences", [](MainWindow &at) { at.OpenPreferences(); }},
+    {u"cashbook", [](MainWindow &at) { at.ClosePreferences(); }},
     {u"about", [](MainWindow &at) { at.app_.GetDesktop().ShowAboutPanel(); }},
 };
 
@@ -58,7 +58,7 @@ void MainWindow::MenuAction(const QString &word) {
     }
 }
 
-void MainWindow::MustKnow(const QString &word) {
+void MainWindow::RequireCommand(const QString &word) {
     if (!word.isEmpty() && Find(word) == nullptr) {
         qFatal("There is no command %s.", qUtf8Printable(word));
     }
@@ -83,7 +83,7 @@ void MainWindow::AddMenuHandlers() {
 }
 
 void MainWindow::AddMenuHandler(const MenuItem &item) {
-    MustKnow(item.Word());
+    RequireCommand(item.Word());
     if (!item.Word().isEmpty()) {
         connect(&item, &MenuItem::Action, this, [this, word = item.Word()] { MenuAction(word); });
     }
@@ -123,7 +123,7 @@ void MainWindow::Event_EnableMenuItems() {
     }
 }
 
-void MainWindow::EnterPreferences() {
+void MainWindow::OpenPreferences() {
     PagePanel1.SetValue(PreferencesPage);
     companyProfile.LoadFields();
     cashBooks.LoadCashBook();
@@ -131,7 +131,7 @@ void MainWindow::EnterPreferences() {
     MainWindowToolbar.Item(MainToolbar::PreferencesButton).SetCaption(u"Kassenbuch"_s);
 }
 
-void MainWindow::LeavePreferences() {
+void MainWindow::ClosePreferences() {
     PagePanel1.SetValue(JournalPage);
     selectors.GetCashbooks();
     MainWindowToolbar.Item(MainToolbar::PreferencesButton).SetCaption(u"Einstellungen"_s);
@@ -141,12 +141,12 @@ void MainWindow::LeavePreferences() {
 }
 
 void MainWindow::Print() {
-    selectors.GetMissing();
+    selectors.LoadMissing();
     cashReport.Print();
 }
 
 void MainWindow::Export() {
-    selectors.GetMissing();
+    selectors.LoadMissing();
     accountingExport.ExportJournal();
     TLXModule::ExportCSV(app_.GetDesktop(), accountingExport.ExportList,
                          app_.kvoDB().DatabaseFile());

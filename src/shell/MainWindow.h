@@ -70,12 +70,12 @@ private:
 
     /// Nothing for a word that is no command.
     static const Command *Find(const QString &word);
-    static void MustKnow(const QString &word);
+    static void RequireCommand(const QString &word);
     void AddMenuHandlers();
     void AddMenuHandler(const MenuItem &item);
     void HideMenuEntries();
-    void EnterPreferences();
-    void LeavePreferences();
+    void OpenPreferences();
+    void ClosePreferences();
     void Print();
     void Export();
     void EndEdits();

@@ -8,7 +8,7 @@
 class Program {
 public:
     explicit Program(FakeDesktop &desktop) : app(desktop, UserLocale(QLocale(QLocale::German, QLocale::Germany))) {
-        QObject::connect(&welcome, &WelcomeWindow::MainWindowWanted, &welcome, [this] {
+        QObject::connect(&welcome, &WelcomeWindow::MainWindowRequested, &welcome, [this] {
             window.emplace(app);
             window->Event_Open();
         });

@@ -30,6 +30,6 @@ TEST(Selectors, OfferNoYearAfterAFailedQueryAndReadItAgainWhenItIsNeeded) {
     selectors.GetJournalYears();
     EXPECT_EQ(selectors.YearPopup.ListCount(), 0) << "the opening year is 2026";
     env.Show({u"cash_journal"_s});
-    selectors.GetMissing();
+    selectors.LoadMissing();
     EXPECT_EQ(selectors.YearPopup.Text(), u"2024"_s);
 }

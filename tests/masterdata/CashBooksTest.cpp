@@ -34,7 +34,7 @@ TEST_F(CashBooksTest, PlusNumbersNewBooksAndTabWritesEachCellAsTyped) {
     Q_EMIT button.PlusPressed();
     EXPECT_EQ(Stored(), u"Nebenkasse 0 1010 0.0 2015-01-01"_s);
     QString hints[3];
-    for (const int column : {0, 1, 2}) { Q_EMIT list.AskHint(column, u"1.250,00"_s, hints[column]); }
+    for (const int column : {0, 1, 2}) { Q_EMIT list.HintRequested(column, u"1.250,00"_s, hints[column]); }
     EXPECT_EQ(hints[0] + hints[1] + hints[2], u"wird als 1,25 gelesen"_s);
     for (const auto &text : {u"Ö'; \"%1\" --"_s, u"990 neu"_s, u"12,50"_s, u"Laden"_s}) {
         list.SetEditText(text);

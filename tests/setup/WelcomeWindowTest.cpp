@@ -22,7 +22,7 @@ protected:
     WelcomeWindow welcome{app};
     EventLog log{welcome};
     const FolderItem place = app.DefaultDatabaseFile();
-    const QString made = u"MainWindowWanted Closed"_s;
+    const QString made = u"MainWindowRequested Closed"_s;
     const QString cannot = u"Die Datenbank konnte nicht erstellt werden: "_s;
 };
 
@@ -125,7 +125,7 @@ TEST_F(WelcomeWindowTest, LeavesNoFileOfAFailedOrKilledAttempt) {
     ASSERT_TRUE(leftover.open(QIODevice::WriteOnly));
     EXPECT_EQ(Told(), made);
     welcome.Event_Open();
-    EXPECT_EQ(Told(), u"Closed MainWindowWanted"_s);
+    EXPECT_EQ(Told(), u"Closed MainWindowRequested"_s);
     EXPECT_EQ(Files(), u"Zolmark.sdb"_s);
 }
 

@@ -37,8 +37,8 @@ public:
         return fileToSave;
     }
     std::unique_ptr<PrinterGraphics> OpenPrinterDialog(const QString &document,
-                                                       const std::optional<FolderItem> &openBook) override {
-        notToPrintInto = openBook;
+                                                       const std::optional<FolderItem> &databaseFile) override {
+        notToPrintInto = databaseFile;
         opened.append(document);
         return paper ? std::make_unique<DrawingRecorder>(*paper) : nullptr;
     }

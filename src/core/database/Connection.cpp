@@ -19,14 +19,14 @@ void Connection::Closer::operator()(sqlite3 *handle) const {
 }
 
 Connection::Connection(const QString &path, const QByteArray &key,
-                       std::chrono::milliseconds patience)
-    : patience_(patience), open_(Open(path, key)) {}
+                       std::chrono::milliseconds lockTimeout)
+    : lockTimeout_(lockTimeout), open_(Open(path, key)) {}
 
 bool Connection::Open(const QString &path, const QByteArray &key) {
     const bool inMemory = path.isEmpty();
     // Opening a pipe would wait for its other end.
     if (!inMemory && !QFileInfo(path).isFile()) {
-        NoteFailure(QString::fromUtf8(sqlite3_errstr(SQLITE_CANTOPEN)));
+        SetError(QString::fromUtf8(sqlite3_errstr(SQLITE_CANTOPEN)));
         return false;
     }
     QByteArray derived = inMemory || key.isEmpty() ? QByteArray() : DerivedKey(key, path);
@@ -38,23 +38,24 @@ bool Connection::Open(const QString &path, const QByteArray &key) {
     const int result = sqlite3_open_v2(name.constData(), &handle, flags, nullptr);
     handle_.reset(handle);
     // Without a salt the library says itself what the file lacks.
-    const bool open = Note(result) && Note(sqlite3_busy_handler(handle, &WaitForLock, this)) &&
-                      Unlock(derived.isEmpty() ? key : derived) && Settle();
+    const bool open = SetResult(result) &&
+                      SetResult(sqlite3_busy_handler(handle, &WaitForLock, this)) &&
+                      ApplyKey(derived.isEmpty() ? key : derived) && Configure();
     derived.fill('\0');
     return open;
 }
 
-bool Connection::Unlock(const QByteArray &key) {
+bool Connection::ApplyKey(const QByteArray &key) {
     if (key.isEmpty()) {
         return true;
     }
     // The file format is pinned to that of SQLCipher 3, which every later version can be told to
     // use.
-    return Note(sqlite3_key(Handle(), key.constData(), static_cast<int>(key.size()))) &&
+    return SetResult(sqlite3_key(Handle(), key.constData(), static_cast<int>(key.size()))) &&
            Execute("PRAGMA cipher_compatibility = 3");
 }
 
-bool Connection::Settle() {
+bool Connection::Configure() {
     // A cache of 64 MiB, for decrypted pages are dear; nothing in plain text in a temporary file.
     // The last line is the proof of the key: it reads the first page.
     return Execute("PRAGMA cache_size = -65536") && Execute("PRAGMA temp_store = MEMORY") &&
@@ -62,7 +63,7 @@ bool Connection::Settle() {
 }
 
 bool Connection::Execute(const QByteArray &sql) {
-    return Note(sqlite3_exec(Handle(), sql.constData(), nullptr, nullptr, nullptr));
+    return SetResult(sqlite3_exec(Handle(), sql.constData(), nullptr, nullptr, nullptr));
 }
 
 qint64 Connection::LastRowID() const {
@@ -73,29 +74,29 @@ int Connection::Changes() const {
     return sqlite3_changes(Handle());
 }
 
-bool Connection::Note(int resultCode) {
-    const bool fine =
+bool Connection::SetResult(int resultCode) {
+    const bool isSuccess =
         resultCode == SQLITE_OK || resultCode == SQLITE_ROW || resultCode == SQLITE_DONE;
-    message_ = fine ? QString() : QString::fromUtf8(sqlite3_errmsg(Handle()));
-    return fine;
+    message_ = isSuccess ? QString() : QString::fromUtf8(sqlite3_errmsg(Handle()));
+    return isSuccess;
 }
 
 int Connection::WaitForLock(void *connection, int attempts) {
     auto &self = *static_cast<Connection *>(connection);
-    if (!self.restAfterWait_.hasExpired()) {
+    if (!self.noWaitUntil_.hasExpired()) {
         return 0;
     }
     if (attempts == 0) {
-        self.lockWait_.setRemainingTime(self.patience_);
+        self.lockWait_.setRemainingTime(self.lockTimeout_);
     }
     if (self.lockWait_.hasExpired()) {
-        self.restAfterWait_.setRemainingTime(self.patience_);
+        self.noWaitUntil_.setRemainingTime(self.lockTimeout_);
         return 0;
     }
     QThread::msleep(lockPollMs);
     return 1;
 }
 
-void Connection::NoteFailure(const QString &message) {
+void Connection::SetError(const QString &message) {
     message_ = message;
 }

@@ -21,7 +21,7 @@ public:
     /// Opens the file, which must exist and be a regular one, with the key; an empty path opens a
     /// database in memory without a key. A file is open when the key fits and its first page could
     /// be read; otherwise Error is set.
-    Connection(const QString &path, const QByteArray &key, std::chrono::milliseconds patience);
+    Connection(const QString &path, const QByteArray &key, std::chrono::milliseconds lockTimeout);
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;
 
@@ -35,9 +35,9 @@ public:
     int Changes() const;
 
     /// Keeps the outcome of a call of the library; true for a success.
-    [[nodiscard]] bool Note(int resultCode);
+    [[nodiscard]] bool SetResult(int resultCode);
     /// An outcome that no call of the library gave; a null text is a success.
-    void NoteFailure(const QString &message);
+    void SetError(const QString &message);
     bool Error() const { return !message_.isNull(); }
     QString ErrorMessage() const { return message_; }
 
@@ -47,14 +47,14 @@ private:
     };
 
     bool Open(const QString &path, const QByteArray &key);
-    bool Unlock(const QByteArray &key);
-    bool Settle();
+    bool ApplyKey(const QByteArray &key);
+    bool Configure();
     static int WaitForLock(void *connection, int attempts);
 
     std::unique_ptr<sqlite3, Closer> handle_;
     QString message_;
-    std::chrono::milliseconds patience_;
+    std::chrono::milliseconds lockTimeout_;
     QDeadlineTimer lockWait_;
-    QDeadlineTimer restAfterWait_;
+    QDeadlineTimer noWaitUntil_;
     bool open_ = false; // After what opening writes to.
 };

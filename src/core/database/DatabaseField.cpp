@@ -17,7 +17,7 @@ QString DatabaseField::StringValue() const {
 }
 
 char DatabaseField::Code() const {
-    return records_->CanRead(column_) ? records_->statement_->Letter(column_) : '\0';
+    return records_->CanRead(column_) ? records_->statement_->Character(column_) : '\0';
 }
 
 void DatabaseField::SetStringValue(const QString &text) {

@@ -46,16 +46,16 @@ DatabaseField RecordSet::Field(QAnyStringView name) {
 
 void RecordSet::Edit() {
     changes_.clear();
-    statement_->Owner()->NoteFailure(AtEnd() ? RowHasGone() : QString());
+    statement_->Owner()->SetError(AtEnd() ? RowHasGone() : QString());
 }
 
 void RecordSet::Update() {
     if (AtEnd() || changes_.empty()) {
         return;
     }
-    const auto isKnown = [this](const auto &change) { return Knows(change.first); };
+    const auto isKnown = [this](const auto &change) { return HasColumn(change.first); };
     if (!std::all_of(changes_.begin(), changes_.end(), isKnown)) {
-        statement_->Owner()->NoteFailure(ColumnIsMissing());
+        statement_->Owner()->SetError(ColumnIsMissing());
         return;
     }
     const QString id = Field("id"_L1).StringValue();
@@ -74,7 +74,7 @@ void RecordSet::Update() {
     // An UPDATE has no rows; a failure stands in Error.
     static_cast<void>(update.Step());
     if (!update.Owner()->Error() && update.Owner()->Changes() == 0) {
-        update.Owner()->NoteFailure(RowHasGone());
+        update.Owner()->SetError(RowHasGone());
     }
 }
 

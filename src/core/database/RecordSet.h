@@ -42,10 +42,10 @@ private:
         bool isBoolean;
     };
 
-    bool Knows(int column) const {
+    bool HasColumn(int column) const {
         return column >= 0 && column < static_cast<int>(columns_.size());
     }
-    bool CanRead(int column) const { return hasRow_ && Knows(column); }
+    bool CanRead(int column) const { return hasRow_ && HasColumn(column); }
     bool IsBoolean(int column) const { return columns_[static_cast<size_t>(column)].isBoolean; }
     QString UpdateText() const;
 

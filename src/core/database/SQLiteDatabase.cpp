@@ -31,7 +31,8 @@ bool SQLiteDatabase::CreateDatabaseFile() {
 }
 
 bool SQLiteDatabase::Connect() {
-    connection_ = std::make_shared<Connection>(file_ ? file_->Path() : QString(), key_, patience_);
+    connection_ =
+        std::make_shared<Connection>(file_ ? file_->Path() : QString(), key_, lockTimeout_);
     return connection_->IsOpen();
 }
 

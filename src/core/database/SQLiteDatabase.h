@@ -32,7 +32,7 @@ public:
     void SetEncryptionKey(const QByteArray &key) { key_ = key; }
     /// How long a file that another program holds locked is waited for, 5 s unless told otherwise.
     /// To be set before it is opened.
-    void SetPatience(std::chrono::milliseconds patience) { patience_ = patience; }
+    void SetLockTimeout(std::chrono::milliseconds lockTimeout) { lockTimeout_ = lockTimeout; }
 
     /// Creates the file for its owner alone, and opens it. An existing file is opened as it is.
     [[nodiscard]] bool CreateDatabaseFile();
@@ -61,7 +61,7 @@ private:
 
     std::optional<FolderItem> file_;
     QByteArray key_;
-    std::chrono::milliseconds patience_ = std::chrono::seconds(5);
+    std::chrono::milliseconds lockTimeout_ = std::chrono::seconds(5);
     /// Null until the first attempt to open.
     std::shared_ptr<Connection> connection_;
 };

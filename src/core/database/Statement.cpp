@@ -13,20 +13,21 @@ Statement::Statement(std::shared_ptr<Connection> connection, const QString &sql)
     const QByteArray text = sql.toUtf8();
     sqlite3_stmt *handle = nullptr;
     // On failure the handle is null.
-    static_cast<void>(connection_->Note(sqlite3_prepare_v2(
+    static_cast<void>(connection_->SetResult(sqlite3_prepare_v2(
         connection_->Handle(), text.constData(), static_cast<int>(text.size()), &handle, nullptr)));
     handle_.reset(handle);
 }
 
 bool Statement::Bind(int parameter, const QString &text) {
     const QByteArray bytes = text.toUtf8();
-    return connection_->Note(sqlite3_bind_text(handle_.get(), parameter + 1, bytes.constData(),
-                                               static_cast<int>(bytes.size()), SQLITE_TRANSIENT));
+    return connection_->SetResult(sqlite3_bind_text(handle_.get(), parameter + 1, bytes.constData(),
+                                                    static_cast<int>(bytes.size()),
+                                                    SQLITE_TRANSIENT));
 }
 
 bool Statement::Step() {
     const int result = sqlite3_step(handle_.get());
-    return connection_->Note(result) && result == SQLITE_ROW;
+    return connection_->SetResult(result) && result == SQLITE_ROW;
 }
 
 void Statement::Reset() {
@@ -71,7 +72,7 @@ QString Statement::Text(int column) const {
                                     : QString::fromUtf8(bytes);
 }
 
-char Statement::Letter(int column) const {
+char Statement::Character(int column) const {
     const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(handle_.get(), column));
     if (text == nullptr || text[0] == '\0' || text[1] != '\0') {
         return '\0';

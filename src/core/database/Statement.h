@@ -38,7 +38,7 @@ public:
     Kind ColumnKind(int column) const;
     QString Text(int column) const;
     /// A text of one letter, as a capital; 0 for any other.
-    char Letter(int column) const;
+    char Character(int column) const;
     double Number(int column) const;
 
 private:

@@ -6,8 +6,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 
-CanvasButton::CanvasButton(Canvas &canvas, const QString &name, const QRect &place, QWidget *view)
-    : QAbstractButton(view), canvas_(canvas), place_(place) {
+CanvasButton::CanvasButton(Canvas &canvas, const QString &name, const QRect &rect, QWidget *view)
+    : QAbstractButton(view), canvas_(canvas), rect_(rect) {
     setAccessibleName(name);
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -33,7 +33,7 @@ void CanvasButton::paintEvent(QPaintEvent * /*event*/) {
 }
 
 void CanvasButton::Press() {
-    const QPoint middle = place_.center();
+    const QPoint middle = rect_.center();
     Q_EMIT canvas_.MouseDown(middle.x(), middle.y());
     Q_EMIT canvas_.MouseUp(middle.x(), middle.y());
 }

@@ -13,9 +13,9 @@ class CanvasButton : public QAbstractButton {
 
 public:
     /// The place is one on the canvas.
-    CanvasButton(Canvas &canvas, const QString &name, const QRect &place, QWidget *view);
+    CanvasButton(Canvas &canvas, const QString &name, const QRect &rect, QWidget *view);
 
-    QRect Place() const { return place_; }
+    QRect Rect() const { return rect_; }
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -26,5 +26,5 @@ private:
     void Press();
 
     Canvas &canvas_;
-    QRect place_;
+    QRect rect_;
 };

@@ -26,18 +26,18 @@ void CanvasView::showEvent(QShowEvent * /*event*/) {
 }
 
 void CanvasView::resizeEvent(QResizeEvent * /*event*/) {
-    const double growth = ScaleFactor(*this);
-    canvas_.SetSize(qRound(width() / growth), qRound(height() / growth));
+    const double factor = ScaleFactor(*this);
+    canvas_.SetSize(qRound(width() / factor), qRound(height() / factor));
     for (CanvasButton *button : findChildren<CanvasButton *>()) {
-        button->setGeometry(Scaled(button->Place(), growth));
+        button->setGeometry(Scaled(button->Rect(), factor));
     }
 }
 
 void CanvasView::paintEvent(QPaintEvent * /*event*/) {
     QPainter painter(this);
-    const double growth = ScaleFactor(*this);
-    painter.scale(growth, growth);
-    PainterGraphics graphics(painter, QRectF(0, 0, width() / growth, height() / growth));
+    const double factor = ScaleFactor(*this);
+    painter.scale(factor, factor);
+    PainterGraphics graphics(painter, QRectF(0, 0, width() / factor, height() / factor));
     if (const Picture *backdrop = canvas_.Backdrop()) {
         backdrop->DrawOn(graphics);
     }
@@ -46,7 +46,7 @@ void CanvasView::paintEvent(QPaintEvent * /*event*/) {
 
 void CanvasView::mousePressEvent(QMouseEvent *event) {
     if (event->button() == Qt::LeftButton) {
-        const QPoint place = OnCanvas(*event);
+        const QPoint place = ToCanvas(*event);
         Q_EMIT canvas_.MouseDown(place.x(), place.y());
     }
 }
@@ -59,12 +59,12 @@ void CanvasView::mouseDoubleClickEvent(QMouseEvent *event) {
 
 void CanvasView::mouseReleaseEvent(QMouseEvent *event) {
     if (event->button() == Qt::LeftButton) {
-        const QPoint place = OnCanvas(*event);
+        const QPoint place = ToCanvas(*event);
         Q_EMIT canvas_.MouseUp(place.x(), place.y());
     }
 }
 
-QPoint CanvasView::OnCanvas(const QMouseEvent &event) const {
+QPoint CanvasView::ToCanvas(const QMouseEvent &event) const {
     return (event.position() / ScaleFactor(*this)).toPoint();
 }
 

@@ -28,7 +28,7 @@ protected:
 
 private:
     /// A point of the canvas, which knows no larger letters.
-    QPoint OnCanvas(const QMouseEvent &event) const;
+    QPoint ToCanvas(const QMouseEvent &event) const;
 
     Canvas &canvas_;
     bool opened_ = false;

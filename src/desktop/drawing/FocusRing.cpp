@@ -9,13 +9,13 @@
 FocusRing::FocusRing(QWidget &window) : QFocusFrame(&window), window_(window) {
     hide();
     connect(qApp, &QApplication::focusChanged, this,
-            [this](const QWidget * /*before*/, QWidget *now) { Follow(now); });
+            [this](const QWidget * /*before*/, QWidget *now) { SetFocusWidget(now); });
 }
 
-void FocusRing::Follow(QWidget *focus) {
-    const bool rings = focus != nullptr && focus->window() == &window_ &&
-                       qobject_cast<CanvasButton *>(focus) == nullptr;
-    setWidget(rings ? focus : nullptr);
+void FocusRing::SetFocusWidget(QWidget *focus) {
+    const bool hasRing = focus != nullptr && focus->window() == &window_ &&
+                         qobject_cast<CanvasButton *>(focus) == nullptr;
+    setWidget(hasRing ? focus : nullptr);
 }
 
 void FocusRing::paintEvent(QPaintEvent * /*event*/) {

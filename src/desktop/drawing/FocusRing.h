@@ -14,7 +14,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void Follow(QWidget *focus);
+    void SetFocusWidget(QWidget *focus);
 
     const QWidget &window_;
 };

@@ -51,7 +51,7 @@ CalendarPopup::CalendarPopup(QDate day, const QLocale &locale, QWidget *field)
 }
 
 void CalendarPopup::Open() {
-    move(Place());
+    move(Position());
     show();
     setFocus(Qt::PopupFocusReason);
 }
@@ -67,7 +67,7 @@ void CalendarPopup::Choose(QDate day) {
     Q_EMIT Chosen(day);
 }
 
-QPoint CalendarPopup::Place() const {
+QPoint CalendarPopup::Position() const {
     const QWidget &field = *parentWidget();
     const QRect free = field.screen()->availableGeometry();
     const QSize size = sizeHint();

@@ -22,5 +22,5 @@ protected:
 
 private:
     void Choose(QDate day);
-    QPoint Place() const;
+    QPoint Position() const;
 };

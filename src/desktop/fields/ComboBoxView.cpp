@@ -20,7 +20,7 @@
 namespace {
 
 /// Gives a press of the mouse to what lies there.
-void HandOn(const QMouseEvent &press) {
+void ForwardPress(const QMouseEvent &press) {
     QWidget *below = QApplication::widgetAt(press.globalPosition().toPoint());
     if (below == nullptr) {
         return;
@@ -45,7 +45,7 @@ ComboBoxView::ComboBoxView(ComboBox &combo, QWidget *parent) : QComboBox(parent)
     setInsertPolicy(NoInsert);
     setModel(combo.Rows());
     BindControl(combo, *this);
-    OfferCompletions();
+    SetUpCompleter();
     ShowCombo();
     connect(&combo, &ComboBox::Updated, this, &ComboBoxView::ShowCombo);
     connect(this, &QComboBox::activated, &combo, &ComboBox::SetListIndex);
@@ -91,7 +91,7 @@ void ComboBoxView::resizeEvent(QResizeEvent *event) {
     FitRow();
 }
 
-void ComboBoxView::OfferCompletions() {
+void ComboBoxView::SetUpCompleter() {
     // Owned by the combo box. The list of its own would replace what was typed.
     auto *completer = new QCompleter(combo_.Rows(), this);
     completer->setCompletionMode(QCompleter::PopupCompletion);
@@ -130,29 +130,29 @@ QString ComboBoxView::Completion() const {
 bool ComboBoxView::eventFilter(QObject *watched, QEvent *event) {
     if (watched == completer()->popup()) {
         if (event->type() == QEvent::KeyPress) {
-            return CompletionKey(static_cast<QKeyEvent *>(event));
+            return HandleCompletionKey(static_cast<QKeyEvent *>(event));
         }
         if (event->type() == QEvent::Show) {
             FitToLongestRow(*completer()->popup());
         }
         if (event->type() == QEvent::MouseButtonPress) {
-            return ClickBeside(*static_cast<QMouseEvent *>(event));
+            return HandleOutsidePress(*static_cast<QMouseEvent *>(event));
         }
     }
     return QComboBox::eventFilter(watched, event);
 }
 
-bool ComboBoxView::ClickBeside(const QMouseEvent &press) {
+bool ComboBoxView::HandleOutsidePress(const QMouseEvent &press) {
     QAbstractItemView &list = *completer()->popup();
-    const bool beside = !list.rect().contains(press.position().toPoint());
-    if (beside) {
+    const bool isOutside = !list.rect().contains(press.position().toPoint());
+    if (isOutside) {
         list.hide();
-        HandOn(press);
+        ForwardPress(press);
     }
-    return beside;
+    return isOutside;
 }
 
-bool ComboBoxView::CompletionKey(QKeyEvent *event) {
+bool ComboBoxView::HandleCompletionKey(QKeyEvent *event) {
     const bool isTab = event->key() == Qt::Key_Tab;
     if (!isTab && event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
         return false;

@@ -29,9 +29,9 @@ protected:
 private:
     void ShowCombo();
     void FitRow();
-    void OfferCompletions();
-    bool ClickBeside(const QMouseEvent &press);
-    bool CompletionKey(QKeyEvent *event);
+    void SetUpCompleter();
+    bool HandleOutsidePress(const QMouseEvent &press);
+    bool HandleCompletionKey(QKeyEvent *event);
     QString Completion() const;
 
     ComboBox &combo_;

@@ -35,9 +35,9 @@ public:
 protected:
     void paintEvent(QPaintEvent * /*event*/) override {
         QPainter painter(this);
-        const double growth = ScaleFactor(*this);
-        painter.scale(growth, growth);
-        const QRect page(1, (qRound(height() / growth) - 10) / 2, 9, 10);
+        const double factor = ScaleFactor(*this);
+        painter.scale(factor, factor);
+        const QRect page(1, (qRound(height() / factor) - 10) / 2, 9, 10);
         const QColor ink = underMouse() ? Qt::black : QColor(0x60, 0x60, 0x60);
         FillFrame(painter, page, 1, ink);
         painter.fillRect(QRect(page.topLeft(), QSize(page.width(), 3)), ink);
@@ -80,7 +80,7 @@ DateControlView::DateControlView(DateControl &control, const UserLocale &locale,
     ShowDay();
     BindControl(control, *this);
     connect(&control, &Control::Updated, this, &DateControlView::ShowDay);
-    connect(&control, &Control::FocusRequested, this, &DateControlView::Drop);
+    connect(&control, &Control::FocusRequested, this, &DateControlView::DiscardTyped);
     connect(&control, &Control::HintChanged, this, &DateControlView::ShowRefusal);
     connect(this, &QLineEdit::textEdited, &control, [&control] { control.SetHint({}); });
     connect(button_, &QAbstractButton::clicked, this, &DateControlView::OpenCalendar);
@@ -95,7 +95,7 @@ void DateControlView::ShowDay() {
     }
 }
 
-void DateControlView::Drop() {
+void DateControlView::DiscardTyped() {
     control_.SetHint({});
     ShowDay();
 }
@@ -104,7 +104,7 @@ void DateControlView::ShowRefusal() {
     setPalette(control_.Hint().isEmpty() ? QPalette() : RefusedColours());
 }
 
-bool DateControlView::TakeTyped() {
+bool DateControlView::CommitTyped() {
     if (!control_.SetTyped(text())) {
         selectAll();
         return false;
@@ -113,7 +113,7 @@ bool DateControlView::TakeTyped() {
     return true;
 }
 
-void DateControlView::Leave() {
+void DateControlView::CommitOrDiscard() {
     const bool good = control_.SetTyped(text());
     ShowDay();
     if (!good) {
@@ -123,11 +123,11 @@ void DateControlView::Leave() {
 
 bool DateControlView::eventFilter(QObject *watched, QEvent *event) {
     if (IsTab(*event)) {
-        return !TakeTyped();
+        return !CommitTyped();
     }
     if (event->type() == QEvent::FocusOut &&
         MovesToOtherControl(*static_cast<QFocusEvent *>(event))) {
-        Leave();
+        CommitOrDiscard();
     }
     return QLineEdit::eventFilter(watched, event);
 }
@@ -137,21 +137,21 @@ void DateControlView::keyPressEvent(QKeyEvent *event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
         // A good day leaves the key to the window, which may have a default button.
-        event->setAccepted(!TakeTyped());
+        event->setAccepted(!CommitTyped());
         break;
     case Qt::Key_Escape:
         // It takes back what is half typed; only pressed again it is the window's.
         event->setAccepted(isModified());
-        Drop();
+        DiscardTyped();
         break;
     default:
-        if (!TakeKey(*event)) {
+        if (!HandleKey(*event)) {
             QLineEdit::keyPressEvent(event);
         }
     }
 }
 
-bool DateControlView::TakeKey(const QKeyEvent &event) {
+bool DateControlView::HandleKey(const QKeyEvent &event) {
     const int key = event.key();
     const auto modifiers = event.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
     const bool plain = modifiers == Qt::NoModifier;
@@ -189,7 +189,7 @@ bool DateControlView::StepBy(int key) {
 }
 
 void DateControlView::Step(void (DateControl::*step)(int), int count) {
-    if (TakeTyped()) {
+    if (CommitTyped()) {
         (control_.*step)(count);
     }
 }
@@ -213,7 +213,7 @@ void DateControlView::OpenCalendar() {
     setFocus(Qt::OtherFocusReason);
     // What is no day is dropped: the calendar shows the day that it begins from.
     static_cast<void>(control_.SetTyped(text()));
-    Drop();
+    DiscardTyped();
     auto *calendar = new CalendarPopup(control_.DateValue().Day(), locale_.Locale(), this);
     connect(calendar, &CalendarPopup::Chosen, this,
             [this](QDate day) { control_.SetDateValue(Date(day)); });

@@ -30,14 +30,14 @@ private:
     /// Shows the control's day in place of what was typed.
     void ShowDay();
     /// The same, and says no more about what was typed.
-    void Drop();
+    void DiscardTyped();
     void ShowRefusal();
     /// Hands the typed text to the control; false if it had to be refused.
-    [[nodiscard]] bool TakeTyped();
+    [[nodiscard]] bool CommitTyped();
     /// Hands the typed text to the control, or drops it.
-    void Leave();
+    void CommitOrDiscard();
 
-    bool TakeKey(const QKeyEvent &event);
+    bool HandleKey(const QKeyEvent &event);
     bool StepBy(int key);
     void Step(void (DateControl::*step)(int), int count);
     /// Whether the key is a letter of what is being typed, and no step.

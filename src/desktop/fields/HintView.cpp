@@ -18,7 +18,7 @@ HintView::HintView(QWidget &field) : QWidget(field.window()), field_(field) {
 
 bool HintView::eventFilter(QObject * /*watched*/, QEvent *event) {
     if (event->type() == QEvent::LayoutRequest && isVisible()) {
-        setGeometry(Place());
+        setGeometry(HintRect());
     }
     return false;
 }
@@ -27,26 +27,26 @@ void HintView::SetText(const QString &hint) {
     hint_ = hint;
     setVisible(!hint.isEmpty());
     setFont(field_.font());
-    setGeometry(Place());
+    setGeometry(HintRect());
     raise();
     update();
 }
 
-QRect HintView::Place() const {
+QRect HintView::HintRect() const {
     // Clear of the ring around the field.
     const QPoint corner(0, field_.height() + 2);
-    QRect place(corner, fontMetrics().size(0, hint_).grownBy(margins));
+    QRect rect(corner, fontMetrics().size(0, hint_).grownBy(margins));
     for (const QWidget *each :
          field_.parentWidget()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
         const QRect other = each->geometry().translated(-field_.pos());
-        if (each->isVisible() && each->focusPolicy() == Qt::NoFocus && other.intersects(place)) {
-            place.moveTop(other.bottom() + 1);
+        if (each->isVisible() && each->focusPolicy() == Qt::NoFocus && other.intersects(rect)) {
+            rect.moveTop(other.bottom() + 1);
         }
     }
-    place.translate(field_.mapTo(window(), QPoint()));
+    rect.translate(field_.mapTo(window(), QPoint()));
     // Whole in the window, if that is wide enough.
-    place.moveLeft(std::max(0, std::min(place.left(), window()->width() - place.width())));
-    return place;
+    rect.moveLeft(std::max(0, std::min(rect.left(), window()->width() - rect.width())));
+    return rect;
 }
 
 void HintView::paintEvent(QPaintEvent * /*event*/) {

@@ -20,7 +20,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QRect Place() const;
+    QRect HintRect() const;
 
     const QWidget &field_;
     QString hint_;

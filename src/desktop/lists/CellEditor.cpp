@@ -32,14 +32,14 @@ CellEditor::CellEditor(Listbox &list, QWidget *parent)
     selectAll();
     AcceptOneLine(*this);
     // Only what the user types, for a line edit shows some characters otherwise than they are.
-    connect(this, &QLineEdit::textEdited, this, &CellEditor::Type);
+    connect(this, &QLineEdit::textEdited, this, &CellEditor::TextEdited);
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-void CellEditor::Type(const QString &text) {
+void CellEditor::TextEdited(const QString &text) {
     list_.SetEditText(text);
     QString hint;
-    Q_EMIT list_.AskHint(list_.EditedColumn(), text, hint);
+    Q_EMIT list_.HintRequested(list_.EditedColumn(), text, hint);
     hint_->SetText(hint);
     setAccessibleDescription(hint);
 }
@@ -68,7 +68,7 @@ void CellEditor::keyPressEvent(QKeyEvent *event) {
         list_.EndEdit();
         break;
     case Qt::Key_Escape:
-        list_.DropEdit();
+        list_.CancelEdit();
         break;
     default:
         QLineEdit::keyPressEvent(event);

@@ -22,7 +22,7 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    void Type(const QString &text);
+    void TextEdited(const QString &text);
 
     Listbox &list_;
     HintView *hint_;

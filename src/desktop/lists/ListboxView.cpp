@@ -40,7 +40,7 @@ ListboxView::ListboxView(Listbox &list, QWidget *parent) : QTableView(parent), l
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(0);
-    Grow();
+    ApplyScale();
     connect(&list, &Listbox::SelectionMoved, this, &ListboxView::ShowSelection);
     connect(&list, &Listbox::EditOpened, this, &ListboxView::OpenEditor);
     connect(&list, &Listbox::EditClosed, this, &ListboxView::CloseEditor);
@@ -54,7 +54,7 @@ ListboxView::ListboxView(Listbox &list, QWidget *parent) : QTableView(parent), l
 void ListboxView::changeEvent(QEvent *event) {
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
-        Grow();
+        ApplyScale();
     }
 }
 
@@ -70,16 +70,16 @@ bool ListboxView::event(QEvent *event) {
 void ListboxView::SetColumnWidths(const std::vector<int> &widths) {
     widths_ = widths;
     widths_.resize(static_cast<size_t>(list_.ColumnCount()));
-    Grow();
+    ApplyScale();
 }
 
-void ListboxView::Grow() {
-    const double growth = ScaleFactor(*this);
-    verticalHeader()->setDefaultSectionSize(Scaled(lineHeight, growth));
+void ListboxView::ApplyScale() {
+    const double factor = ScaleFactor(*this);
+    verticalHeader()->setDefaultSectionSize(Scaled(lineHeight, factor));
     for (int column = 0; const int width : widths_) {
         horizontalHeader()->setSectionResizeMode(column, width > 0 ? QHeaderView::Fixed
                                                                    : QHeaderView::Stretch);
-        horizontalHeader()->resizeSection(column++, Scaled(width, growth));
+        horizontalHeader()->resizeSection(column++, Scaled(width, factor));
     }
 }
 
@@ -149,11 +149,11 @@ void ListboxView::PaintRow(QPainter &painter, int row, int top) {
     }
 }
 
-bool ListboxView::TakePress(QPoint place) {
+bool ListboxView::HandlePress(QPoint place) {
     bool taken = false;
     Q_EMIT list_.MouseDown(rowAt(place.y()), columnAt(place.x()), taken);
     if (taken) {
-        pressTaken_ = true;
+        isPressHandled_ = true;
         return true;
     }
     const QModelIndex cell = indexAt(place);
@@ -169,14 +169,14 @@ bool ListboxView::TakePress(QPoint place) {
 }
 
 void ListboxView::mousePressEvent(QMouseEvent *event) {
-    if (event->button() == Qt::LeftButton && TakePress(event->position().toPoint())) {
+    if (event->button() == Qt::LeftButton && HandlePress(event->position().toPoint())) {
         return;
     }
     QTableView::mousePressEvent(event);
 }
 
 void ListboxView::mouseReleaseEvent(QMouseEvent *event) {
-    if (event->button() == Qt::LeftButton && std::exchange(pressTaken_, false)) {
+    if (event->button() == Qt::LeftButton && std::exchange(isPressHandled_, false)) {
         const QPoint place = event->position().toPoint();
         Q_EMIT list_.MouseUp(rowAt(place.y()), columnAt(place.x()));
         return;
@@ -200,7 +200,7 @@ void ListboxView::mouseDoubleClickEvent(QMouseEvent *event) {
 }
 
 void ListboxView::keyPressEvent(QKeyEvent *event) {
-    if (TakeKey(*event)) {
+    if (HandleKey(*event)) {
         return;
     }
     QTableView::keyPressEvent(event);
@@ -209,9 +209,9 @@ void ListboxView::keyPressEvent(QKeyEvent *event) {
     }
 }
 
-bool ListboxView::TakeKey(const QKeyEvent &event) {
+bool ListboxView::HandleKey(const QKeyEvent &event) {
     if (event.keyCombination() == (Qt::SHIFT | Qt::Key_F10)) {
-        OpenMenu(PlaceBelowRow());
+        OpenMenu(MenuPosition());
         return true;
     }
     // The keys of the keypad count too.
@@ -224,14 +224,14 @@ bool ListboxView::TakeKey(const QKeyEvent &event) {
     case Qt::Key_Delete:
         // One press, one record: a key that is held down does no more.
         if (!event.isAutoRepeat()) {
-            Q_EMIT event.key() == Qt::Key_Insert ? AddWanted() : RemoveWanted();
+            Q_EMIT event.key() == Qt::Key_Insert ? AddRequested() : RemoveRequested();
         }
         return true;
     case Qt::Key_F2:
         OpenRow(row);
         return row >= 0;
     case Qt::Key_Space:
-        FlipCheck(row);
+        ToggleChecks(row);
         return row >= 0;
     default:
         return false;
@@ -249,7 +249,7 @@ void ListboxView::OpenRow(int row) {
     }
 }
 
-void ListboxView::FlipCheck(int row) {
+void ListboxView::ToggleChecks(int row) {
     for (int column = 0; row >= 0 && column < list_.ColumnCount(); ++column) {
         list_.ToggleCheck(row, column);
     }
@@ -266,7 +266,7 @@ QItemSelectionModel::SelectionFlags ListboxView::selectionCommand(const QModelIn
 
 void ListboxView::contextMenuEvent(QContextMenuEvent *event) {
     if (event->reason() == QContextMenuEvent::Keyboard) {
-        OpenMenu(PlaceBelowRow());
+        OpenMenu(MenuPosition());
         return;
     }
     if (const QModelIndex cell = indexAt(event->pos()); cell.isValid()) {
@@ -277,12 +277,12 @@ void ListboxView::contextMenuEvent(QContextMenuEvent *event) {
     OpenMenu(event->globalPos());
 }
 
-QPoint ListboxView::PlaceBelowRow() const {
+QPoint ListboxView::MenuPosition() const {
     const QRect row = visualRect(list_.index(list_.ListIndex(), 0)) & viewport()->rect();
     return viewport()->mapToGlobal(row.bottomLeft());
 }
 
-void ListboxView::OpenMenu(QPoint globalPlace) {
+void ListboxView::OpenMenu(QPoint position) {
     const auto base = std::make_shared<MenuItem>();
     Q_EMIT list_.ConstructContextualMenu(*base);
     if (base->Count() == 0) {
@@ -294,7 +294,7 @@ void ListboxView::OpenMenu(QPoint globalPlace) {
         connect(menu->addAction(base->Item(item).Text()), &QAction::triggered, this,
                 [this, base, item] { Q_EMIT list_.ContextualMenuAction(base->Item(item)); });
     }
-    menu->popup(globalPlace);
+    menu->popup(position);
 }
 
 void ListboxView::focusOutEvent(QFocusEvent *event) {

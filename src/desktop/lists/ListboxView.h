@@ -19,8 +19,8 @@ public:
 
 Q_SIGNALS:
     /// The key Insert, or Delete, without a modifier.
-    void AddWanted();
-    void RemoveWanted();
+    void AddRequested();
+    void RemoveRequested();
 
 protected:
     bool event(QEvent *event) override;
@@ -41,22 +41,22 @@ protected:
     void selectionChanged(const QItemSelection &now, const QItemSelection &before) override;
 
 private:
-    void Grow();
-    bool TakeKey(const QKeyEvent &event);
-    void FlipCheck(int row);
+    void ApplyScale();
+    bool HandleKey(const QKeyEvent &event);
+    void ToggleChecks(int row);
     void OpenRow(int row);
-    void OpenMenu(QPoint globalPlace);
-    QPoint PlaceBelowRow() const;
+    void OpenMenu(QPoint position);
+    QPoint MenuPosition() const;
     void OpenEditor();
     void CloseEditor();
     void ShowSelection();
     /// Hands a press of the left button to the list; true if the list does no more with it.
-    bool TakePress(QPoint place);
+    bool HandlePress(QPoint place);
     void PaintRow(QPainter &painter, int row, int top);
 
     Listbox &list_;
     std::vector<int> widths_;
     QPersistentModelIndex edited_;
     bool showing_ = false;
-    bool pressTaken_ = false;
+    bool isPressHandled_ = false;
 };

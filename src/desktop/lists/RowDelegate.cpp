@@ -14,7 +14,7 @@ namespace {
 constexpr int longestShownText = 1000;
 
 /// What a cell has for its text.
-QRect RoomIn(const QRect &cell) {
+QRect TextRect(const QRect &cell) {
     constexpr int margin = 3;
     return cell.adjusted(margin, 0, -margin, 0);
 }
@@ -64,7 +64,8 @@ void RowDelegate::PaintText(QPainter &painter, const QStyleOptionViewItem &cell)
     painter.setPen(cell.palette.color(group, cell.state.testFlag(QStyle::State_Selected)
                                                  ? QPalette::HighlightedText
                                                  : QPalette::Text));
-    painter.drawText(RoomIn(cell.rect), int(cell.displayAlignment) | Qt::TextSingleLine, cell.text);
+    painter.drawText(TextRect(cell.rect), int(cell.displayAlignment) | Qt::TextSingleLine,
+                     cell.text);
 }
 
 bool RowDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
@@ -80,11 +81,11 @@ bool RowDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
 void RowDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const {
     QStyledItemDelegate::initStyleOption(option, index);
     option->state &= ~QStyle::State_HasFocus;
-    const QFont narrowed = CondensedFont(option->font, {option->text, RoomIn(option->rect)});
+    const QFont narrowed = CondensedFont(option->font, {option->text, TextRect(option->rect)});
     if (narrowed != option->font) {
         option->font = narrowed;
         option->fontMetrics = QFontMetrics(narrowed);
         option->text = option->fontMetrics.elidedText(option->text, option->textElideMode,
-                                                      RoomIn(option->rect).width());
+                                                      TextRect(option->rect).width());
     }
 }

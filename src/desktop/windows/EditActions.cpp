@@ -47,10 +47,10 @@ const StandardEdit standardEdits[] = {
 
 EditActions::EditActions(QObject *parent) : QObject(parent) {
     connect(qApp, &QApplication::focusChanged, this,
-            [this](const QWidget * /*before*/, QWidget *now) { FollowFocus(now); });
+            [this](const QWidget * /*before*/, QWidget *now) { TrackFocus(now); });
 }
 
-bool EditActions::Take(QAction &action) {
+bool EditActions::Connect(QAction &action) {
     const auto edit = std::find_if(
         std::begin(standardEdits), std::end(standardEdits),
         [&action](const StandardEdit &each) { return action.objectName() == each.name; });
@@ -72,7 +72,7 @@ void EditActions::Update() {
     }
 }
 
-void EditActions::FollowFocus(QWidget *now) {
+void EditActions::TrackFocus(QWidget *now) {
     // A menu that is walked through by keys has the focus for a while only.
     if (now == nullptr || qobject_cast<QMenuBar *>(now) != nullptr) {
         return;

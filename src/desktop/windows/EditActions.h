@@ -18,14 +18,14 @@ public:
     explicit EditActions(QObject *parent);
 
     /// Takes an entry if it is one of them, by its name.
-    bool Take(QAction &action);
+    bool Connect(QAction &action);
     /// Enables what can be done now.
     void Update();
 
 private:
     using Possible = bool (*)(const QLineEdit &field);
 
-    void FollowFocus(QWidget *now);
+    void TrackFocus(QWidget *now);
 
     std::vector<std::pair<QAction *, Possible>> actions_;
     QPointer<QLineEdit> field_;

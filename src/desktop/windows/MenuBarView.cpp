@@ -58,7 +58,7 @@ void MenuBarView::AddItem(QMenu &menu, MenuItem &item) {
         connect(&action, &QAction::triggered, qApp, &QApplication::closeAllWindows);
         return;
     }
-    if (editActions_->Take(action)) {
+    if (editActions_->Connect(action)) {
         return;
     }
     action.setEnabled(item.Enabled());

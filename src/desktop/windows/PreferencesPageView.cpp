@@ -86,8 +86,8 @@ void PreferencesPageView::AddLists(const Parts &parts) {
 
 ListboxView *PreferencesPageView::CreateList(Listbox &list, TLXPlusMinusButton &button) {
     auto *view = new ListboxView(list, this);
-    connect(view, &ListboxView::AddWanted, &button, &TLXPlusMinusButton::PlusPressed);
-    connect(view, &ListboxView::RemoveWanted, &button, &TLXPlusMinusButton::MinusPressed);
+    connect(view, &ListboxView::AddRequested, &button, &TLXPlusMinusButton::PlusPressed);
+    connect(view, &ListboxView::RemoveRequested, &button, &TLXPlusMinusButton::MinusPressed);
     return view;
 }
 

@@ -8,7 +8,7 @@ DateControl::DateControl(const QString &name, const Date &start, std::function<D
     : Control(name), day_(start.Day()), now_(std::move(now)) {}
 
 bool DateControl::SetTyped(const QString &text) {
-    refused_ = !Take(Read(text));
+    refused_ = !SetDay(Read(text));
     if (refused_) {
         const QString typed = text.trimmed();
         SetHint(typed.isEmpty() ? u"Das Datum fehlt."_s : typed + u" ist kein gültiges Datum."_s);
@@ -47,7 +47,7 @@ int DateControl::YearOf(QStringView digits) const {
     }
 }
 
-bool DateControl::Take(QDate day) {
+bool DateControl::SetDay(QDate day) {
     if (!day.isValid() || day.year() < 1 || day.year() > 9999) {
         return false;
     }

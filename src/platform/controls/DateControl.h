@@ -19,11 +19,11 @@ public:
     int Month() const { return day_.month(); }
     int Day() const { return day_.day(); }
     /// Keeps month and day; 29 February falls to the 28th in a common year.
-    void SetYear(int year) { Take(day_.addYears(year - Year())); }
+    void SetYear(int year) { SetDay(day_.addYears(year - Year())); }
 
     /// The shown day.
     Date DateValue() const { return Date(day_); }
-    void SetDateValue(const Date &date) { Take(date.Day()); }
+    void SetDateValue(const Date &date) { SetDay(date.Day()); }
 
     /// Takes the day of a typed text; false, with a hint that says so, if the text is no day. The
     /// hint goes with the next good day. The forms are 0102, 010226,
@@ -32,17 +32,17 @@ public:
     [[nodiscard]] bool SetTyped(const QString &text);
     /// Whether a typed text was refused and no good day has come since; the shown day may then not
     /// be the one that was meant. Tells it once.
-    [[nodiscard]] bool TakeRefusal() { return std::exchange(refused_, false); }
+    [[nodiscard]] bool ResetRefusal() { return std::exchange(refused_, false); }
 
-    void Step(int days) { Take(day_.addDays(days)); }
+    void Step(int days) { SetDay(day_.addDays(days)); }
     /// A day that the other month lacks falls to its last one.
-    void StepMonths(int months) { Take(day_.addMonths(months)); }
-    void Today() { Take(now_().Day()); }
+    void StepMonths(int months) { SetDay(day_.addMonths(months)); }
+    void Today() { SetDay(now_().Day()); }
 
 private:
     QDate Read(const QString &text) const;
     int YearOf(QStringView digits) const;
-    bool Take(QDate day);
+    bool SetDay(QDate day);
 
     QDate day_;
     bool refused_ = false;

@@ -8,7 +8,7 @@ namespace {
 
 /// The place of a row among values that exist only up to the last in use.
 template <typename Values>
-auto Place(Values &values, int row) {
+auto ElementAt(Values &values, int row) {
     const auto place = static_cast<size_t>(row);
     if (place >= values.size()) {
         values.resize(place + 1);
@@ -17,7 +17,7 @@ auto Place(Values &values, int row) {
 }
 
 template <typename Values>
-bool Reaches(const Values &values, int row) {
+bool Contains(const Values &values, int row) {
     return static_cast<size_t>(row) < values.size();
 }
 
@@ -57,7 +57,7 @@ void CellModel::EndRefill() {
     }
 }
 
-void CellModel::TakeRows(Rows rows) {
+void CellModel::ReplaceRows(Rows rows) {
     rowTags_ = std::move(rows.tags);
     rows.cells.resize(columns_.size());
     rows.cellTags.resize(columns_.size());
@@ -79,8 +79,8 @@ void CellModel::ReorderRows(const std::vector<int> &order) {
 }
 
 void CellModel::AddRow(const QString &text) {
-    const bool told = IsRefilling();
-    if (!told) {
+    const bool isNotified = IsRefilling();
+    if (!isNotified) {
         beginInsertRows({}, ListCount(), ListCount());
     }
     for (Column &column : columns_) {
@@ -88,7 +88,7 @@ void CellModel::AddRow(const QString &text) {
     }
     columns_.front().cells.Set(ListCount(), text);
     rowTags_.Add({});
-    if (!told) {
+    if (!isNotified) {
         endInsertRows();
     }
 }
@@ -149,20 +149,20 @@ void CellModel::SetColumn(int column, TextColumn texts) {
 }
 
 bool CellModel::CellCheck(int row, int column) const {
-    return Has(row, column) && Reaches(ColumnAt(column).checks, row) &&
+    return Has(row, column) && Contains(ColumnAt(column).checks, row) &&
            ColumnAt(column).checks[static_cast<size_t>(row)];
 }
 
 void CellModel::SetCellCheck(int row, int column, bool checked) {
     if (Has(row, column)) {
-        *Place(ColumnAt(column).checks, row) = checked;
+        *ElementAt(ColumnAt(column).checks, row) = checked;
         ShowCell(row, column);
     }
 }
 
 const CellModel::Tag &CellModel::CellTag(int row, int column) const {
     static const Tag none;
-    return Has(row, column) && Reaches(ColumnAt(column).tags, row)
+    return Has(row, column) && Contains(ColumnAt(column).tags, row)
                ? ColumnAt(column).tags[static_cast<size_t>(row)]
                : none;
 }

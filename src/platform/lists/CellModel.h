@@ -86,7 +86,7 @@ protected:
     void EndRefill();
     bool IsRefilling() const { return refills_ > 0; }
     /// Both only in a refill.
-    void TakeRows(Rows rows);
+    void ReplaceRows(Rows rows);
     /// Puts the row of the first index first, and so on; each index stands once.
     void ReorderRows(const std::vector<int> &order);
 

@@ -11,7 +11,7 @@ Listbox::Listbox(const QString &name, int columnCount) : CellModel(columnCount) 
 }
 
 void Listbox::Refill(const std::function<void()> &fill) {
-    LeaveCell();
+    CloseOpenCell();
     BeginRefill();
     fill();
     EndRefill();
@@ -22,14 +22,14 @@ void Listbox::Refill(const std::function<void()> &fill) {
 
 void Listbox::SetRows(Rows rows) {
     Refill([this, &rows] {
-        TakeRows(std::move(rows));
+        ReplaceRows(std::move(rows));
         listIndex_ = -1;
     });
 }
 
 void Listbox::SetListIndex(int row) {
     if (row != edit_.row) {
-        LeaveCell();
+        CloseOpenCell();
     }
     row = Has(row) ? row : -1;
     if (row == listIndex_) {
@@ -64,7 +64,7 @@ bool Listbox::Less(int first, int second) {
 }
 
 void Listbox::Sort() {
-    LeaveCell();
+    CloseOpenCell();
     if (!HasColumn(sortedColumn_)) {
         return;
     }
@@ -100,7 +100,7 @@ bool Listbox::CanEdit(int row, int column) const {
 }
 
 void Listbox::EditCell(int row, int column) {
-    LeaveCell();
+    CloseOpenCell();
     if (!CanEdit(row, column)) {
         return;
     }
@@ -131,18 +131,18 @@ void Listbox::EndEdit() {
     }
 }
 
-void Listbox::DropEdit() {
+void Listbox::CancelEdit() {
     edit_.text = edit_.before;
     EndEdit();
 }
 
-void Listbox::LeaveCell() {
+void Listbox::CloseOpenCell() {
     EndEdit();
-    DropEdit();
+    CancelEdit();
 }
 
 void Listbox::ToggleCheck(int row, int column) {
-    LeaveCell();
+    CloseOpenCell();
     if (IsCheckBox(row, column)) {
         SetCellCheck(row, column, !CellCheck(row, column));
         Q_EMIT CellAction(row, column);

@@ -63,7 +63,7 @@ public:
     /// takes it, and CellAction follows.
     void EndEdit();
     /// Closes the cell, which keeps its text.
-    void DropEdit();
+    void CancelEdit();
     /// Whether there is such a cell, and it shows a check box.
     bool IsCheckBox(int row, int column) const;
     /// A click on a check box: ends the edit, then flips the box and fires CellAction. Does nothing
@@ -73,7 +73,7 @@ public:
 Q_SIGNALS:
     /// The button went down, over this cell, before anything else. Taken means that neither
     /// CellClick nor a change of the selection follows, but MouseUp.
-    void MouseDown(int row, int column, bool &taken);
+    void MouseDown(int row, int column, bool &handled);
     /// The button went up after a taken MouseDown, over this cell.
     void MouseUp(int row, int column);
     /// A click in a cell, before the selection moves on. Handled means that the list does no more.
@@ -87,7 +87,7 @@ Q_SIGNALS:
     /// A key in the open cell that is no text, such as the Tab u'\t'.
     void CellKeyDown(int row, int column, QChar key);
     /// Asks for a hint about what is being typed in the open cell; empty when all is well.
-    void AskHint(int column, const QString &text, QString &hint);
+    void HintRequested(int column, const QString &text, QString &hint);
     /// Asks for the background of a cell, also of the empty rows below the last one.
     void CellBackgroundPaint(Graphics &graphics, int row, int column);
     /// Asks how two rows compare: the handler sets the result to -1, 0 or 1 and handled to true.
@@ -117,7 +117,7 @@ private:
     void SetOrder(int column, bool descending);
     bool Less(int first, int second);
     /// Ends the edit, and closes what a handler of CellAction may have opened.
-    void LeaveCell();
+    void CloseOpenCell();
 
     Edit edit_;
     int listIndex_ = -1;

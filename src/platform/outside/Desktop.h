@@ -38,7 +38,7 @@ public:
     /// Asks for a printer, for a document of this name; nothing when the user cancels. The open
     /// book is refused as the file to print into, when the job ends.
     [[nodiscard]] virtual std::unique_ptr<PrinterGraphics>
-    OpenPrinterDialog(const QString &document, const std::optional<FolderItem> &openBook) = 0;
+    OpenPrinterDialog(const QString &document, const std::optional<FolderItem> &databaseFile) = 0;
     /// Shows the entries under the item as a menu at the mouse; the position of the chosen one,
     /// nothing when the user closes the menu.
     [[nodiscard]] virtual std::optional<int> PopUp(const MenuItem &base) = 0;

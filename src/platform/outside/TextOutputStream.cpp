@@ -3,9 +3,9 @@
 using namespace Qt::StringLiterals;
 
 TextOutputStream::TextOutputStream(const FolderItem &file,
-                                   const std::optional<FolderItem> &openBook)
+                                   const std::optional<FolderItem> &databaseFile)
     : file_(file.Path()) {
-    if (openBook && file.IsSameFileAs(*openBook)) {
+    if (databaseFile && file.IsSameFileAs(*databaseFile)) {
         failure_ = u"Sie ist das geöffnete Kassenbuch."_s;
         return;
     }

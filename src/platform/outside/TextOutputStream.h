@@ -11,7 +11,7 @@
 class TextOutputStream {
 public:
     /// Begins the file. The open book is refused.
-    TextOutputStream(const FolderItem &file, const std::optional<FolderItem> &openBook);
+    TextOutputStream(const FolderItem &file, const std::optional<FolderItem> &databaseFile);
 
     /// Adds the bytes as they are.
     void Write(const QByteArray &bytes);

@@ -11,7 +11,7 @@ namespace {
 using Converter = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
 
 /// The code page is built into the library: without it the program can't go on rightly.
-void MustSucceed(UErrorCode status) {
+void AbortOnFailure(UErrorCode status) {
     if (U_FAILURE(status)) {
         qFatal("Code page 1252: %s", u_errorName(status));
     }
@@ -21,7 +21,7 @@ Converter OpenConverter() {
     UErrorCode status = U_ZERO_ERROR;
     Converter converter(ucnv_open("windows-1252", &status), &ucnv_close);
     ucnv_setSubstChars(converter.get(), "?", 1, &status);
-    MustSucceed(status);
+    AbortOnFailure(status);
     return converter;
 }
 
@@ -30,16 +30,16 @@ using Transliterator = std::unique_ptr<icu::Transliterator>;
 /// What puts plain letters in the place of the characters that the converter lacks.
 Transliterator OpenTransliterator(const UConverter *converter) {
     UErrorCode status = U_ZERO_ERROR;
-    Transliterator toPlainLetters(
+    Transliterator toAscii(
         icu::Transliterator::createInstance("Any-Latin; Latin-ASCII", UTRANS_FORWARD, status));
-    auto lacking = std::make_unique<icu::UnicodeSet>();
-    ucnv_getUnicodeSet(converter, lacking->toUSet(), UCNV_ROUNDTRIP_SET, &status);
-    if (!toPlainLetters || U_FAILURE(status)) {
+    auto missing = std::make_unique<icu::UnicodeSet>();
+    ucnv_getUnicodeSet(converter, missing->toUSet(), UCNV_ROUNDTRIP_SET, &status);
+    if (!toAscii || U_FAILURE(status)) {
         return nullptr; // Without its data files: what the code page lacks is a question mark then.
     }
-    lacking->complement();
-    toPlainLetters->adoptFilter(lacking.release());
-    return toPlainLetters;
+    missing->complement();
+    toAscii->adoptFilter(missing.release());
+    return toAscii;
 }
 
 /// The end of the piece that begins here: a few words, whole. A long text costs by the square of
@@ -55,22 +55,21 @@ qsizetype EndOfPiece(QStringView text, qsizetype begin) {
 
 /// Nearly every text: the code page has all of Latin-1 in its place, but for control characters.
 bool IsLatin1(QStringView text) {
-    return std::all_of(text.begin(), text.end(), [](QChar letter) {
-        return letter < QChar(0x80) || (letter >= QChar(0xa0) && letter <= QChar(0xff));
+    return std::all_of(text.begin(), text.end(), [](QChar character) {
+        return character < QChar(0x80) || (character >= QChar(0xa0) && character <= QChar(0xff));
     });
 }
 
-QByteArray Convert(QStringView text, const icu::Transliterator *toPlainLetters,
-                   UConverter *converter) {
+QByteArray Convert(QStringView text, const icu::Transliterator *toAscii, UConverter *converter) {
     icu::UnicodeString unicode(text.utf16(), static_cast<int32_t>(text.size()));
-    if (toPlainLetters != nullptr) {
-        toPlainLetters->transliterate(unicode);
+    if (toAscii != nullptr) {
+        toAscii->transliterate(unicode);
     }
     UErrorCode status = U_ZERO_ERROR;
     QByteArray bytes(UCNV_GET_MAX_BYTES_FOR_STRING(unicode.length(), 1), Qt::Uninitialized);
     bytes.resize(ucnv_fromUChars(converter, bytes.data(), static_cast<int32_t>(bytes.size()),
                                  unicode.getBuffer(), unicode.length(), &status));
-    MustSucceed(status);
+    AbortOnFailure(status);
     return bytes;
 }
 
@@ -83,13 +82,13 @@ QByteArray Encodings::WindowsANSI(const QString &text) {
     // What is typed as a letter and its accent is one character in the code page.
     const QString composed = text.normalized(QString::NormalizationForm_C);
     const Converter converter = OpenConverter();
-    const Transliterator toPlainLetters = OpenTransliterator(converter.get());
+    const Transliterator toAscii = OpenTransliterator(converter.get());
     QByteArray bytes;
     for (qsizetype begin = 0, end = 0; begin < composed.size(); begin = end) {
         end = EndOfPiece(composed, begin);
         const QStringView piece = QStringView(composed).mid(begin, end - begin);
-        bytes += IsLatin1(piece) ? piece.toLatin1()
-                                 : Convert(piece, toPlainLetters.get(), converter.get());
+        bytes +=
+            IsLatin1(piece) ? piece.toLatin1() : Convert(piece, toAscii.get(), converter.get());
     }
     return bytes;
 }

@@ -11,9 +11,9 @@ using namespace Qt::StringLiterals;
 
 double Val(QStringView text, QChar decimalMark) {
     std::string number;
-    for (const QChar letter : text.trimmed()) {
+    for (const QChar character : text.trimmed()) {
         // What has no Latin letter ends a number as well as any other.
-        number += letter == decimalMark ? '.' : letter.toLatin1();
+        number += character == decimalMark ? '.' : character.toLatin1();
     }
     const char *begin = number.data();
     const char *end = begin + number.size();
@@ -40,9 +40,9 @@ QString NthField(QStringView text, QChar separator, int number) {
     return {};
 }
 
-QString Replace(QString text, QChar search, QChar letter) {
+QString Replace(QString text, QChar search, QChar character) {
     if (const qsizetype place = text.indexOf(search); place >= 0) {
-        text[place] = letter;
+        text[place] = character;
     }
     return text;
 }

@@ -12,7 +12,7 @@ double Val(QStringView text, QChar decimalMark = u'.');
 QString NthField(QStringView text, QChar separator, int number);
 
 /// Puts another letter in the place of the first that is found; without one the text stays.
-QString Replace(QString text, QChar search, QChar letter);
+QString Replace(QString text, QChar search, QChar character);
 
 /// Turns all line ends of a text, of whatever kind, into the given one.
 QString ReplaceLineEndings(QString text, const QString &ending);

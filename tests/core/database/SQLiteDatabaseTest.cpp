@@ -88,7 +88,7 @@ TEST(SQLiteDatabase, WaitsOnceForALockedFile) {
     const TestEnvironment env(TestEnvironment::Storage::File);
     SQLiteDatabase other;
     App::UseFile(other, env.app.DefaultDatabaseFile());
-    other.SetPatience(100ms);
+    other.SetLockTimeout(100ms);
     ASSERT_TRUE(other.Connect());
     env.Run(u"BEGIN EXCLUSIVE"_s);
     QElapsedTimer timer;

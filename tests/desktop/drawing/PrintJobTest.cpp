@@ -23,7 +23,7 @@ protected:
         printer->setOutputFileName(path);
         printer->setPageSize(QPageSize(QPageSize::A4));
         setUp(*printer);
-        return std::make_unique<PrintJob>(std::move(printer), openBook, [this](const QString &) { ++failures; });
+        return std::make_unique<PrintJob>(std::move(printer), databaseFile, [this](const QString &) { ++failures; });
     }
     /// Prints three pages into a PDF file, each with the height of its text, and reads it.
     QStringList Print(const SetUp &setUp = [](QPrinter &) {}) {
@@ -61,7 +61,7 @@ protected:
 
     QTemporaryDir folder;
     QString path = folder.filePath(u"report.pdf"_s);
-    std::optional<FolderItem> openBook;
+    std::optional<FolderItem> databaseFile;
     int failures = 0;
     int told = 0;
 };
@@ -177,7 +177,7 @@ TEST_F(PrintJobTest, TellsWhatCouldNotBePrintedAndLeavesTheFileBefore) {
         const FullDisk disk(2000);
         Print();
     }
-    openBook = FolderItem(folder.path() + u"/./report.pdf"_s);
+    databaseFile = FolderItem(folder.path() + u"/./report.pdf"_s);
     Print();
     EXPECT_EQ(failures, 3);
     EXPECT_EQ(Read(), before);

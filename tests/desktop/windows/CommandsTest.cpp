@@ -202,7 +202,7 @@ TEST(ZolmarkApplication, EndsBehindAMessageAndOpensNoOther) {
     });
     look.start(1);
     QTimer::singleShot(0, &look, [&] {
-        for (int i = 0; i < 3; ++i) { application.Tell(std::runtime_error("Meldung")); }
+        for (int i = 0; i < 3; ++i) { application.ShowException(std::runtime_error("Meldung")); }
         after.show(); // As the main window does after the message of the sample book.
     });
     EXPECT_EQ(RunToTheEnd(), EXIT_SUCCESS);

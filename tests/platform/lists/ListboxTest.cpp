@@ -69,7 +69,7 @@ TEST_F(ListboxTest, TellsWhatBecomesOfAnOpenCell) {
     EXPECT_EQ(Told(), u"ScrollRequested EditOpened EditClosed"_s);
     list.EditCell(2, 0);
     list.SetEditText(u"x"_s);
-    list.DropEdit();
+    list.CancelEdit();
     EXPECT_EQ(Told(), u"ScrollRequested EditOpened EditClosed"_s);
     list.EditCell(1, 1); // A check box.
     list.ToggleCheck(1, 0);
