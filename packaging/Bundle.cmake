@@ -1,4 +1,4 @@
-# The program's bundle: its icon and its description. Pictures and manual see to themselves.
+# The icon and the Info.plist of the macOS app bundle. add_to_resources() adds pictures and manual.
 set(iconset ${CMAKE_CURRENT_BINARY_DIR}/Zolmark.iconset)
 set(icons)
 foreach(points 16 32 128 256 512)

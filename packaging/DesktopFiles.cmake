@@ -1,5 +1,5 @@
-# What an installation has beside the program: icons, menu entry, metainfo, man page, and the link on
-# the path. The names fit that of QGuiApplication::setDesktopFileName.
+# Installs the icons, menu entry, metainfo, man page and the link in PATH. The file names match
+# QGuiApplication::setDesktopFileName().
 set(icons)
 foreach(points 16 22 24 32 48 64 128 256 512)
     set(icon ${CMAKE_CURRENT_BINARY_DIR}/icons/${points}/zolmark.png)
@@ -12,7 +12,7 @@ install(FILES ${icon_source} DESTINATION share/icons/hicolor/scalable/apps)
 
 install(FILES zolmark.desktop DESTINATION share/applications)
 
-# CHANGELOG.md is the one place for releases: their days and what is new in them.
+# The dates and texts of the releases come from CHANGELOG.md only.
 set(changelog ${PROJECT_SOURCE_DIR}/CHANGELOG.md)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${changelog} releases.awk)
 function(write_releases form result)
@@ -33,7 +33,7 @@ configure_file(example.zolmark.zolmark.metainfo.xml.in example.zolmark.zolmark.m
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/example.zolmark.zolmark.metainfo.xml
     DESTINATION share/metainfo)
 
-# Without name and time inside, so that equal texts make equal files.
+# Compresses without file name and timestamp, so that equal texts result in equal files.
 function(install_compressed text folder)
     add_custom_command(
         OUTPUT ${text}.gz
@@ -50,13 +50,13 @@ configure_file(zolmark.1.in zolmark.1 @ONLY)
 install_compressed(changelog share/doc/zolmark)
 install_compressed(zolmark.1 share/man/man1)
 install(FILES copyright DESTINATION share/doc/zolmark)
-# Where people look for it; the program opens its own.
+# The documentation folder of the package has a link to the manual; the program opens the original.
 set(manual_link ${CMAKE_CURRENT_BINARY_DIR}/doc/Zolmark.pdf)
 file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/doc)
 file(CREATE_LINK ../../../lib/zolmark/Resources/Zolmark.pdf ${manual_link} SYMBOLIC)
 install(FILES ${manual_link} DESTINATION share/doc/zolmark)
 
-# A link works: the program looks for its resources from the folder of its real file.
+# A link is sufficient: the program resolves it and finds Resources next to the real file's folder.
 set(link ${CMAKE_CURRENT_BINARY_DIR}/zolmark)
 file(CREATE_LINK ../lib/zolmark/bin/zolmark ${link} SYMBOLIC)
 install(FILES ${link} DESTINATION bin)

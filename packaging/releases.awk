@@ -1,5 +1,5 @@
-# Makes of CHANGELOG.md the changelog of the Debian package (-v form=debian) or the releases of the metainfo
-# (-v form=metainfo). A release is a heading "## version (day)" and a list.
+# Converts CHANGELOG.md to the changelog of the Debian package (-v form=debian) or to the releases of the
+# metainfo (-v form=metainfo). A release is a heading "## version (date)" and a list.
 function end_item() {
     if (form == "metainfo" && item != "") print "          <li>" item "</li>"
     item = ""
@@ -10,30 +10,30 @@ function end_release() {
     if (form == "metainfo") {
         print "        </ul>\n      </description>\n    </release>"
     } else {
-        ("LC_ALL=C date -u -R -d '" day " 12:00 UTC'") | getline signed
-        print "\n -- Zolmark developers <developers@zolmark.example>  " signed "\n"
+        ("LC_ALL=C date -u -R -d '" date " 12:00 UTC'") | getline timestamp
+        print "\n -- Zolmark developers <developers@zolmark.example>  " timestamp "\n"
     }
 }
 /^## / {
     end_release()
     version = $2
-    day = substr($3, 2, length($3) - 2)
+    date = substr($3, 2, length($3) - 2)
     if (form == "metainfo") {
-        print "    <release version=\"" version "\" date=\"" day "\">\n      <description>\n        <ul>"
+        print "    <release version=\"" version "\" date=\"" date "\">\n      <description>\n        <ul>"
     } else {
         print "zolmark (" version ") unstable; urgency=medium\n"
     }
     next
 }
 version != "" && NF {
-    starts = /^- /
+    is_item_start = /^- /
     text = substr($0, 3)
     if (form == "debian") {
-        print (starts ? "  * " : "    ") text
+        print (is_item_start ? "  * " : "    ") text
     } else {
         gsub(/&/, "\\&amp;", text)
         gsub(/</, "\\&lt;", text)
-        if (starts) end_item()
+        if (is_item_start) end_item()
         item = item (item == "" ? "" : " ") text
     }
 }

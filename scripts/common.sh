@@ -1,74 +1,76 @@
-# Shared by the scripts beside it: installs what is missing, configures and builds one preset.
+# Functions shared by the other scripts: install missing packages, configure and build a preset.
 set -euo pipefail
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
-stop() {
+# Prints the arguments to standard error and exits.
+fail() {
     echo "$*" >&2
     exit 1
 }
 
-# CMake's code generation, Ninja or the packer read these as something else; blanks and umlauts work.
+# CMake, Ninja or CPack interpret these characters. Spaces and umlauts are allowed.
 case $top in
 *[][[:cntrl:]\&\;\'\"\\\$\`\(\)\<\>\|\#%]*)
-    stop "The path $top has one of the characters [ ] & ; ' \" \\ \$ \` ( ) < > | # %, which CMake or Ninja does not take literally. Move the folder."
+    fail "The path $top contains one of the characters [ ] & ; ' \" \\ \$ \` ( ) < > | # %, which CMake or Ninja interprets. Move the folder."
     ;;
 esac
 
-# The packages of these sections of packages.txt.
-packages_of() {
-    sed -e 's/#.*//' "$top/scripts/packages.txt" | awk -v wanted=" $* " '
-        /^\[.*\]$/ { inside = index(wanted, " " substr($0, 2, length($0) - 2) " "); next }
-        inside && NF { print $1 }'
+# Prints the packages of the given sections of packages.txt.
+list_packages() {
+    sed -e 's/#.*//' "$top/scripts/packages.txt" | awk -v sections=" $* " '
+        /^\[.*\]$/ { listed = index(sections, " " substr($0, 2, length($0) - 2) " "); next }
+        listed && NF { print $1 }'
 }
 
-# Installs what is missing of these sections, which takes root.
+# Installs the missing packages of the given sections, as root or with sudo.
 install_missing() {
-    local wanted installed missing=() root=()
-    wanted=$(packages_of "$@")
-    # Exits with 1 when a package is unknown; the comparison below sees that.
+    local packages package installed missing=() sudo=()
+    packages=$(list_packages "$@")
+    # dpkg-query exits with 1 if a package is unknown; the loop below adds it to the missing ones.
     # shellcheck disable=SC2086
-    installed=$(dpkg-query -W -f '${db:Status-Abbrev}${Package}\n' $wanted 2>/dev/null |
+    installed=$(dpkg-query -W -f '${db:Status-Abbrev}${Package}\n' $packages 2>/dev/null |
         sed -n 's/^ii //p') || true
-    for package in $wanted; do
+    for package in $packages; do
         grep -qx "$package" <<<"$installed" || missing+=("$package")
     done
     [ ${#missing[@]} -eq 0 ] && return
     if [ "$(id -u)" -ne 0 ]; then
         command -v sudo >/dev/null ||
-            stop "Packages are missing. Have root run: apt-get install --no-install-recommends ${missing[*]}"
-        root=(sudo)
+            fail "Packages are missing. As root, run: apt-get install --no-install-recommends ${missing[*]}"
+        sudo=(sudo)
     fi
     echo "Installing: ${missing[*]}" >&2
     {
-        "${root[@]}" apt-get update -q
-        # How much it will be, before it begins.
+        "${sudo[@]}" apt-get update -q
+        # Shows the download size and the disk space before the installation starts.
         LC_ALL=C apt-get install --assume-no --no-install-recommends "${missing[@]}" |
             sed -n '/^Need to get/p;/^After this/p' || true
-        "${root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive \
             apt-get install -y -q --no-install-recommends "${missing[@]}"
     } >&2
 }
 
-# The preset, the parts besides the program (TESTS, BENCH), and after -- the targets. A part that is
-# configured stays so. Ninja configures anew by itself when a CMake file has changed, but not for the
-# presets; and a checkout that was moved or copied starts from nothing.
+# Configures, if necessary, and builds. Arguments: the preset, any of the options TESTS and BENCH, and after
+# -- the targets (default all). An option stays on once it is configured. Ninja reruns CMake if a CMake file
+# has changed, but not if the presets have. In a checkout that was moved or copied, the build folder is
+# deleted first.
 build() {
-    local preset=$1 folder="$top/build/$1" anew=() part
+    local preset=$1 folder="$top/build/$1" configure=no option
     shift
     local cache="$folder/CMakeCache.txt"
     [ ! -e "$cache" ] || grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$top" "$cache" || rm -rf "$folder"
-    [ "$folder/build.ninja" -nt "$top/CMakePresets.json" ] || anew=(yes)
+    [ "$folder/build.ninja" -nt "$top/CMakePresets.json" ] || configure=yes
     local options=()
-    for part in TESTS BENCH; do
-        if [[ " ${*%%--*} " == *" $part "* ]]; then
-            options+=("-DZOLMARK_$part=ON")
-            grep -qx "ZOLMARK_$part:BOOL=ON" "$cache" 2>/dev/null || anew=(yes)
+    for option in TESTS BENCH; do
+        if [[ " ${*%%--*} " == *" $option "* ]]; then
+            options+=("-DZOLMARK_$option=ON")
+            grep -qx "ZOLMARK_$option:BOOL=ON" "$cache" 2>/dev/null || configure=yes
         elif [ ! -e "$cache" ]; then
-            options+=("-DZOLMARK_$part=OFF")
+            options+=("-DZOLMARK_$option=OFF")
         fi
     done
     while [ $# -gt 0 ] && [ "$1" != -- ]; do shift; done
     [ $# -eq 0 ] || shift
-    [ ${#anew[@]} -eq 0 ] || (cd "$top" && cmake --preset "$preset" "${options[@]}")
+    [ $configure = no ] || (cd "$top" && cmake --preset "$preset" "${options[@]}")
     cmake --build "$folder" --target "${@:-all}"
 }

@@ -1,4 +1,4 @@
-# The converter does not write down the language of the document, from which a screen reader takes its voice.
+# The converter does not write the language of the document, by which screen readers choose the voice.
 require 'asciidoctor/pdf'
 
 module DocumentLanguage

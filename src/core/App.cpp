@@ -4,7 +4,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// It keeps the curious out and no more: the same key is in every copy of the program.
+/// Protects against casual inspection only: every copy of the program contains the same key.
 QByteArray FixedKey() {
     return "rk7WPNdTLqhvM4"_ba;
 }

@@ -6,38 +6,41 @@
 
 #include <memory>
 
-/// The application object: it owns the one open database, and gives the rooms the desktop and the
-/// user's locale. It knows no window.
+/// The application object: owns the one open database and provides the desktop and the user's
+/// locale. Independent of all windows.
 class App {
 public:
     App(Desktop &desktop, const UserLocale &locale);
 
     Desktop &GetDesktop() const { return desktop_; }
     const UserLocale &Locale() const { return locale_; }
-    /// The one database in use. A load or create step puts another object in its place.
+    /// Returns the database in use. The reference is invalid after NewDatabase and the load steps.
     SQLiteDatabase &kvoDB() const { return *kvoDB_; }
-    /// Puts a new database without file and key in the place of the one in use.
+    /// Replaces the database in use by a new one without file and key.
     SQLiteDatabase &NewDatabase();
 
-    /// Zolmark.sdb in the folder Brevant of the user's application data.
+    /// Returns Zolmark.sdb in the folder Brevant of the user's application data folder.
     FolderItem DefaultDatabaseFile() const;
-    /// Gives a database a file and the key of every book.
+    /// Sets the file, and the encryption key that all database files share.
     static void UseFile(SQLiteDatabase &database, const FolderItem &file);
-    /// The folder of the pictures and the manual: Resources beside the program's own folder.
+    /// Returns the folder of the pictures and the manual: Resources, a sibling of the program's
+    /// folder.
     FolderItem Resources() const;
 
     /// Opens the manual in the user's viewer.
     void LaunchManual() const { desktop_.Launch(Resources().Child(QStringLiteral("Zolmark.pdf"))); }
 
-    /// Prepares the default file with its key; false when there is no such file. Opens nothing.
+    /// Replaces the database by one with the default file and its key, and does not open it.
+    /// Returns false if there is no such file.
     [[nodiscard]] bool DBLoad();
-    /// Lets the user choose a file, without a key; false when there is none, and the database in
-    /// use stays. Opens nothing.
+    /// Replaces the database by one with a file that the user chooses, without a key, and does not
+    /// open it. Returns false and keeps the database in use if no existing file was chosen.
     [[nodiscard]] bool DBLoad1();
-    /// Opens what a load step has prepared; tells the user when that fails.
+    /// Opens the database that a load step has prepared; shows a message on failure.
     void Connect();
 
-    /// Shows "DB Error: " and the database's message if its last operation failed; true if it did.
+    /// Shows "DB Error: " and the database's message if its last operation failed. Returns whether
+    /// it failed.
     bool ReportError() const;
 
 private:

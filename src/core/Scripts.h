@@ -2,11 +2,12 @@
 
 #include <QString>
 
-/// The scripts that make a book, each run in one call: the schema, the reference data of every
-/// book, and the booking accounts of a standard chart.
+/// The SQL scripts that create a database, each of them executed in one call: the schema, the
+/// reference data, and the booking accounts of a standard chart of accounts.
 QString CashBookDDL();
 QString ReferenceDataSQL();
 QString ChartSKR03SQL();
 QString ChartSKR04SQL();
-/// The company, the cash book and the five bookings of the sample book, dated in the year.
+/// Returns the script for the sample data: the company, the cash book, and five bookings dated in
+/// the given year.
 QString SampleDataSQL(int year);

@@ -35,7 +35,7 @@ double AmountText2Value(QStringView text) {
 }
 
 QString AmountHint(const QString &text, const UserLocale &locale) {
-    // More digits than that and a number loses its cents.
+    // With more than 13 digits before the decimal mark, a double can't represent the cents.
     static const QRegularExpression plain(u"^[-+]?\\d{0,13}([.,]\\d{0,2})?$"_s);
     return plain.match(text.trimmed()).hasMatch()
                ? QString()

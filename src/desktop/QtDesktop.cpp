@@ -25,7 +25,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The window that a dialog belongs to, also while the user is in another program.
+/// Returns the parent of a dialog: the active window, or while another program is active the first
+/// visible one.
 QWidget *Owner() {
     if (QWidget *active = QApplication::activeWindow()) {
         return active;
@@ -37,7 +38,7 @@ QWidget *Owner() {
     return shown == windows.end() ? nullptr : *shown;
 }
 
-/// A folder of the user's, else the home folder.
+/// Returns a standard folder of the user, the home folder if it does not exist.
 FolderItem FolderOf(QStandardPaths::StandardLocation location) {
     const FolderItem folder(QStandardPaths::writableLocation(location));
     return folder.Exists() ? folder : FolderItem(QDir::homePath());
@@ -51,8 +52,7 @@ Date QtDesktop::Now() const {
 
 FolderItem QtDesktop::ApplicationData() const {
     const QString path = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    // A relative path in the environment counts for nothing: the book would move with the folder
-    // that the program is started in.
+    // A relative path in the environment is ignored: it would depend on the working directory.
     return FolderItem(QDir::isAbsolutePath(path) ? path : QDir::home().filePath(u".local/share"_s));
 }
 
@@ -68,7 +68,7 @@ void QtDesktop::MsgBox(const QString &message) {
     QMessageBox box(QMessageBox::NoIcon, QApplication::applicationName(),
                     ReplaceLineEndings(message, u"\n"_s), QMessageBox::Ok, Owner());
     box.setWindowModality(Qt::WindowModal);
-    // Texts of the database may contain what looks like markup.
+    // A text from the database may look like HTML.
     box.setTextFormat(Qt::PlainText);
     Exec(box);
 }
@@ -95,7 +95,7 @@ QtDesktop::OpenPrinterDialog(const QString &document,
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer->setDocName(document);
     if (printer->outputFormat() == QPrinter::PdfFormat) {
-        // There is no printer. The dialog itself finds a file name on some platforms only.
+        // No printer is installed. Only on some platforms the dialog suggests a file name.
         printer->setOutputFileName(
             FolderOf(QStandardPaths::DocumentsLocation).Child(document + u".pdf"_s).Path());
     }

@@ -5,7 +5,7 @@
 class QDialog;
 class QUrl;
 
-/// The user's real desktop.
+/// The desktop through Qt: dialogs, standard folders, printing.
 class QtDesktop : public Desktop {
 public:
     Date Now() const override;
@@ -23,14 +23,14 @@ public:
     void Launch(const FolderItem &file) override;
     void ShowURL(const QString &address) override;
 
-    /// From now on no message and no dialog opens: each is answered as if the user had closed it.
+    /// From now on no dialog opens; each returns as if the user had cancelled it.
     void SuppressDialogs() { showsDialogs_ = false; }
 
 private:
-    /// Whether the user accepts what the dialog asks.
+    /// Shows a modal dialog; returns whether the user accepted it.
     bool Exec(QDialog &dialog) const;
-    /// Starts the desktop's program for it, which goes on when this program ends. If it can't be
-    /// started a message shows the name, unless that is empty.
+    /// Starts the program that the desktop assigns to the address, detached from this one. On
+    /// failure a message shows the name, unless that is empty.
     void Open(const QUrl &address, const QString &name);
 
     bool showsDialogs_ = true;

@@ -4,23 +4,23 @@
 
 #include <array>
 
-/// Hears when the system wants the program to end, as at the end of a session. There is at most one
-/// of it.
+/// Catches SIGTERM, SIGINT and SIGHUP, which the system sends for example at the end of a session.
+/// At most one object exists.
 class TerminationSignals : public QObject {
     Q_OBJECT
 
 public:
     TerminationSignals();
-    /// The signals end the program at once again.
+    /// Restores the default handling of the signals.
     ~TerminationSignals() override;
 
 Q_SIGNALS:
-    /// Comes in the event loop, not in the signal's handler.
+    /// Emitted from the event loop, not from the signal handler.
     void Raised();
 
 private:
     void ReadSignal();
 
-    /// The ends of a pipe, for reading and for writing.
+    /// The ends of a pipe: for reading, for writing.
     std::array<int, 2> ends_ = {-1, -1};
 };

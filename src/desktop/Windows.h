@@ -12,7 +12,7 @@ class MainWindowView;
 class WelcomeWindow;
 class WelcomeWindowView;
 
-/// The windows of the program, at most one of each kind.
+/// Creates and owns the windows of the program.
 class Windows : public QObject {
     Q_OBJECT
 
@@ -20,14 +20,14 @@ public:
     explicit Windows(App &app);
     ~Windows() override;
 
-    /// Opens the welcome window, which hands over to the main window if there is a book.
+    /// Opens the main window if the default database file exists, else the welcome window.
     void Open();
 
 private:
     void ShowMainWindow();
 
     App &app_;
-    /// The welcome window's; the main window has its own.
+    /// Of the welcome window; the main window has its own.
     MainMenuBar menuBar_;
     std::unique_ptr<WelcomeWindow> welcomeWindow_;
     std::unique_ptr<WelcomeWindowView> welcomeView_;

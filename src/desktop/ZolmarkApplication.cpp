@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int endAgainMs = 20;
+constexpr int retryMs = 20;
 
 bool HasWindow() {
     const QWidgetList windows = QApplication::topLevelWidgets();
@@ -60,8 +60,8 @@ void ZolmarkApplication::End() {
     desktop_.SuppressDialogs();
     closeAllWindows();
     if (QThread::currentThread()->loopLevel() > 1) {
-        // What a message has held up goes on first, and may open a window.
-        QTimer::singleShot(endAgainMs, this, &ZolmarkApplication::End);
+        // The nested event loop of a dialog returns first; the code after it may open a window.
+        QTimer::singleShot(retryMs, this, &ZolmarkApplication::End);
     } else {
         exit(EXIT_SUCCESS);
     }

@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Answers on the terminal, without a display, what is asked there; false if nothing is.
+/// Handles an option that prints to the terminal and needs no display; returns false without one.
 bool HandleOption(int argc, const char *const *argv) {
     const char *option = argc == 2 ? argv[1] : "";
     if (std::strcmp(option, "--version") == 0) {
@@ -28,7 +28,7 @@ bool HandleOption(int argc, const char *const *argv) {
     return false;
 }
 
-/// Where the toolkit finds no display, it would end the program with a list of its plugins.
+/// Replaces the list of Qt's platform plugins by a German message when there is no display.
 void ReportMissingDisplay(QtMsgType type, const QMessageLogContext &context,
                           const QString &message) {
     if (type == QtFatalMsg) {
@@ -48,7 +48,7 @@ int Run(ZolmarkApplication &application, QtDesktop &desktop) {
     QObject::connect(&endOfSession, &TerminationSignals::Raised, &application,
                      &ZolmarkApplication::End);
     Windows windows(app);
-    // In the event loop, which a signal can end also while the first message stands.
+    // From the event loop, so that a signal can end the program while a first message box is open.
     QMetaObject::invokeMethod(&windows, &Windows::Open, Qt::QueuedConnection);
     return ZolmarkApplication::exec();
 }
@@ -59,9 +59,9 @@ int main(int argc, char *argv[]) {
     if (HandleOption(argc, argv)) {
         return EXIT_SUCCESS;
     }
-    // The toolkit's salted hash, as of Qt 6.4, leaves processors with vector AES in a state that
-    // slows all code after it, by half again. Without a salt it takes another; whoever could choose
-    // texts that collide in it has the book open already.
+    // The salted hash of Qt 6.4 leaves processors with vector AES in a state that slows all later
+    // code by half. Without a salt Qt uses another hash; colliding texts can only come from the
+    // user's own database.
     QHashSeed::setDeterministicGlobalSeed();
     QtDesktop desktop;
     qInstallMessageHandler(ReportMissingDisplay);

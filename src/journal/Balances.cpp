@@ -10,14 +10,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Receipts less expenses; a booking of any other type does not count.
-Currency SumOf(RecordSet &records) {
+/// Returns the receipts less the expenses; bookings of any other type are ignored.
+Currency NetAmount(RecordSet &records) {
     Currency receipts;
     Currency expenses;
     const auto type = records.Field("type"_L1);
     const auto amount = records.Field("amount"_L1);
     for (; !records.AtEnd(); records.MoveNext()) {
-        const char code = type.Code();
+        const char code = type.UpperCaseCharacter();
         if (code == 'A') {
             expenses += amount.CurrencyValue();
         } else if (code == 'E') {
@@ -42,8 +42,8 @@ void Balances::ReCalcAmount() {
                         selectors_.PeriodStartSQL() + u"' AND "_s + selectors_.CashbookCondition();
     const auto records = app_.kvoDB().SQLSelect(sql);
     DebugLog(sql);
-    // The rows are read one by one, so that a damaged page shows only on the way.
-    const Currency start = opening + (records ? SumOf(*records) : Currency());
+    // Rows are read one by one: a damaged page sets the error during the sum, so check it after.
+    const Currency start = opening + (records ? NetAmount(*records) : Currency());
     if (app_.ReportError()) {
         return;
     }
@@ -57,8 +57,8 @@ void Balances::FillBalanceColumn(Currency balance) {
     Listbox &list = journal_.CashList;
     TextColumn texts;
     for (int row = 0; row < list.ListCount(); ++row) {
-        const QStringView input = list.CellsOf(Journal::Input).At(row);
-        const QStringView output = list.CellsOf(Journal::Output).At(row);
+        const QStringView input = list.ColumnTexts(Journal::Input).At(row);
+        const QStringView output = list.ColumnTexts(Journal::Output).At(row);
         if (!input.isEmpty()) {
             balance += Currency::FromDouble(TLXModule::AmountText2Value(input));
         } else if (!output.isEmpty()) {

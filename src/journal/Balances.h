@@ -13,29 +13,33 @@ class Journal;
 class RecordSet;
 class Selectors;
 
-/// The balances of the selected period. Nothing of them is stored: all is computed from the cash
-/// book's opening balance and the bookings, each time the journal is shown.
+/// Computes the balances of the selected period. They are not stored, but computed from the cash
+/// book's opening balance and the bookings each time the journal is loaded.
 class Balances : public QObject {
     Q_OBJECT
 
 public:
-    /// Answers every load of the journal with ReCalcAmount.
+    /// Connects Journal::Loaded to ReCalcAmount.
     Balances(const App &app, const Selectors &selectors, Journal &journal);
 
-    /// The balance before the first booking shown, and after the last one; empty without a booking.
+    /// The balance before the first booking of the period.
     Label OpeningBalanceLabel;
+    /// The balance after the last booking of the period; empty if there are no bookings.
     Label LastAmountLabel;
 
-    /// Computes the start balance of the period, runs it down the balance column and shows both
-    /// ends. A database error is told to the user and leaves the display as it was.
+    /// Computes the opening balance of the period, fills the balance column and updates both
+    /// labels. A database error is shown in a message and leaves the display unchanged.
     void ReCalcAmount();
 
-    /// The stored opening balance of the cash book with the id; 0 if there is none. Tells an error.
+    /// Returns the stored opening balance of the cash book with the id, 0 if there is none. A
+    /// database error is shown in a message.
     Currency GetOpeningBalance(int id) const;
-    /// The opening date of the selected cash book, nothing if it is none. Tells an error.
+    /// Returns the opening date of the selected cash book, std::nullopt if it is not a valid date.
+    /// A database error is shown in a message.
     std::optional<Date> GetOpeningDate() const;
-    /// The sum of all bookings of a type, "E" or "A", over all cash books, by the balance mask;
-    /// `from` and `to` are SQL dates, an empty `from` means no period. Tells an error.
+    /// Returns the sum of all bookings of a type, "E" or "A", over all cash books, formatted as a
+    /// balance. `from` and `to` are SQL dates; an empty `from` means no restriction to a period. A
+    /// database error is shown in a message.
     QString CalcAmount(const QString &type, const QString &from = {}, const QString &to = {}) const;
 
 private:

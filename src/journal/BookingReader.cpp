@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The tax table holds the key 0 twice, under one name; DISTINCT folds the two results into one.
+/// The tax table contains the key 0 twice, with the same name; DISTINCT removes the duplicate row.
 QString Select(const QString &column, const QString &join, const QString &condition) {
     return u"SELECT DISTINCT cj.*, ct.name AS taxname"_s + column +
            u" FROM cash_journal As cj JOIN cash_tax AS ct ON cj.tax = ct.value "_s + join +

@@ -63,23 +63,23 @@ void EntryRow::NewSale() {
     DateField.SetFocus();
 }
 
-void EntryRow::ShowButtons(bool changing) {
-    ChangeButton.SetVisible(changing);
-    CancelButton.SetVisible(changing);
-    SubmitButton.SetVisible(!changing);
+void EntryRow::ShowButtons(bool isChanging) {
+    ChangeButton.SetVisible(isChanging);
+    CancelButton.SetVisible(isChanging);
+    SubmitButton.SetVisible(!isChanging);
 }
 
 void EntryRow::InputField_TextChange() {
-    AmountTyped(InputField, OutputField, u"E"_s);
+    HandleAmountChange(InputField, OutputField, u"E"_s);
 }
 
 void EntryRow::OutputField_TextChange() {
-    AmountTyped(OutputField, InputField, u"A"_s);
+    HandleAmountChange(OutputField, InputField, u"A"_s);
 }
 
-void EntryRow::AmountTyped(TextField &field, Control &other, const QString &type) {
+void EntryRow::HandleAmountChange(TextField &field, Control &otherField, const QString &type) {
     field.SetHint(TLXModule::AmountHint(field.Text(), app_.Locale()));
-    other.SetEnabled(field.Text().isEmpty());
+    otherField.SetEnabled(field.Text().isEmpty());
     if (!field.Text().isEmpty()) {
         pickLists.LoadTax(type);
         pickLists.LoadAccounts(type);
@@ -93,21 +93,21 @@ void EntryRow::SetCategoryCaption(const QString &caption) {
 }
 
 void EntryRow::UpdateCategoryHint() {
-    const QString side = Side();
-    CategoryLabel.SetSpokenText(side == u'E'   ? receiptCaption
-                                : side == u'A' ? expenseCaption
-                                               : CategoryLabel.Text());
+    const QString type = BookingType();
+    CategoryLabel.SetAccessibleName(type == u'E'   ? receiptCaption
+                                    : type == u'A' ? expenseCaption
+                                                   : CategoryLabel.Text());
     ComboBox &category = pickLists.CategoryCombo;
-    const bool unknown =
-        !side.isEmpty() && !category.Text().isEmpty() && category.FindText(category.Text()) < 0;
-    category.SetHint(unknown ? u"ohne Konto"_s : QString());
+    const bool isUnknown =
+        !type.isEmpty() && !category.Text().isEmpty() && category.FindText(category.Text()) < 0;
+    category.SetHint(isUnknown ? u"ohne Konto"_s : QString());
 }
 
 bool EntryRow::CheckFields() {
     selectors_.LoadMissing();
-    pickLists.LoadMissing(Side());
+    pickLists.LoadMissing(BookingType());
     pickLists.SelectTypedRows();
-    // All checks run, and the message of the last one that fails is the one to read.
+    // All checks run; the message of the last one that fails is shown.
     QString message;
     if (pickLists.CategoryCombo.Text().isEmpty()) {
         message = u"Bitte Art der Einnahme/Ausgabe auswählen!"_s;
@@ -123,7 +123,8 @@ bool EntryRow::CheckFields() {
     } else if (DateIsBeforeOpening()) {
         message = u"Buchungsdatum darf nicht unter dem Eröffnungsdatum liegen!"_s;
     }
-    // A click on the button leaves a field whose text is no day; the day from before is not meant.
+    // A click on the button leaves the date field even if its text is not a valid date. DateValue
+    // is then the previous date, not the intended one.
     if (DateField.ResetRefusal()) {
         message = u"Bitte das Datum prüfen!"_s;
     }
@@ -132,7 +133,7 @@ bool EntryRow::CheckFields() {
     return message.isEmpty();
 }
 
-QString EntryRow::Side() const {
+QString EntryRow::BookingType() const {
     return !InputField.Text().isEmpty()    ? u"E"_s
            : !OutputField.Text().isEmpty() ? u"A"_s
                                            : QString();
@@ -153,12 +154,12 @@ DatabaseRecord EntryRow::Entry() const {
     record.SetColumn(u"salesnumber"_s, SaleNumberField.Text());
     record.SetColumn(u"note"_s, NoteField.Text());
     record.SetColumn(u"account"_s, category.RowTag(category.ListIndex()));
-    const bool receipt = Side() == u'E';
+    const bool isReceipt = BookingType() == u'E';
     const QString amount =
-        TLXModule::AmountText2SQL(receipt ? InputField.Text() : OutputField.Text());
+        TLXModule::AmountText2SQL(isReceipt ? InputField.Text() : OutputField.Text());
     record.SetColumn(u"amount"_s, amount);
-    record.SetColumn(receipt ? u"input"_s : u"output"_s, amount);
-    record.SetColumn(u"type"_s, Side());
+    record.SetColumn(isReceipt ? u"input"_s : u"output"_s, amount);
+    record.SetColumn(u"type"_s, BookingType());
     return record;
 }
 
@@ -180,7 +181,7 @@ void EntryRow::SubmitButton_Action() {
     }
     selectors_.ChangeTogether([this] {
         NewSale();
-        // After NewSale, whose rebuilt list knows the year of a year's first booking.
+        // After NewSale, which reloads the years: the booking may be the first of its year.
         selectors_.ShowPeriod(DateField.DateValue());
     });
     journal_.CashList.ScrollTo(journal_.CashList.FindRow(id));
@@ -196,7 +197,8 @@ void EntryRow::EditSale(EditMode mode) {
         DateField.SetDateValue(*date);
     }
     mRecID_ = list.RowTag(row).toLongLong();
-    // The amounts load the lists of the side and select its first tax, so they come before the tax.
+    // Setting the amounts loads the lists of the booking type and selects the first tax, so set
+    // them before the tax.
     InputField.SetText(list.Cell(row, Journal::Input));
     OutputField.SetText(list.Cell(row, Journal::Output));
     const auto *tax = std::get_if<QString>(&list.CellTag(row, Journal::Tax));
@@ -215,12 +217,12 @@ void EntryRow::ChangeButton_Action() {
     if (!CheckFields()) {
         return;
     }
-    RewriteBooking();
+    UpdateBooking();
     app_.ReportError();
     NewSale();
 }
 
-void EntryRow::RewriteBooking() {
+void EntryRow::UpdateBooking() {
     const QString sql = u"SELECT * FROM cash_journal WHERE id = "_s + QString::number(mRecID_);
     DebugLog(sql);
     const auto records = app_.kvoDB().SQLSelect(sql);

@@ -15,9 +15,9 @@ class Journal;
 class MenuItem;
 class Selectors;
 
-/// The row above the journal in which a booking is entered, copied or changed. The amount field
-/// that is filled makes it a receipt or an expense. It also answers the list's double click and
-/// menu.
+/// The row above the journal in which a booking is entered, copied or changed. The filled amount
+/// field determines whether it is a receipt or an expense. Also handles the double click and the
+/// context menu of the journal list.
 class EntryRow : public QObject {
     Q_OBJECT
 
@@ -32,21 +32,22 @@ public:
     TextField SaleNumberField;
     TextField NoteField;
     PushButton SubmitButton;
-    /// These two show while a booking is being changed, in the place of SubmitButton.
+    /// ChangeButton and CancelButton replace SubmitButton while a booking is being changed.
     PushButton ChangeButton;
     PushButton CancelButton;
     /// The red bar under the row, hidden until a check fails.
     Control ErrorRect;
     Label ErrorLabel;
 
-    /// Empties the row for a new booking, rebuilds the selectors and with them the journal. The
-    /// date stays. The journal is loaded and balanced once, before this returns.
+    /// Clears the row, except the date, for a new booking and reloads the selectors and with them
+    /// the journal. The journal is loaded and its balances computed once, before this returns.
     void NewSale();
 
     enum class EditMode { Change, Copy };
-    /// Fills the row from the selected booking of the journal; does nothing without one.
+    /// Fills the row from the selected booking of the journal. Does nothing without a selection.
     void EditSale(EditMode mode);
-    /// Deletes the selected booking at once, without a question; does nothing without one.
+    /// Deletes the selected booking at once, without confirmation. Does nothing without a
+    /// selection.
     void DeleteSale();
 
 private:
@@ -60,21 +61,21 @@ private:
 
     [[nodiscard]] bool CheckFields();
     bool DateIsBeforeOpening();
-    /// "E" with a receipt in the row, "A" with an expense, empty without an amount.
-    QString Side() const;
-    void ShowButtons(bool changing);
-    void AmountTyped(TextField &field, Control &other, const QString &type);
-    /// Says which kind of category is wanted, and whether the typed one is an account.
+    /// Returns "E" for a receipt, "A" for an expense and an empty text without an amount.
+    QString BookingType() const;
+    void ShowButtons(bool isChanging);
+    void HandleAmountChange(TextField &field, Control &otherField, const QString &type);
+    /// Sets the accessible name of the category and a hint if its text is not an account.
     void UpdateCategoryHint();
-    /// What the row holds, as the columns that a new and a changed booking share.
+    /// Returns the content of the row as the columns that new and changed bookings have in common.
     DatabaseRecord Entry() const;
-    /// Writes the row into the booking; the database's Error tells how that went.
-    void RewriteBooking();
+    /// Writes the row into the booking with mRecID_. Sets the database's Error on failure.
+    void UpdateBooking();
 
     const App &app_;
     Selectors &selectors_;
     Journal &journal_;
     const Balances &balances_;
-    /// The booking that EditSale loaded last; it keeps its value when the row is emptied.
+    /// The id of the booking that EditSale loaded last; not reset when the row is cleared.
     qint64 mRecID_ = 0;
 };

@@ -14,7 +14,7 @@ namespace {
 constexpr Color evenRow{0xffffff};
 constexpr Color oddRow{0xd2edf5};
 
-/// -1, 0 or 1; a row without a date comes first.
+/// Returns -1, 0 or 1. A row without a date comes first.
 int CompareDates(const Listbox::Tag &first, const Listbox::Tag &second) {
     const auto *a = std::get_if<Date>(&first);
     const auto *b = std::get_if<Date>(&second);
@@ -24,7 +24,8 @@ int CompareDates(const Listbox::Tag &first, const Listbox::Tag &second) {
     return *a < *b ? -1 : int(*a > *b);
 }
 
-/// Below, at or above 0. Of two ids in digits the longer is the greater.
+/// Returns a value less than, equal to or greater than 0. The ids are strings of digits, so the
+/// longer one is the greater.
 int CompareIds(QStringView a, QStringView b) {
     return a.size() == b.size() ? a.compare(b)
                                 : int(a.size() > b.size()) - int(a.size() < b.size());
@@ -35,8 +36,8 @@ void CashList_CellBackgroundPaint(Graphics &graphics, int row) {
     graphics.FillRect(0, 0, graphics.Width(), graphics.Height());
 }
 
-/// Reads one booking after the other. Neighbours often share their date: it is written out once for
-/// them.
+/// Reads bookings into list rows. Consecutive bookings often have the same date, so the last date
+/// and its text are cached.
 class RowReader {
 public:
     RowReader(RecordSet &records, const UserLocale &locale) : booking_(records), locale_(locale) {}
@@ -44,15 +45,15 @@ public:
     void ReadInto(Listbox::Rows &rows) {
         ReadDate();
         const QString amount = locale_.FormatAmount(booking_.Amount());
-        const bool receipt = booking_.IsReceipt();
+        const bool isReceipt = booking_.IsReceipt();
         rows.cells[Journal::DateColumn].Add(dateText_);
         rows.cellTags[Journal::DateColumn].push_back(dateTag_);
-        rows.cells[Journal::Input].Add(receipt ? amount : QString());
-        rows.cells[Journal::Output].Add(receipt ? QString() : amount);
+        rows.cells[Journal::Input].Add(isReceipt ? amount : QString());
+        rows.cells[Journal::Output].Add(isReceipt ? QString() : amount);
         rows.cells[Journal::Tax].Add(booking_.TaxName());
-        rows.cellTags[Journal::Tax].emplace_back(*shared_.insert(booking_.Tax()));
+        rows.cellTags[Journal::Tax].emplace_back(*sharedTexts_.insert(booking_.Tax()));
         rows.cells[Journal::Category].Add(booking_.Category());
-        rows.cellTags[Journal::Category].emplace_back(*shared_.insert(booking_.Account()));
+        rows.cellTags[Journal::Category].emplace_back(*sharedTexts_.insert(booking_.Account()));
         rows.cells[Journal::SaleNumber].Add(booking_.SaleNumber());
         rows.cells[Journal::Note].Add(booking_.Note());
         rows.tags.Add(booking_.Id());
@@ -66,7 +67,7 @@ private:
         }
         sqlDate_ = text;
         const std::optional<Date> date = Date::FromSQL(text);
-        // What is no date is shown as it stands, so that somebody can see what is wrong with it.
+        // An invalid date is shown as stored, so that the user can see the error.
         dateText_ = date ? locale_.ShortDate(*date) : text;
         dateTag_ = date ? Listbox::Tag(*date) : Listbox::Tag();
     }
@@ -76,8 +77,8 @@ private:
     QString sqlDate_;
     QString dateText_;
     Listbox::Tag dateTag_;
-    /// A book has few tax keys and accounts: the rows share their texts.
-    QSet<QString> shared_;
+    /// The tax keys and accounts. The rows share their texts, which saves a tenth of the memory.
+    QSet<QString> sharedTexts_;
 };
 
 } // namespace
@@ -135,7 +136,7 @@ void Journal::CashList_CompareRows(int first, int second, int column, int &resul
     }
     result = CompareDates(CashList.CellTag(first, column), CashList.CellTag(second, column));
     if (result == 0) {
-        // Bookings of one day stand in the order of their entry.
+        // Bookings of the same day are sorted in the order of their entry.
         result = CompareIds(CashList.RowTags().At(first), CashList.RowTags().At(second));
     }
 }

@@ -7,32 +7,33 @@
 class App;
 class Selectors;
 
-/// The list of bookings of the selected cash book and period. Its rows are the only copy of the
-/// bookings that the entry row and the report read; the columns are their contract.
+/// The list of bookings of the selected cash book and period. The entry row and the report read the
+/// bookings only from its rows, through the columns.
 class Journal : public QObject {
     Q_OBJECT
 
 public:
-    /// The cells of a row; the row tag is the booking's id. Exactly one of Input and Output holds
-    /// text. The Date column is tagged with the Date, Tax with the tax key, Category with the
-    /// account.
+    /// The columns of CashList; the row tag is the booking's id. Exactly one of Input and Output is
+    /// not empty. The cell tag is the Date in DateColumn, the tax key in Tax and the account number
+    /// in Category.
     enum Column { DateColumn, Input, Output, Tax, Category, SaleNumber, Note, Balance };
 
-    /// Answers every RefreshJournal of the selectors with a Reload.
+    /// Connects Selectors::RefreshJournal to Reload.
     Journal(const App &app, const Selectors &selectors);
 
     Listbox CashList;
 
-    /// Fills CashList from the database, in order of date and of entry on the same date. The
-    /// balance column is left empty. If the query fails the rows stay as they were; the database's
-    /// Error then tells it, and no message.
+    /// Fills CashList from the database, ordered by date and, on the same date, by entry. Leaves
+    /// the balance column empty. If the query fails, leaves the rows unchanged and sets the
+    /// database's Error, without a message.
     void LoadJournal();
-    /// Loads the journal, and says so. A failure is told, and nobody hears of a load: the rows may
-    /// be those of another period.
+    /// Calls LoadJournal and emits Loaded. A failure is shown in a message and Loaded is not
+    /// emitted, because the rows may be those of another period.
     void Reload();
 
 Q_SIGNALS:
-    /// CashList holds the bookings of the selected period; their balances are still to be computed.
+    /// Emitted when CashList contains the bookings of the selected period, before their balances
+    /// are computed.
     void Loaded();
 
 private:

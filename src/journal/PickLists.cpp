@@ -14,15 +14,15 @@ PickLists::PickLists(const App &app)
 }
 
 void PickLists::LoadRows(const QString &sql, QLatin1StringView tagColumn, const QString &type,
-                         ComboBox &list, QString &side) const {
+                         ComboBox &list, QString &loadedType) const {
     SQLiteDatabase &database = app_.kvoDB();
     SQLitePreparedStatement statement = database.Prepare(sql);
     statement.Bind(0, type);
     const auto records = statement.SQLSelect();
     if (!records) {
-        if (side != type) {
+        if (loadedType != type) {
             list.DeleteAllRows();
-            side.clear();
+            loadedType.clear();
         }
         return;
     }
@@ -32,9 +32,9 @@ void PickLists::LoadRows(const QString &sql, QLatin1StringView tagColumn, const 
     for (; !records->AtEnd(); records->MoveNext()) {
         rows.push_back({name.StringValue(), tag.StringValue()});
     }
-    // A damaged page shows only on the way.
-    side = database.Error() ? QString() : type;
-    // The database sorts an umlaut after all letters.
+    // A damaged page sets the error only while the rows are read.
+    loadedType = database.Error() ? QString() : type;
+    // SQLite's default collation sorts umlauts after z.
     const auto less = [](const auto &a, const auto &b) { return CompareTexts(a.text, b.text) < 0; };
     if (!std::is_sorted(rows.begin(), rows.end(), less)) {
         std::stable_sort(rows.begin(), rows.end(), less);
@@ -44,35 +44,35 @@ void PickLists::LoadRows(const QString &sql, QLatin1StringView tagColumn, const 
 
 void PickLists::LoadAccounts(const QString &type) {
     const QString text = CategoryCombo.Text();
-    const bool wasOffered = CategoryCombo.FindText(text) >= 0;
+    const bool wasInList = CategoryCombo.FindText(text) >= 0;
     LoadRows(u"SELECT * FROM cash_accounts WHERE type = ? AND active = 1 ORDER BY name"_s,
-             "account"_L1, type, CategoryCombo, sideOfAccounts_);
-    if (!wasOffered || CategoryCombo.FindText(text) >= 0) {
+             "account"_L1, type, CategoryCombo, loadedAccountType_);
+    if (!wasInList || CategoryCombo.FindText(text) >= 0) {
         CategoryCombo.SetText(text);
     }
 }
 
 void PickLists::LoadTax(const QString &type) {
     LoadRows(u"SELECT * FROM cash_tax WHERE type = ? AND active = 1 ORDER BY name"_s, "value"_L1,
-             type, TaxCombo, sideOfTaxes_);
+             type, TaxCombo, loadedTaxType_);
     TaxCombo.SetListIndex(0);
 }
 
 void PickLists::LoadMissing(const QString &type) {
-    if (!type.isEmpty() && sideOfTaxes_ != type) {
+    if (!type.isEmpty() && loadedTaxType_ != type) {
         const QString typed = TaxCombo.Text();
         LoadTax(type);
         if (!typed.isEmpty()) {
             TaxCombo.SetText(typed);
         }
     }
-    if (!type.isEmpty() && sideOfAccounts_ != type) {
+    if (!type.isEmpty() && loadedAccountType_ != type) {
         LoadAccounts(type);
     }
 }
 
 void PickLists::SelectTax(const QString &key, const QString &name) {
-    if (sideOfTaxes_.isEmpty()) {
+    if (loadedTaxType_.isEmpty()) {
         TaxCombo.SetText(name);
     } else {
         TaxCombo.SetListIndex(TLXModule::GetRowTag(TaxCombo, key));

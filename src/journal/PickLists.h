@@ -6,11 +6,12 @@
 
 class App;
 
-/// Tax and category of a booking, with the rows that its side offers: "E" a receipt, "A" an
-/// expense. A tax row's tag is the tax key, a category row's tag the account number.
+/// The lists of taxes and categories for a booking. They contain the rows of one booking type: "E"
+/// for a receipt, "A" for an expense. The tag of a tax row is the tax key, that of a category row
+/// the account number.
 ///
-/// A list whose query fails keeps its rows, without a message, if they are of the wanted side; it
-/// never offers those of the other one.
+/// If a query fails, its list is left unchanged if its rows are of the requested type, and cleared
+/// otherwise, so that rows of the other type are never offered. No message is shown.
 class PickLists : public QObject {
     Q_OBJECT
 
@@ -20,31 +21,31 @@ public:
     ComboBox TaxCombo;
     ComboBox CategoryCombo;
 
-    /// Rewrites the categories. The text stays, so that a corrected amount costs no category; only
-    /// a category of the other side goes.
+    /// Reloads the categories. The text is preserved, so that correcting an amount does not clear
+    /// the category; only a category of the other type is cleared.
     void LoadAccounts(const QString &type);
-    /// Rewrites the taxes and selects the first.
+    /// Reloads the taxes and selects the first one.
     void LoadTax(const QString &type);
-    /// Loads what could not be loaded for the side before; a tax that was typed meanwhile stays.
-    /// Does nothing for an empty side.
+    /// Loads the lists that are not loaded for the type because a query failed. A tax typed in the
+    /// meantime is preserved. Does nothing for an empty type.
     void LoadMissing(const QString &type);
-    /// Selects the tax with the key. Its name is shown if the taxes could not be loaded, so that
-    /// the booking's own is found when they can; otherwise an unknown key selects none.
+    /// Selects the tax with the key; an unknown key clears the selection. If the taxes could not be
+    /// loaded, sets the text to the name instead, so that the tax is found once they are loaded.
     void SelectTax(const QString &key, const QString &name);
 
-    /// Selects the rows whose texts the user has typed; a text of no row selects nothing.
+    /// Selects the rows whose texts the user has typed; a text without a row selects nothing.
     void SelectTypedRows();
 
 private:
     void TaxCombo_LostFocus();
 
-    /// Puts the rows of a side into a list that holds those of `side`, and says which it holds
-    /// then.
+    /// Loads the rows of a type into the list. `loadedType` is the type of the rows in the list
+    /// and is updated; empty if the rows are missing or incomplete.
     void LoadRows(const QString &sql, QLatin1StringView tagColumn, const QString &type,
-                  ComboBox &list, QString &side) const;
+                  ComboBox &list, QString &loadedType) const;
 
     const App &app_;
-    /// The sides that the lists hold; empty for none.
-    QString sideOfTaxes_;
-    QString sideOfAccounts_;
+    /// The types of the rows in the lists; empty for none.
+    QString loadedTaxType_;
+    QString loadedAccountType_;
 };

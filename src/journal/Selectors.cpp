@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void SelectPosition(PopupMenu &list, int position) {
-    list.SetListIndex(std::min(position, list.ListCount() - 1));
+void SelectIndex(PopupMenu &list, int index) {
+    list.SetListIndex(std::min(index, list.ListCount() - 1));
 }
 
 } // namespace
@@ -28,10 +28,10 @@ Selectors::Selectors(const App &app)
 
 void Selectors::ChangeTogether(const std::function<void()> &changes) {
     {
-        const QScopedValueRollback<int> inside(together_, together_ + 1);
+        const QScopedValueRollback<int> nested(changeDepth_, changeDepth_ + 1);
         changes();
     }
-    if (together_ == 0 && std::exchange(isRefreshRequested_, false)) {
+    if (changeDepth_ == 0 && std::exchange(isRefreshRequested_, false)) {
         Q_EMIT RefreshJournal();
     }
 }
@@ -46,9 +46,10 @@ void Selectors::GetCashbooks() {
             rows.push_back({account.StringValue() + u':' + name.StringValue(), id.StringValue()});
         }
     }
-    // A damaged page shows only on the way; in half a list another cash book would be selected.
+    // A damaged page sets the error only while the rows are read. In an incomplete list another
+    // cash book would be selected.
     CashbookPopup.SetRows(app_.kvoDB().Error() ? std::vector<PopupMenu::Row>() : std::move(rows));
-    SelectPosition(CashbookPopup, mCashbookID_);
+    SelectIndex(CashbookPopup, mCashbookID_);
 }
 
 void Selectors::GetJournalYears() {
@@ -64,8 +65,8 @@ void Selectors::GetJournalYears() {
         }
     }
     if (app_.kvoDB().Error()) {
-        // The opening year, or half a list, would select another year than the journal shows. The
-        // refresh meets the same failure and shows it.
+        // The opening year or an incomplete list would select another year than the journal shows.
+        // The refresh fails in the same way and shows the error.
         rows.clear();
         RequestRefresh();
     } else if (rows.empty()) {
@@ -78,7 +79,7 @@ void Selectors::GetJournalYears() {
         }
     }
     YearPopup.SetRows(std::move(rows));
-    SelectPosition(YearPopup, mYear_);
+    SelectIndex(YearPopup, mYear_);
 }
 
 void Selectors::LoadMonths() {

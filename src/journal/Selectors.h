@@ -9,9 +9,9 @@
 
 class App;
 
-/// Cash book, year and month: what the journal shows. A change of a selector asks for a fresh
-/// journal through RefreshJournal; so does a rebuilding of the lists, which selects by position
-/// again.
+/// The selectors of the cash book, the year and the month that the journal shows. RefreshJournal is
+/// emitted when a selection changes, and when a list is reloaded, which restores the selection by
+/// index.
 class Selectors : public QObject {
     Q_OBJECT
 
@@ -22,34 +22,37 @@ public:
     PopupMenu YearPopup;
     PopupMenu MonthPopup;
 
-    /// Makes several changes. RefreshJournal is fired once after them, if any of them asked.
+    /// Runs several changes. RefreshJournal is emitted once after them, if any of them requested
+    /// it.
     void ChangeTogether(const std::function<void()> &changes);
 
-    /// Rebuild their selector from the database and select what stands at the remembered position,
-    /// or the last row when that lies beyond the list. A failed query leaves the selector empty;
-    /// that of the years requests a refresh too, which shows the failure.
+    /// Reload their selector from the database and select the row at the last selected index, or
+    /// the last row if the list is shorter. If the query fails, the selector is empty; a failed
+    /// query of the years also requests a refresh, which shows the error in a message.
     void GetCashbooks();
     void GetJournalYears();
+    /// Fills the months and selects the whole year.
     void LoadMonths();
-    /// Rebuilds what a failed query has left empty. To be called before a selection is booked,
-    /// printed or exported, for without one the main cash book would be taken.
+    /// Reloads the selectors that a failed query has left empty. Must be called before the
+    /// selection is used for a booking, the report or the export, because without a selection the
+    /// main cash book is used.
     void LoadMissing();
 
-    /// Selects year and month of the date. A year that is not in the list leaves the year.
+    /// Selects the year and the month of the date. The year is unchanged if it is not in the list.
     void ShowPeriod(const Date &date);
 
-    /// "cashbookID = '...'", to follow a WHERE or an AND. The first row stands for the main cash
-    /// book, whatever its tag says.
+    /// Returns "cashbookID = '...'", for use after WHERE or AND. The first row is the main cash
+    /// book, regardless of its tag.
     QString CashbookCondition() const;
-    /// The same, and the selected year.
+    /// The same condition, and the selected year.
     QString CashbookAndYearCondition() const;
-    /// The id of the selected cash book, 0 if there is none.
+    /// Returns the id of the selected cash book, 0 if there is none.
     int SelectedCashbookID() const;
-    /// The first day of the selected month or year, as a SQL date.
+    /// Returns the first day of the selected month or year as an SQL date.
     QString PeriodStartSQL() const;
 
 Q_SIGNALS:
-    /// Load the journal and compute its balances anew.
+    /// Emitted when the journal must be reloaded and its balances recomputed.
     void RefreshJournal();
 
 private:
@@ -59,9 +62,10 @@ private:
     void RequestRefresh();
 
     const App &app_;
-    // Positions in their lists, not ids or years; they outlive a rebuilding of the lists.
+    // The last selected indexes, not ids or years; not changed by a reload of the lists.
     int mCashbookID_ = 0;
     int mYear_ = 0;
-    int together_ = 0;
+    /// The nesting depth of ChangeTogether.
+    int changeDepth_ = 0;
     bool isRefreshRequested_ = false;
 };

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// In the order of the list's columns.
+/// The table's columns in the order of the list's columns.
 constexpr std::array columns = {"name"_L1, "account"_L1, "type"_L1, "active"_L1};
 
 } // namespace
@@ -106,7 +106,7 @@ void BookingAccounts::CashaccountList_MouseUp(int row, int column) {
 }
 
 void BookingAccounts::AppendKinds(MenuItem &base) {
-    // The menu waits for the user; what has been typed is not to wait with it.
+    // Write typed text now, not after the user closes the menu.
     CashaccountList.EndEdit();
     if (CashaccountList.ListIndex() >= 0) {
         base.Append(u"Einnahme"_s);

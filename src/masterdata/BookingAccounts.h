@@ -9,14 +9,14 @@
 class App;
 class MenuItem;
 
-/// The booking accounts, edited in their list. Bookings keep their own copies of an account's name
-/// and number, so nothing here alters them.
+/// The booking accounts, edited in their list. Bookings contain copies of an account's name and
+/// number, so changes to the accounts do not affect them.
 class BookingAccounts : public QObject {
     Q_OBJECT
 
 public:
-    /// The kind is "E" for receipts or "A" for expenses. Active is a check box; only active
-    /// accounts are offered to bookings.
+    /// Kind is "E" for receipts or "A" for expenses. Active is a check box; only active accounts
+    /// can be selected for bookings.
     enum Column { Name, Account, Kind, Active };
 
     explicit BookingAccounts(const App &app);
@@ -24,10 +24,11 @@ public:
     Listbox CashaccountList;
     TLXPlusMinusButton AccountsAdd;
 
-    /// Fills the list from the book, sorted by name; an open cell is written first. The selected
-    /// account stays selected. A failure is told and leaves the list as it was.
+    /// Fills the list from the database, sorted by name. An open cell is written first. The
+    /// selected account stays selected. A failure is shown in a message and leaves the list
+    /// unchanged.
     void LoadCashAccounts();
-    /// Writes one cell into the book. A failure is not told.
+    /// Writes one cell into the database. A failure is not reported.
     void SaveAccount(int row, int column);
 
 private:
@@ -39,8 +40,8 @@ private:
     void CashaccountList_MouseUp(int row, int column);
     void CashaccountList_CompareRows(int first, int second, int column, int &result,
                                      bool &handled) const;
-    /// The menu of the kinds, which opens from the cell of the kind and as the list's context menu,
-    /// for the keys.
+    /// Fills the menu of the kinds. It opens on a click on a cell of the column Kind and, for
+    /// keyboard users, as the list's context menu.
     void AppendKinds(MenuItem &base);
     void SetKind(const MenuItem &chosen);
     void AccountsAdd_PlusPressed();

@@ -10,10 +10,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What the user can edit, in the order of the list's columns.
-constexpr std::array columns = {"name"_L1, "account"_L1, "opening_balance"_L1};
+/// The columns that the user can edit, in the order of the list's columns.
+constexpr std::array editableColumns = {"name"_L1, "account"_L1, "opening_balance"_L1};
 
-constexpr int columnCount = static_cast<int>(columns.size());
+constexpr int editableCount = static_cast<int>(editableColumns.size());
 
 } // namespace
 
@@ -59,8 +59,9 @@ void CashBooks::AddRow(RecordSet &record) {
 }
 
 void CashBooks::CashbookList_CellAction(int row, int column) {
-    if (column < columnCount) {
-        records_.Save(row, columns[static_cast<size_t>(column)], CashbookList.Cell(row, column));
+    if (column < editableCount) {
+        records_.Save(row, editableColumns[static_cast<size_t>(column)],
+                      CashbookList.Cell(row, column));
     }
 }
 
@@ -70,12 +71,12 @@ void CashBooks::CashbookList_DoubleClick() {
 
 void CashBooks::CashbookList_CellKeyDown(int row, int column, QChar key) {
     if (key == u'\t') {
-        CashbookList.EditCell(row, (column + 1) % columnCount);
+        CashbookList.EditCell(row, (column + 1) % editableCount);
     }
 }
 
 void CashBooks::CashBookAdd_PlusPressed() {
-    // The last row's account may be the one that is just being typed.
+    // Write an open cell first: it may be the account of the last row, which is read below.
     CashbookList.EndEdit();
     const int last = CashbookList.LastIndex();
     const double account = Val(CashbookList.Cell(last, Account)) + 10.0;

@@ -9,7 +9,7 @@
 class App;
 
 /// The cash books, edited in their list. The first row is the main cash book, which can't be
-/// removed; the list therefore keeps the table's order.
+/// removed; the list is therefore always in the table's order.
 class CashBooks : public QObject {
     Q_OBJECT
 
@@ -21,8 +21,8 @@ public:
     Listbox CashbookList;
     TLXPlusMinusButton CashBookAdd;
 
-    /// Fills the list from the book; an open cell is written first. The selected cash book stays
-    /// selected. A failure is told and leaves the list as it was.
+    /// Fills the list from the database. An open cell is written first. The selected cash book
+    /// stays selected. A failure is shown in a message and leaves the list unchanged.
     void LoadCashBook();
 
 private:

@@ -66,7 +66,7 @@ void CompanyProfile::LoadFields() {
     const QString country = records->Field("countryID"_L1).StringValue();
     CountryCombo.SetListIndex(TLXModule::GetRowTag(CountryCombo, country));
     AccountFrameCombo.SetText(records->Field("account_frame"_L1).StringValue());
-    // Filling the controls has made them report changes.
+    // Filling the controls has emitted their change signals.
     recordChange_ = false;
 }
 

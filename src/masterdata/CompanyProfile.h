@@ -10,8 +10,8 @@
 class App;
 class RecordSet;
 
-/// The company of the book, in controls that the user edits in place. Nothing is checked or
-/// trimmed. What prints the company reads these controls, saved or not.
+/// The company's data, in controls that the user edits in place. Values are neither validated nor
+/// trimmed. The report prints the current values of these controls, saved or not.
 class CompanyProfile : public QObject {
     Q_OBJECT
 
@@ -30,24 +30,24 @@ public:
     TextField EMailField;
     TextField HomepageField;
     TextField UIDField;
-    /// The last three are shown and never written: the country has no rows to choose from and is
-    /// hidden, the chart of accounts was chosen when the book was made, and the currency is fixed.
+    /// The last three are read-only: the country has no rows to choose from and is hidden, the
+    /// chart of accounts was chosen when the database was created, and the currency is fixed.
     ComboBox CountryCombo;
     ComboBox AccountFrameCombo;
     ComboBox CurrencyCombo;
 
-    /// Fills the controls from the book and clears RecordChange. If that fails it tells the user,
-    /// and the controls and RecordChange stay as they were.
+    /// Fills the controls from the database and clears RecordChange. A failure is shown in a
+    /// message and leaves the controls and RecordChange unchanged.
     void LoadFields();
-    /// Writes the controls into the book's one company; it never adds one. A failure is told, and
-    /// leaves the controls. RecordChange stays in any case.
+    /// Writes the controls into the company's row; does not insert one. A failure is shown in a
+    /// message and leaves the controls unchanged. RecordChange is not cleared in either case.
     void SaveFields();
-    /// Whether a control has changed since the last LoadFields.
+    /// Returns whether a control has changed since the last LoadFields.
     bool RecordChange() const { return recordChange_; }
 
 private:
     void MarkChanged();
-    /// The company; nothing after a failure, which has been told.
+    /// Returns the company's row, or null. A failure is shown in a message.
     std::unique_ptr<RecordSet> SelectCompany();
 
     const App &app_;

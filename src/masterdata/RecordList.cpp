@@ -27,7 +27,7 @@ void RecordList::Load() {
         list_.SetSortedColumn(sortedColumn_);
         list_.Sort();
     });
-    // A damaged page shows only on the way.
+    // A damaged page sets the error only while the rows are read.
     app_.ReportError();
 }
 

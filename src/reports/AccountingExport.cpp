@@ -13,14 +13,14 @@ namespace {
 
 using Headings = std::array<QStringView, AccountingExport::columnCount>;
 
-constexpr Headings headingsAtOpen = {
+constexpr Headings initialHeadings = {
     u"Belegdatum", u"Buchungsbetrag", u"Steuerschlüssel", u"Buchungstext", u"Belegnummer",
     u"Sollkonto",  u"Habenkonto",     u"Währung",         u"Notiz",        u"Leer"};
 
-constexpr Headings headingsOfRecord = {u"Belegdatum", u"Buchungsbetrag", u"Steuerschlüssel",
-                                       u"Steuer",     u"Buchungstext",   u"Belegnummer",
-                                       u"Sollkonto",  u"Habenkonto",     u"Währung",
-                                       u"Notiz",      u"Intern"};
+constexpr Headings recordHeadings = {u"Belegdatum", u"Buchungsbetrag", u"Steuerschlüssel",
+                                     u"Steuer",     u"Buchungstext",   u"Belegnummer",
+                                     u"Sollkonto",  u"Habenkonto",     u"Währung",
+                                     u"Notiz",      u"Intern"};
 
 void SetHeadings(Listbox &list, const Headings &headings) {
     for (int column = 0; column < list.ColumnCount(); ++column) {
@@ -28,7 +28,7 @@ void SetHeadings(Listbox &list, const Headings &headings) {
     }
 }
 
-/// Reads one booking after the other into posting records.
+/// Reads bookings into posting records.
 class RecordReader {
 public:
     RecordReader(RecordSet &bookings, const UserLocale &locale)
@@ -53,7 +53,7 @@ public:
     }
 
 private:
-    /// Neighbours often share their date: it is written out once for them.
+    /// Consecutive bookings often have the same date, so the last one is cached.
     QString GermanDate() {
         if (const QString sqlDate = booking_.SQLDate(); sqlDate != sqlDate_) {
             sqlDate_ = sqlDate;
@@ -74,7 +74,7 @@ private:
 AccountingExport::AccountingExport(const App &app, const Selectors &selectors)
     : ExportList(u"ExportList"_s, columnCount), app_(app), selectors_(selectors) {
     ExportList.SetHasHeading(true);
-    SetHeadings(ExportList, headingsAtOpen);
+    SetHeadings(ExportList, initialHeadings);
 }
 
 void AccountingExport::ExportJournal() {
@@ -87,10 +87,11 @@ void AccountingExport::ExportJournal() {
             reader.ReadInto(records);
         }
     }
-    // A damaged page shows only on the way: half a year must not pass for a whole one.
+    // A damaged page sets the error only while the rows are read. An incomplete year must not be
+    // mistaken for a complete one.
     if (app_.ReportError() || !bookings) {
         return;
     }
-    SetHeadings(ExportList, headingsOfRecord);
+    SetHeadings(ExportList, recordHeadings);
     ExportList.SetRows(std::move(records));
 }

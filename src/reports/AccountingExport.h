@@ -5,21 +5,20 @@
 class App;
 class Selectors;
 
-/// The posting records for the accountant: the bookings of the selected cash book and year, with
-/// the debit and credit account of each. The selected month and the journal on the screen do not
-/// matter. The records pass through a list, since how a list becomes a text file is decided once,
-/// for any list.
+/// The posting records for the accountant: the bookings of the selected cash book and year, each
+/// with its debit and credit account. They do not depend on the selected month or on the rows of
+/// the journal. They are loaded into a list because ExportCSV writes any list to a text file.
 class AccountingExport {
 public:
     AccountingExport(const App &app, const Selectors &selectors);
 
     static constexpr int columnCount = 11;
 
-    /// The records; the user never sees this list. The row tag is the booking's id.
+    /// The records. This list is never shown. The row tag is the booking's id.
     Listbox ExportList;
 
-    /// Fills ExportList from the database, in order of date. A database error is told, and leaves
-    /// the list as it was.
+    /// Fills ExportList from the database, ordered by date. A database error is shown in a message
+    /// and leaves the list unchanged.
     void ExportJournal();
 
 private:

@@ -15,14 +15,15 @@ namespace {
 
 const auto title = u"Kassenbericht"_s;
 constexpr Color darkGrey{0x333333};
-constexpr double headSize = 9;
+constexpr double headerSize = 9;
 constexpr double titleSize = 16;
 constexpr double textSize = 10;
-/// What the rows of a page may take, in lines of the head's size.
-constexpr double heightOfRows = 620;
-constexpr double firstRow = 95;
-constexpr double labels = 40;
-constexpr double amounts = 210;
+/// The height available for the rows of a page; their number is computed from the line height of
+/// the header.
+constexpr double rowsHeight = 620;
+constexpr double firstRowY = 95;
+constexpr double labelX = 40;
+constexpr double amountX = 210;
 
 struct Heading {
     double x;
@@ -33,35 +34,35 @@ constexpr Heading headings[] = {{40, u"Datum"},    {100, u"Einnahme"},
                                 {270, u"Steuer"},  {315, u"Art der Ein/Ausgabe"},
                                 {440, u"Nr."},     {475, u"Notiz"}};
 
-QString HeadOf(const CompanyProfile &company) {
+QString HeaderText(const CompanyProfile &company) {
     return company.CompanyField.Text() + u' ' + company.DepartmentField.Text() + u" - "_s +
            company.StreetField.Text() + u" - "_s + company.CityField.Text();
 }
 
-/// "keine" whole, of any other tax the rate: "19%".
+/// Returns "keine" unchanged, and the rate of any other tax: "19%".
 QString TaxRate(const QString &tax) {
     return SameText(tax, u"keine") ? tax : tax.left(3);
 }
 
-/// Draws the report from its head to its totals.
+/// Draws the report from the page header to the totals.
 class ReportWriter {
 public:
     ReportWriter(PrinterGraphics &graphics, const QString &company, const QString &date)
         : graphics_(graphics), company_(company), date_(date) {
         graphics_.SetTextFont(u"Courier"_s);
-        graphics_.SetTextSize(headSize);
+        graphics_.SetTextSize(headerSize);
         graphics_.SetForeColor(darkGrey);
-        maxLines_ = static_cast<int>(heightOfRows / graphics_.TextHeight());
-        DrawHead();
+        maxLines_ = static_cast<int>(rowsHeight / graphics_.TextHeight());
+        DrawHeader();
         DrawTitle();
     }
 
     void DrawRow(const Listbox &list, int row) {
-        const double y = Below(firstRow);
+        const double y = BelowRows(firstRowY);
         graphics_.DrawString(list.Cell(row, Journal::DateColumn), 40, y);
         graphics_.DrawString(TLXModule::PadAmount8(list.Cell(row, Journal::Input)), 100, y);
         graphics_.DrawString(TLXModule::PadAmount8(list.Cell(row, Journal::Output)), 155, y);
-        graphics_.DrawString(TLXModule::PadAmount8(list.Cell(row, Journal::Balance)), amounts, y);
+        graphics_.DrawString(TLXModule::PadAmount8(list.Cell(row, Journal::Balance)), amountX, y);
         graphics_.DrawString(TaxRate(list.Cell(row, Journal::Tax)), 270, y);
         graphics_.DrawString(list.Cell(row, Journal::Category).left(20), 315, y);
         graphics_.DrawString(list.Cell(row, Journal::SaleNumber), 440, y);
@@ -69,7 +70,7 @@ public:
         if (++line_ > maxLines_) {
             graphics_.NextPage();
             line_ = 0;
-            DrawHead();
+            DrawHeader();
         }
     }
 
@@ -80,26 +81,26 @@ public:
         QString closing;
     };
     void DrawTotals(const Totals &totals) {
-        graphics_.DrawString(u"Anfangsbestand"_s, labels, Below(125));
-        graphics_.DrawString(u"Einnahmen"_s, labels, Below(140));
-        graphics_.DrawString(u"Ausgaben"_s, labels, Below(155));
+        graphics_.DrawString(u"Anfangsbestand"_s, labelX, BelowRows(125));
+        graphics_.DrawString(u"Einnahmen"_s, labelX, BelowRows(140));
+        graphics_.DrawString(u"Ausgaben"_s, labelX, BelowRows(155));
         graphics_.SetBold(true);
-        graphics_.DrawString(u"Endbestand"_s, labels, Below(175));
+        graphics_.DrawString(u"Endbestand"_s, labelX, BelowRows(175));
         graphics_.SetBold(false);
-        graphics_.DrawString(TLXModule::PadAmount8(totals.opening), amounts, Below(125));
-        graphics_.DrawString(TLXModule::PadAmount8(totals.receipts), amounts, Below(140));
-        graphics_.DrawString(TLXModule::PadAmount8(totals.expenses), amounts, Below(155));
+        graphics_.DrawString(TLXModule::PadAmount8(totals.opening), amountX, BelowRows(125));
+        graphics_.DrawString(TLXModule::PadAmount8(totals.receipts), amountX, BelowRows(140));
+        graphics_.DrawString(TLXModule::PadAmount8(totals.expenses), amountX, BelowRows(155));
         graphics_.SetBold(true);
-        graphics_.DrawString(TLXModule::PadAmount8(totals.closing), amounts, Below(175));
-        graphics_.DrawString(u"___________"_s, 190, Below(161));
-        graphics_.DrawString(u"___________"_s, 190, Below(180));
+        graphics_.DrawString(TLXModule::PadAmount8(totals.closing), amountX, BelowRows(175));
+        graphics_.DrawString(u"___________"_s, 190, BelowRows(161));
+        graphics_.DrawString(u"___________"_s, 190, BelowRows(180));
     }
 
 private:
-    /// The baseline that lies the height of the page's rows below y.
-    double Below(double y) const { return y + line_ * lineHeight_; }
+    /// Returns y moved down by the height of the rows drawn on the page.
+    double BelowRows(double y) const { return y + line_ * lineHeight_; }
 
-    void DrawHead() {
+    void DrawHeader() {
         graphics_.DrawString(company_, 40, 15);
         graphics_.DrawString(date_, 410, 15);
         graphics_.DrawLine(40, 17, 550, 17);
@@ -111,7 +112,7 @@ private:
         graphics_.DrawString(title, 40, 45);
         graphics_.SetBold(false);
         graphics_.SetTextSize(textSize);
-        // Asked for once: the bold face may be higher.
+        // Queried once, in the regular font: the bold font may be higher.
         lineHeight_ = graphics_.TextHeight();
         graphics_.SetUnderline(true);
         for (const Heading &heading : headings) {
@@ -123,7 +124,7 @@ private:
     PrinterGraphics &graphics_;
     QString company_;
     QString date_;
-    /// A page takes one row more: it ends when the count has passed this.
+    /// The page ends when line_ exceeds this, so it contains one row more.
     int maxLines_ = 0;
     double lineHeight_ = 0;
     int line_ = 0;
@@ -140,7 +141,7 @@ void CashReport::Print() {
     if (!graphics) {
         return;
     }
-    ReportWriter report(*graphics, HeadOf(company_),
+    ReportWriter report(*graphics, HeaderText(company_),
                         app_.Locale().LongDate(app_.GetDesktop().Now()));
     const Listbox &list = journal_.CashList;
     for (int row = 0; row < list.ListCount(); ++row) {

@@ -6,14 +6,14 @@ class CompanyProfile;
 class Journal;
 class Selectors;
 
-/// The cash report on paper: the bookings as the journal shows them at this moment, and the totals.
+/// Prints the cash report: the bookings as currently shown in the journal, and the totals.
 class CashReport {
 public:
     CashReport(const App &app, const Selectors &selectors, const Journal &journal,
                const Balances &balances, const CompanyProfile &company);
 
-    /// Lets the user choose a printer, and prints; nothing happens if the user cancels. A database
-    /// error in the totals is told, and the report goes on with what they gave.
+    /// Shows the printer dialog and prints. Does nothing if the user cancels. A database error in
+    /// the totals is shown in a message, and the report is printed with the values obtained.
     void Print();
 
 private:

@@ -9,10 +9,10 @@ class Desktop;
 
 namespace TLXModule {
 
-/// Lets the user name a text file, and writes the list into it: the headings and one line per row,
-/// semicolons between the cells, in code page 1252, lines ended by carriage return and line feed.
-/// Nothing is quoted. A file that can't be written, such as the open book, is told to the user; one
-/// that was there before then stays as it was.
+/// Shows a file dialog and writes the list to the chosen text file: the headings and one line per
+/// row, with cells separated by semicolons, in code page 1252, with CR LF line ends. Nothing is
+/// quoted. Does nothing if the user cancels. If the file can't be written, for example because it
+/// is the open database, shows a message and leaves an existing file unchanged.
 void ExportCSV(Desktop &desktop, const CellModel &list,
                const std::optional<FolderItem> &databaseFile);
 

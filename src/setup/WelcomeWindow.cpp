@@ -12,11 +12,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Where a button's picture stands on it, in points.
+/// The position of the picture on a button, in points.
 constexpr int pictureLeft = 14;
 constexpr int pictureTop = 26;
 
-/// How the names of books in the making begin. They stand beside the place of the book.
+/// The file name prefix of incomplete databases, which are in the folder of the default file.
 const auto temporaryPrefix = u"Zolmark.neu-"_s;
 const auto cannotCreate = u"Die Datenbank konnte nicht erstellt werden: "_s;
 
@@ -42,9 +42,9 @@ WelcomeWindow::WelcomeWindow(App &app)
     CurrencyPopup.AddRow(u"EUR"_s);
     CurrencyPopup.SetListIndex(0);
     OpeningDate_Open();
-    auto greeting = std::make_unique<Picture>(0, 0);
-    greeting->DrawPicture(app_.Resources().Child(u"welcome_image.png"_s), 0, 0);
-    Canvas1.SetBackdrop(std::move(greeting));
+    auto picture = std::make_unique<Picture>(0, 0);
+    picture->DrawPicture(app_.Resources().Child(u"welcome_image.png"_s), 0, 0);
+    Canvas1.SetBackdrop(std::move(picture));
     ConnectEvents();
 }
 
@@ -77,7 +77,7 @@ void WelcomeWindow::Event_Open() {
         return;
     }
     app_.Connect();
-    // Who was ended between the last two steps of making the book has left it a second name.
+    // A crash between linking and unlinking in MoveTo leaves the temporary name; remove it.
     app_.DefaultDatabaseFile().Parent().DeleteFiles(temporaryPrefix);
     Q_EMIT Closed();
     Q_EMIT MainWindowRequested();
@@ -123,7 +123,7 @@ void WelcomeWindow::SaveButton_Action() {
                                  "- Konto\r- Anfangsbestand"_s);
         return;
     }
-    // The shown day is not the one that was meant if a typed text was refused and left behind.
+    // If the typed text was refused, the shown date is not the intended one.
     if (OpeningDate.ResetRefusal()) {
         app_.GetDesktop().MsgBox(u"Bitte das Datum prüfen!"_s);
         OpeningDate.SetFocus();
@@ -133,23 +133,24 @@ void WelcomeWindow::SaveButton_Action() {
 }
 
 void WelcomeWindow::CreateDatabase() {
-    const FolderItem place = app_.DefaultDatabaseFile();
-    const FolderItem folder = place.Parent();
+    const FolderItem databaseFile = app_.DefaultDatabaseFile();
+    const FolderItem folder = databaseFile.Parent();
     if (!folder.Exists()) {
-        // A failure shows when the file can't be made.
+        // If this fails, creating the file fails too and shows a message.
         static_cast<void>(folder.CreateAsFolder());
     }
-    // What an attempt has left that was ended half-way.
+    // Remove the files of interrupted attempts.
     folder.DeleteFiles(temporaryPrefix);
-    const QString name = temporaryPrefix + QUuid::createUuid().toString(QUuid::Id128);
-    if (!CreateFile(folder.Child(name))) {
-        folder.DeleteFiles(name);
+    const QString temporaryName = temporaryPrefix + QUuid::createUuid().toString(QUuid::Id128);
+    if (!CreateFile(folder.Child(temporaryName))) {
+        folder.DeleteFiles(temporaryName);
         return;
     }
-    if (!folder.Child(name).MoveTo(place)) {
-        folder.DeleteFiles(name);
+    if (!folder.Child(temporaryName).MoveTo(databaseFile)) {
+        folder.DeleteFiles(temporaryName);
         app_.GetDesktop().MsgBox(
-            cannotCreate + u"%1 ist schon da oder darf nicht angelegt werden."_s.arg(place.Path()));
+            cannotCreate +
+            u"%1 ist schon da oder darf nicht angelegt werden."_s.arg(databaseFile.Path()));
         return;
     }
     if (app_.DBLoad()) {
@@ -162,13 +163,13 @@ void WelcomeWindow::CreateDatabase() {
 bool WelcomeWindow::CreateFile(const FolderItem &file) {
     SQLiteDatabase &database = app_.NewDatabase();
     app_.UseFile(database, file);
-    const bool created = database.CreateDatabaseFile();
-    if (!created) {
+    const bool isCreated = database.CreateDatabaseFile();
+    if (!isCreated) {
         app_.GetDesktop().MsgBox(cannotCreate + database.ErrorMessage());
     }
-    const bool made = created && FillDatabase(AccountsPopup.Text(), ClosingSQL());
+    const bool isFilled = isCreated && FillDatabase(AccountsPopup.Text(), EnteredRecordsSQL());
     app_.NewDatabase();
-    return made;
+    return isFilled;
 }
 
 void WelcomeWindow::CreateDemoDatabase() {
@@ -189,8 +190,8 @@ void WelcomeWindow::CreateDemoDatabase() {
     Q_EMIT Closed();
 }
 
-QString WelcomeWindow::ClosingSQL() const {
-    // Joined as typed: an apostrophe fails the statement, and the user hears of it.
+QString WelcomeWindow::EnteredRecordsSQL() const {
+    // Not escaped: an apostrophe makes the statement fail, and the error is shown in a message.
     const QStringList company = {CompanyField.Text(), DepartmendField.Text(), StreetField.Text(),
                                  ZipField.Text(),     CityField.Text(),       PhoneField.Text(),
                                  AccountsPopup.Text()};
@@ -205,7 +206,7 @@ QString WelcomeWindow::ClosingSQL() const {
            cashBook.join(u"', '"_s) + u"');"_s;
 }
 
-bool WelcomeWindow::FillDatabase(const QString &chart, const QString &closingSQL) {
+bool WelcomeWindow::FillDatabase(const QString &chart, const QString &recordsSQL) {
     SQLiteDatabase &database = app_.kvoDB();
     Transaction transaction(database);
     database.SQLExecute(CashBookDDL());
@@ -216,7 +217,7 @@ bool WelcomeWindow::FillDatabase(const QString &chart, const QString &closingSQL
     if (SameText(chart, u"SKR-04"_s)) {
         database.SQLExecute(ChartSKR04SQL());
     }
-    database.SQLExecute(closingSQL);
+    database.SQLExecute(recordsSQL);
     if (database.Error() || !transaction.Commit()) {
         app_.GetDesktop().MsgBox(u"Error: "_s + database.ErrorMessage());
         return false;

@@ -11,9 +11,9 @@
 
 class App;
 
-/// The first window of every start. With a book in its place it hands over to the main window at
-/// once; without one it stays and offers the ways to a book: the sample book, or one of the user's
-/// own from what is typed on two pages.
+/// The first window of every start. If the default database file exists, it requests the main
+/// window and closes at once. Otherwise the user can open the demo database or create a new
+/// database from the data entered on two pages.
 class WelcomeWindow : public QObject {
     Q_OBJECT
 
@@ -47,21 +47,22 @@ public:
     PushButton SaveButton;
 
     void Event_Open();
-    /// The one entry of a menu bar that this window answers.
+    /// The only menu entry that this window handles.
     void AboutItem_Action();
 
-    /// Makes the sample book in memory and opens the main window on it. A failure is told, and the
-    /// window stays.
+    /// Creates the demo database in memory and requests the main window. A failure is shown in a
+    /// message, and the window stays open.
     void CreateDemoDatabase();
-    /// Makes the default file from what is typed and opens the main window on it. The file is there
-    /// as a whole or not at all, whenever the program is ended. A failure is told, and the window
-    /// stays with all that is typed. A file that stands there already stays as it is.
+    /// Creates the default database file from the entered data and requests the main window. The
+    /// file appears complete or not at all, even if the program is terminated. A failure is shown
+    /// in a message, and the window stays open with the entered data. An existing file is not
+    /// changed.
     void CreateDatabase();
 
 Q_SIGNALS:
-    /// Show the main window; the database is dealt with.
+    /// Emitted when the main window is to be shown, after the attempt to open the database.
     void MainWindowRequested();
-    /// This window has done its work.
+    /// Emitted when this window is to be closed.
     void Closed();
 
 private:
@@ -75,10 +76,12 @@ private:
 
     void ConnectEvents();
     void DrawPicture(Canvas &canvas, const QString &name);
-    QString ClosingSQL() const;
-    /// Makes the whole book in a file, and closes it; false after a failure, which has been told.
+    /// Returns the SQL that inserts the entered company and cash book.
+    QString EnteredRecordsSQL() const;
+    /// Creates the complete database in a file and closes it. On failure shows a message and
+    /// returns false.
     [[nodiscard]] bool CreateFile(const FolderItem &file);
-    [[nodiscard]] bool FillDatabase(const QString &chart, const QString &closingSQL);
+    [[nodiscard]] bool FillDatabase(const QString &chart, const QString &recordsSQL);
 
     App &app_;
 };

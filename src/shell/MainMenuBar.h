@@ -2,9 +2,8 @@
 
 #include "platform/menus/MenuItem.h"
 
-/// The menu bar: its items are the menus, in their order from the left. A window answers the
-/// entries that it has a handler for; the others stay disabled, but for the editing entries and
-/// &Quit, which the platform answers.
+/// The menu bar. Its items are the menus, from left to right. Entries without a handler in the
+/// window are disabled, except the editing entries and &Quit, which the platform handles.
 class MainMenuBar : public MenuItem {
 public:
     MainMenuBar();

@@ -12,7 +12,7 @@ class MainToolbar : public QObject {
 public:
     MainToolbar();
 
-    /// The places of the buttons among the items.
+    /// The indexes of the buttons among the items.
     enum Index {
         NewButton = 0,
         EditButton = 1,
@@ -26,7 +26,7 @@ public:
     ToolItem &Item(int index) const { return *items_[static_cast<size_t>(index)]; }
 
 Q_SIGNALS:
-    /// A button was pressed.
+    /// Emitted when a button is pressed.
     void Action(const ToolItem &item);
 
 private:

@@ -21,71 +21,72 @@ MainWindow::MainWindow(App &app)
       bookingAccounts(app), cashReport(app, selectors, journal, balances, companyProfile),
       accountingExport(app, selectors), PagePanel1(u"PagePanel1"_s), app_(app) {
     connect(&journal.CashList, &Listbox::CellClick, this, &MainWindow::CashList_CellClick);
-    // Who chooses a row by keys has its commands too.
+    // Selecting a row by key enables its commands too.
     connect(&journal.CashList, &Listbox::KeyDown, this, &MainWindow::CashList_CellClick);
     connect(&journal.CashList, &Listbox::LostFocus, this, [this] { EnableRowCommands(false); });
     connect(&MainWindowToolbar, &MainToolbar::Action, this, &MainWindow::MainWindowToolbar_Action);
-    for (int place = 0; place < MainWindowToolbar.Count(); ++place) {
-        RequireCommand(MainWindowToolbar.Item(place).Word());
+    for (int index = 0; index < MainWindowToolbar.Count(); ++index) {
+        RequireCommand(MainWindowToolbar.Item(index).Command());
     }
     AddMenuHandlers();
 }
 
 const MainWindow::Command MainWindow::commands[] = {
-    {u"new", [](MainWindow &at) { at.entryRow.NewSale(); }},
-    {u"edit", [](MainWindow &at) { at.entryRow.EditSale(EntryRow::EditMode::Change); }},
-    {u"copy", [](MainWindow &at) { at.entryRow.EditSale(EntryRow::EditMode::Copy); }},
-    {u"delete", [](MainWindow &at) { at.entryRow.DeleteSale(); }},
-    {u"print", [](MainWindow &at) { at.Print(); }},
-    {u"export", [](MainWindow &at) { at.Export(); }},
-    {u"preferences", [](MainWindow &at) { at.OpenPreferences(); }},
-    {u"cashbook", [](MainWindow &at) { at.ClosePreferences(); }},
-    {u"about", [](MainWindow &at) { at.app_.GetDesktop().ShowAboutPanel(); }},
+    {u"new", [](MainWindow &window) { window.entryRow.NewSale(); }},
+    {u"edit", [](MainWindow &window) { window.entryRow.EditSale(EntryRow::EditMode::Change); }},
+    {u"copy", [](MainWindow &window) { window.entryRow.EditSale(EntryRow::EditMode::Copy); }},
+    {u"delete", [](MainWindow &window) { window.entryRow.DeleteSale(); }},
+    {u"print", [](MainWindow &window) { window.Print(); }},
+    {u"export", [](MainWindow &window) { window.Export(); }},
+    {u"preferences", [](MainWindow &window) { window.OpenPreferences(); }},
+    {u"cashbook", [](MainWindow &window) { window.ClosePreferences(); }},
+    {u"about", [](MainWindow &window) { window.app_.GetDesktop().ShowAboutPanel(); }},
 };
 
-const MainWindow::Command *MainWindow::Find(const QString &word) {
+const MainWindow::Command *MainWindow::FindCommand(const QString &name) {
     const auto *const found =
         std::find_if(std::begin(commands), std::end(commands),
-                     [&word](const Command &command) { return SameText(command.word, word); });
+                     [&name](const Command &command) { return SameText(command.name, name); });
     return found == std::end(commands) ? nullptr : found;
 }
 
-void MainWindow::MenuAction(const QString &word) {
-    if (const Command *command = Find(word)) {
-        // A command works on what has been typed.
+void MainWindow::MenuAction(const QString &name) {
+    if (const Command *command = FindCommand(name)) {
+        // Write typed text first, so that the command works on current data.
         EndEdits();
         command->run(*this);
     }
 }
 
-void MainWindow::RequireCommand(const QString &word) {
-    if (!word.isEmpty() && Find(word) == nullptr) {
-        qFatal("There is no command %s.", qUtf8Printable(word));
+void MainWindow::RequireCommand(const QString &name) {
+    if (!name.isEmpty() && FindCommand(name) == nullptr) {
+        qFatal("There is no command %s.", qUtf8Printable(name));
     }
 }
 
 void MainWindow::AddMenuHandlers() {
-    for (int place = 0; place < menuBar.Count(); ++place) {
-        MenuItem &menu = menuBar.Item(place);
-        for (int entry = 0; entry < menu.Count(); ++entry) {
-            AddMenuHandler(menu.Item(entry));
+    for (int menuIndex = 0; menuIndex < menuBar.Count(); ++menuIndex) {
+        MenuItem &menu = menuBar.Item(menuIndex);
+        for (int index = 0; index < menu.Count(); ++index) {
+            AddMenuHandler(menu.Item(index));
         }
     }
-    const auto run = [this](const MenuItem &item, const std::function<void()> &handler) {
+    const auto connectItem = [this](const MenuItem &item, const std::function<void()> &handler) {
         connect(&item, &MenuItem::Action, this, handler);
     };
-    run(menuBar.FileMenu().Child(u"FileOpen"), [this] { FileOpen_Action(); });
-    run(menuBar.HilfeMenu().Child(u"HomepageItem"),
-        [this] { app_.GetDesktop().ShowURL(homepage); });
-    run(menuBar.HilfeMenu().Child(u"SupportItem"),
-        [this] { app_.GetDesktop().ShowURL(homepage + u"service-support/"_s); });
-    run(menuBar.HilfeMenu().Child(u"QuickReferenceItem"), [this] { app_.LaunchManual(); });
+    connectItem(menuBar.FileMenu().Child(u"FileOpen"), [this] { FileOpen_Action(); });
+    connectItem(menuBar.HilfeMenu().Child(u"HomepageItem"),
+                [this] { app_.GetDesktop().ShowURL(homepage); });
+    connectItem(menuBar.HilfeMenu().Child(u"SupportItem"),
+                [this] { app_.GetDesktop().ShowURL(homepage + u"service-support/"_s); });
+    connectItem(menuBar.HilfeMenu().Child(u"QuickReferenceItem"), [this] { app_.LaunchManual(); });
 }
 
 void MainWindow::AddMenuHandler(const MenuItem &item) {
-    RequireCommand(item.Word());
-    if (!item.Word().isEmpty()) {
-        connect(&item, &MenuItem::Action, this, [this, word = item.Word()] { MenuAction(word); });
+    RequireCommand(item.Command());
+    if (!item.Command().isEmpty()) {
+        connect(&item, &MenuItem::Action, this,
+                [this, name = item.Command()] { MenuAction(name); });
     }
 }
 
@@ -114,12 +115,12 @@ void MainWindow::Event_Close() {
 }
 
 void MainWindow::Event_EnableMenuItems() {
-    for (const QStringView row : {u"EditItem", u"CopyItem", u"DeleteItem"}) {
-        menuBar.DataMenu().Child(row).SetEnabled(menuItemEnable_);
+    for (const QStringView name : {u"EditItem", u"CopyItem", u"DeleteItem"}) {
+        menuBar.DataMenu().Child(name).SetEnabled(menuItemEnable_);
     }
-    for (const QStringView file : {u"FileOpen", u"FileSaveAs"}) {
-        menuBar.FileMenu().Child(file).SetEnabled(false);
-        menuBar.FileMenu().Child(file).SetVisible(false);
+    for (const QStringView name : {u"FileOpen", u"FileSaveAs"}) {
+        menuBar.FileMenu().Child(name).SetEnabled(false);
+        menuBar.FileMenu().Child(name).SetVisible(false);
     }
 }
 
@@ -167,9 +168,10 @@ void MainWindow::EnableRowCommands(bool enabled) {
 }
 
 void MainWindow::MainWindowToolbar_Action(const ToolItem &item) {
-    // The button that leads to the preferences leads back from there.
-    const bool back = item.Word() == u"preferences"_s && PagePanel1.Value() != JournalPage;
-    MenuAction(back ? u"cashbook"_s : item.Word());
+    // The preferences button also leads back to the journal.
+    const bool leavesPreferences =
+        item.Command() == u"preferences"_s && PagePanel1.Value() != JournalPage;
+    MenuAction(leavesPreferences ? u"cashbook"_s : item.Command());
 }
 
 void MainWindow::FileOpen_Action() {

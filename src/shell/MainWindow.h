@@ -17,8 +17,7 @@
 
 class App;
 
-/// The one document window: it puts the rooms together, opens and closes them, and routes the
-/// commands.
+/// The main window: combines the modules, opens and closes them, and dispatches the commands.
 class MainWindow : public QObject {
     Q_OBJECT
 
@@ -26,7 +25,7 @@ public:
     /// The pages of PagePanel1.
     enum Page { JournalPage, PreferencesPage };
 
-    /// An entry of menuBar or MainWindowToolbar with a word that is no command ends the program.
+    /// Aborts the program if an item of menuBar or MainWindowToolbar has an unknown command name.
     explicit MainWindow(App &app);
 
     Selectors selectors;
@@ -43,34 +42,36 @@ public:
     MainMenuBar menuBar;
     MainToolbar MainWindowToolbar;
 
-    /// Runs once, when the window with all its controls is there.
+    /// Called once, after the window and all its controls have been created.
     void Event_Open();
-    /// Runs when the window closes: what has been typed in the preferences is written.
+    /// Called when the window closes. Writes unsaved changes of the preferences.
     void Event_Close();
 
-    /// Runs the command of a word, on whichever page: "new", "edit", "copy", "delete", "print",
-    /// "export", "preferences", "cashbook" and "about". Another word does nothing. What has been
-    /// typed into an open cell is written first. "preferences" enters the preferences page and
-    /// reads it anew from the book, also when it shows already; "cashbook" leaves it and saves the
-    /// company if it was edited.
-    void MenuAction(const QString &word);
-    /// Runs whenever the state of the menus may have changed.
+    /// Runs a command by name, on any page: "new", "edit", "copy", "delete", "print", "export",
+    /// "preferences", "cashbook" or "about". Does nothing for any other name. Text typed into an
+    /// open cell is written first. "preferences" shows the preferences page and loads it from the
+    /// database, even if it is already shown; "cashbook" leaves it and saves the company if it was
+    /// edited.
+    void MenuAction(const QString &name);
+    /// Updates the menu entries; called whenever their state may have changed.
     void Event_EnableMenuItems();
 
-    /// Whether the commands that work on a booking are open: a click in the list opens them, or a
-    /// key on a row of it, and they close when the focus leaves the list.
+    /// Returns whether the commands for the selected booking are enabled. A click in the journal
+    /// list or a key press on one of its rows enables them; they are disabled when the list loses
+    /// the focus.
     bool MenuItemEnable() const { return menuItemEnable_; }
 
 private:
     struct Command {
-        QStringView word;
-        void (*run)(MainWindow &at);
+        QStringView name;
+        void (*run)(MainWindow &window);
     };
     static const Command commands[];
 
-    /// Nothing for a word that is no command.
-    static const Command *Find(const QString &word);
-    static void RequireCommand(const QString &word);
+    /// Returns the command with the name, nullptr if there is none.
+    static const Command *FindCommand(const QString &name);
+    /// Aborts the program if the name is neither empty nor that of a command.
+    static void RequireCommand(const QString &name);
     void AddMenuHandlers();
     void AddMenuHandler(const MenuItem &item);
     void HideMenuEntries();

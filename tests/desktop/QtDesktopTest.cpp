@@ -18,26 +18,26 @@ protected:
     QtDesktop desktop;
 };
 
-TEST_F(QtDesktopTest, ClosesItsBoxesByReturnAndEscape) {
+TEST_F(QtDesktopTest, ClosesDialogsWithReturnAndEscape) {
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
         EXPECT_TRUE(Press(key, [this] { desktop.MsgBox(u"<b>\r\nfehlt"_s); }).contains(u"<b>\nfehlt"_s));
         EXPECT_TRUE(Press(key, [this] { desktop.ShowAboutPanel(); }).contains(u"Über Zolmark"_s));
     }
 }
 
-TEST_F(QtDesktopTest, AsksForANewFileInGerman) {
+TEST_F(QtDesktopTest, ShowsTheSaveDialogInGerman) {
     const SaveAsDialog dialog = {
         FolderItem(QDir::homePath()), u"Speichern als"_s, u"export"_s, {u"TXT-Datei"_s, u".txt"_s}, u"Text"_s};
     std::optional<FolderItem> chosen;
-    const auto ask = [&] { chosen = desktop.ShowModal(dialog); };
-    const QStringList texts = Press(Qt::Key_Return, ask);
+    const auto showDialog = [&] { chosen = desktop.ShowModal(dialog); };
+    const QStringList texts = Press(Qt::Key_Return, showDialog);
     EXPECT_TRUE(texts.contains(u"Speichern als"_s) && texts.contains(u"S&peichern"_s));
     EXPECT_TRUE(chosen && chosen->Path() == QDir::home().filePath(u"export.txt"_s));
-    Press(Qt::Key_Escape, ask);
+    Press(Qt::Key_Escape, showDialog);
     EXPECT_FALSE(chosen);
 }
 
-TEST_F(QtDesktopTest, PrintsIntoAFileWithoutAPrinter) {
+TEST_F(QtDesktopTest, PrintsToAFileWithoutAPrinter) {
     const FolderItem file(QDir::home().filePath(u"Bericht.pdf"_s));
     Press(Qt::Key_Escape, [this] { EXPECT_FALSE(desktop.OpenPrinterDialog(u"Bericht"_s, {})); });
     Press(Qt::Key_Return, [this] { EXPECT_TRUE(desktop.OpenPrinterDialog(u"Bericht"_s, {})); });
@@ -52,7 +52,7 @@ TEST_F(QtDesktopTest, IgnoresARelativeDataFolder) {
     qputenv("XDG_DATA_HOME", before);
 }
 
-/// With an xdg-open of the test's own.
+/// Tests with their own xdg-open.
 class ViewerTest : public QtDesktopTest {
 protected:
     ViewerTest() { qputenv("PATH", tools.path().toUtf8()); }
@@ -69,7 +69,7 @@ protected:
     const QTemporaryDir tools;
 };
 
-TEST_F(ViewerTest, ShowsWhatCannotBeOpened) {
+TEST_F(ViewerTest, ReportsFilesAndAddressesThatCannotBeOpened) {
     for (const QByteArray &opener : {""_ba, "\1no program"_ba, "#!/no/such/interpreter\n"_ba}) {
         if (!opener.isEmpty()) { Install(opener); }
         const auto open = [this] {
@@ -84,7 +84,7 @@ TEST_F(ViewerTest, ShowsWhatCannotBeOpened) {
     }
 }
 
-TEST_F(ViewerTest, LeavesTheViewerToGoOnByItself) {
+TEST_F(ViewerTest, StartsTheViewerDetached) {
     Install("#!/bin/sh\necho $PPID \"$1\" > \"$0.log\"\n");
     desktop.Launch(FolderItem(tools.path()));
     QFile log(tools.filePath(u"xdg-open.log"_s));
@@ -92,5 +92,6 @@ TEST_F(ViewerTest, LeavesTheViewerToGoOnByItself) {
     ASSERT_TRUE(log.open(QIODevice::ReadOnly));
     const QStringList line = QString::fromUtf8(log.readAll()).trimmed().split(u' ');
     EXPECT_EQ(line.value(1), u"file://"_s + tools.path());
-    EXPECT_NE(line.value(0), QString::number(QCoreApplication::applicationPid())) << "a child ends with its parent";
+    EXPECT_NE(line.value(0), QString::number(QCoreApplication::applicationPid()))
+        << "a child process would end with the program";
 }

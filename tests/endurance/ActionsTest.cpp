@@ -2,12 +2,13 @@
 #include "endurance/Endurance.h"
 #include "support/MainWindowTest.h"
 
-/// The main window on a database file of its own, with a user who does anything.
+/// Performs random actions in a main window with its own database file.
 class RandomUser {
 public:
-    using Dice = std::function<int(int)>;
-    explicit RandomUser(Dice dice) : any(std::move(dice)) {
-        env.desktop.paper.emplace();
+    /// Returns a random number from 0 to below its argument.
+    using Random = std::function<int(int)>;
+    explicit RandomUser(Random random) : randomBelow(std::move(random)) {
+        env.desktop.printout.emplace();
         env.desktop.fileToSave = FolderItem(env.desktop.Path(u"export.txt"_s));
         window.Event_Open();
         view.show();
@@ -15,21 +16,21 @@ public:
     }
 
     void Act() {
-        env.desktop.menuChoice = any(2);
-        const int dice = any(20);
-        if (dice < 2) {
+        env.desktop.menuChoice = randomBelow(2);
+        const int action = randomBelow(20);
+        if (action < 2) {
             Submit();
-        } else if (dice < 3) {
+        } else if (action < 3) {
             ChangeRow();
-        } else if (dice < 4) {
+        } else if (action < 4) {
             Choose(Pick<QComboBox *>(view.findChildren<QComboBox *>()));
-        } else if (dice < 6) {
+        } else if (action < 6) {
             Click(*Pick<QTableView *>(view.findChildren<QTableView *>())->viewport());
-        } else if (dice < 8) {
+        } else if (action < 8) {
             Click(*Pick<QWidget *>(view.findChildren<QWidget *>()));
-        } else if (dice < 10) {
+        } else if (action < 10) {
             window.MenuAction(Pick<QString>(commands));
-        } else if (dice < 14) {
+        } else if (action < 14) {
             TypeText(Pick<QString>(texts));
         } else {
             Press(Pick<Qt::Key>(keys), Pick<Qt::KeyboardModifiers>(modifiers));
@@ -40,9 +41,9 @@ public:
         }
     }
 
-    /// Compares the journal, as it shows on its page, with what the shell reads in the file.
+    /// Compares the shown journal with what the shell reads from the file.
     void Check() {
-        ComeBack();
+        RestoreWindow();
         if (window.PagePanel1.Value() != MainWindow::JournalPage) { window.MenuAction(u"cashbook"_s); }
         QStringList shown = {window.balances.OpeningBalanceLabel.Text()};
         for (int row = 0; row < bookings.ListCount(); ++row) {
@@ -51,14 +52,14 @@ public:
         EXPECT_EQ(shown, Stored());
         EXPECT_EQ(window.balances.LastAmountLabel.Text(), bookings.Cell(bookings.LastIndex(), Journal::Balance));
         EXPECT_EQ(env.Value(u"PRAGMA integrity_check"_s), u"ok"_s);
-        // The last is that of a booking which was deleted while it was open for change.
+        // The last one is shown if a booking was deleted while it was being changed.
         static const QRegularExpression known(u"^(Hauptkasse kann nicht gelöscht werden!|"
                                               "DB Error: UNIQUE constraint failed: cash_book.account|"
                                               "DB Error: Der Datensatz ist nicht mehr vorhanden.)$"_s);
         for (const QString &message : env.desktop.TakeMessages().split(u'|', Qt::SkipEmptyParts)) {
             EXPECT_TRUE(known.match(message).hasMatch()) << qPrintable(message);
         }
-        env.desktop.paper->clear();
+        env.desktop.printout->clear();
         env.desktop.opened.clear();
     }
 
@@ -69,23 +70,24 @@ public:
 private:
     template <class Value, class Values>
     Value Pick(const Values &values) {
-        return values[typename Values::size_type(any(int(values.size())))];
+        return values[typename Values::size_type(randomBelow(int(values.size())))];
     }
 
-    /// Closes what is open over the window, and shows the window again if a command has closed it.
-    void ComeBack() {
+    /// Closes all pop-ups, and shows the window again if a command has closed it.
+    void RestoreWindow() {
         while (QWidget *popup = QApplication::activePopupWidget()) { popup->close(); }
         view.show();
         view.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
     }
     void Submit() {
-        ComeBack();
+        RestoreWindow();
         window.MenuAction(u"cashbook"_s);
         window.MenuAction(u"new"_s);
-        const bool isReceipt = any(2) == 0;
-        Fill(u"DateField"_s, u"%1.%2.%3"_s.arg(1 + any(31)).arg(1 + any(12)).arg(2025 + any(3)));
-        Fill(isReceipt ? u"InputField"_s : u"OutputField"_s, u"%1,%2"_s.arg(any(5000)).arg(any(1000)));
+        const bool isReceipt = randomBelow(2) == 0;
+        Fill(u"DateField"_s,
+             u"%1.%2.%3"_s.arg(1 + randomBelow(31)).arg(1 + randomBelow(12)).arg(2025 + randomBelow(3)));
+        Fill(isReceipt ? u"InputField"_s : u"OutputField"_s, u"%1,%2"_s.arg(randomBelow(5000)).arg(randomBelow(1000)));
         Fill(u"CategoryCombo"_s, Pick<QString>(texts));
         Fill(u"NoteField"_s, Pick<QString>(texts));
         Press(Qt::Key_Return, {});
@@ -99,22 +101,27 @@ private:
     void ChangeRow() {
         view.findChild<QTableView *>(u"CashList"_s)->setFocus();
         Press(Qt::Key_Home, {});
-        for (int times = any(9); times > 0; --times) { Press(Qt::Key_Down, {}); }
+        for (int times = randomBelow(9); times > 0; --times) { Press(Qt::Key_Down, {}); }
         window.MenuAction(Pick<QString>(QStringList{u"edit"_s, u"copy"_s, u"delete"_s}));
     }
     void Choose(QComboBox *box) {
         box->setFocus();
-        for (int times = any(3); times >= 0; --times) { Press(any(2) == 0 ? Qt::Key_Down : Qt::Key_Up, {}); }
+        for (int times = randomBelow(3); times >= 0; --times) {
+            Press(randomBelow(2) == 0 ? Qt::Key_Down : Qt::Key_Up, {});
+        }
     }
     void Click(QWidget &widget) {
         if (!widget.isVisible() || widget.size().isEmpty()) { return; }
-        const QPoint place = widget.mapTo(&view, QPoint(any(widget.width()), any(widget.height() / (1 + any(9)) + 1)));
-        const auto button = any(8) == 0 ? Qt::RightButton : Qt::LeftButton;
-        QTest::mouseClick(view.windowHandle(), button, {}, place);
-        QWidget *hit = view.childAt(place);
-        if (hit != nullptr && any(4) == 0) { QTest::mouseDClick(hit, button, {}, hit->mapFrom(&view, place)); }
+        const QPoint position = widget.mapTo(
+            &view, QPoint(randomBelow(widget.width()), randomBelow(widget.height() / (1 + randomBelow(9)) + 1)));
+        const auto button = randomBelow(8) == 0 ? Qt::RightButton : Qt::LeftButton;
+        QTest::mouseClick(view.windowHandle(), button, {}, position);
+        QWidget *hit = view.childAt(position);
+        if (hit != nullptr && randomBelow(4) == 0) {
+            QTest::mouseDClick(hit, button, {}, hit->mapFrom(&view, position));
+        }
     }
-    void Press(Qt::Key key, Qt::KeyboardModifiers with) { QTest::keyClick(view.windowHandle(), key, with); }
+    void Press(Qt::Key key, Qt::KeyboardModifiers heldKeys) { QTest::keyClick(view.windowHandle(), key, heldKeys); }
     static void TypeText(const QString &text) {
         for (const QChar each : text) {
             QKeyEvent press(QEvent::KeyPress, 0, {}, each);
@@ -122,30 +129,30 @@ private:
         }
     }
 
-    /// The condition of the bookings in the selected period.
+    /// Returns the SQL condition for the bookings in the selected period.
     QString Condition() const {
-        const Selectors &at = window.selectors;
-        const QString month = at.MonthPopup.RowTag(at.MonthPopup.ListIndex());
-        return at.CashbookCondition() +
-               u" AND vdate LIKE '%1%'"_s.arg(at.YearPopup.Text() + (month.isEmpty() ? month : u'-' + month));
+        const Selectors &selectors = window.selectors;
+        const QString month = selectors.MonthPopup.RowTag(selectors.MonthPopup.ListIndex());
+        return selectors.CashbookCondition() +
+               u" AND vdate LIKE '%1%'"_s.arg(selectors.YearPopup.Text() + (month.isEmpty() ? month : u'-' + month));
     }
-    /// What the list has to show: the opening balance, and the id and the balance of each booking.
+    /// Returns what the list must show: the opening balance, and the id and the balance of each booking.
     QStringList Stored() const {
-        const Selectors &at = window.selectors;
+        const Selectors &selectors = window.selectors;
         const QString lines = ReadWithShell(
             env.app, u"SELECT id || '|E|' || ifnull(opening_balance, 0) FROM cash_book WHERE id = %1;"
                      "SELECT id || '|' || type || '|' || amount FROM cash_journal WHERE vdate < '%2' AND %3;"
                      "SELECT 'rows';"
                      "SELECT id || '|' || type || '|' || amount FROM cash_journal WHERE %4 ORDER BY vdate, id"_s
-                         .arg(at.SelectedCashbookID())
-                         .arg(at.PeriodStartSQL(), at.CashbookCondition(), Condition()));
+                         .arg(selectors.SelectedCashbookID())
+                         .arg(selectors.PeriodStartSQL(), selectors.CashbookCondition(), Condition()));
         const UserLocale &locale = env.app.Locale();
         Currency balance;
         QStringList stored;
         for (const QString &line : lines.split(u'\n')) {
             const QStringList fields = line.split(u'|');
             const double amount = TLXModule::AmountText2Value(fields.value(2));
-            // A row counts with the cents that it shows.
+            // The balance includes a booking with its amount as shown, rounded to cents.
             const double counted = stored.isEmpty() ? amount : TLXModule::AmountText2Value(locale.FormatAmount(amount));
             balance = balance + Currency::FromDouble(fields.value(1) == u'A' ? -counted : counted);
             const QString text = locale.FormatBalance(balance.ToDouble());
@@ -177,7 +184,7 @@ private:
                                                           Qt::ControlModifier | Qt::ShiftModifier,
                                                           Qt::KeypadModifier};
 
-    Dice any;
+    Random randomBelow;
     TestEnvironment env{TestEnvironment::Storage::File};
     MainWindow window{env.app};
     const Listbox &bookings = window.journal.CashList;
@@ -186,9 +193,9 @@ private:
 
 using Actions = Endurance;
 
-TEST_F(Actions, LeaveListBalancesAndFileInAgreement) {
+TEST_F(Actions, KeepTheListTheBalancesAndTheFileConsistent) {
     Run(1, [this] {
-        RandomUser user([this](int below) { return Any(below); });
+        RandomUser user([this](int limit) { return RandomBelow(limit); });
         for (int i = 1; i <= 800 && !HasFailure(); ++i) {
             SCOPED_TRACE(i);
             user.Act();

@@ -4,7 +4,7 @@
 #include <QDir>
 #include <QRegularExpression>
 
-/// Copies of a book, each damaged in another way, that the program opens and walks through.
+/// Opens randomly damaged copies of a database file and shows all pages.
 class Damage : public Endurance {
 protected:
     QByteArray Bytes() const {
@@ -12,63 +12,63 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
     QByteArray Damaged(QByteArray bytes) {
-        const qsizetype place = Any(int(bytes.size()));
-        switch (Any(4)) {
+        const qsizetype position = RandomBelow(int(bytes.size()));
+        switch (RandomBelow(4)) {
         case 0:
-            return bytes.left(Any(2) == 0 ? place : place / 1024 * 1024);
+            return bytes.left(RandomBelow(2) == 0 ? position : position / 1024 * 1024);
         case 1:
-            return bytes.replace(place, 1000, QByteArray(1 + Any(3000), char(Any(256))));
+            return bytes.replace(position, 1000, QByteArray(1 + RandomBelow(3000), char(RandomBelow(256))));
         default:
-            bytes[place] = char(bytes[place] ^ (1 << Any(8)));
+            bytes[position] = char(bytes[position] ^ (1 << RandomBelow(8)));
             return bytes;
         }
     }
-    struct Look {
-        QString shown, told;
+    struct Page {
+        QString shown, messages;
     };
-    /// Opens the book, and looks at every page of it, at paper and at the export; and what was told meanwhile.
-    std::vector<Look> Looks() {
+    /// Opens the file, shows every page, prints and exports, and returns the contents and messages of each step.
+    std::vector<Page> ShowPages() {
         Program program(desktop);
         MainWindow &window = *program.window;
-        desktop.paper.emplace();
-        std::vector<Look> looks;
-        for (const auto &word : {u""_s, u"print"_s, u"export"_s, u"preferences"_s, u"cashbook"_s}) {
-            window.MenuAction(word);
-            QString shown = desktop.paper->join(u'\n') + window.companyProfile.CompanyField.Text();
+        desktop.printout.emplace();
+        std::vector<Page> pages;
+        for (const auto &command : {u""_s, u"print"_s, u"export"_s, u"preferences"_s, u"cashbook"_s}) {
+            window.MenuAction(command);
+            QString shown = desktop.printout->join(u'\n') + window.companyProfile.CompanyField.Text();
             for (const Listbox *list : {&window.journal.CashList, &window.accountingExport.ExportList,
                                         &window.cashBooks.CashbookList, &window.bookingAccounts.CashaccountList}) {
                 shown += list->Cell(-1, -1);
             }
-            looks.push_back({shown, desktop.TakeMessages()});
+            pages.push_back({shown, desktop.TakeMessages()});
         }
-        return looks;
+        return pages;
     }
 
     FakeDesktop desktop;
     const QString path = App(desktop, UserLocale(QLocale())).DefaultDatabaseFile().Path();
 };
 
-TEST_F(Damage, IsToldBeforeAnythingElseIsShownAndMadeNoWorse) {
+TEST_F(Damage, IsReportedAndLeftUnchanged) {
     for (int i = 0; i < 30; ++i) {
-        // A long note goes on in pages that only who reads the note reads.
+        // A long note continues on overflow pages, which are read only with the note.
         Program(desktop).Submit(u"R%1"_s.arg(i), QString::number(i), i % 2 * 3000);
     }
-    const QByteArray sound = Bytes();
-    const std::vector<Look> before = Looks();
+    const QByteArray undamaged = Bytes();
+    const std::vector<Page> before = ShowPages();
     Run(170, [&] {
-        const QByteArray damaged = Damaged(sound);
+        const QByteArray damaged = Damaged(undamaged);
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(damaged) == damaged.size());
         file.close();
         QStringList messages;
-        const std::vector<Look> looks = Looks();
-        for (size_t look = 0; look < looks.size(); ++look) {
-            messages += looks[look].told.split(u'|', Qt::SkipEmptyParts);
-            EXPECT_TRUE(!messages.empty() || looks[look].shown == before[look].shown) << look;
+        const std::vector<Page> pages = ShowPages();
+        for (size_t page = 0; page < pages.size(); ++page) {
+            messages += pages[page].messages.split(u'|', Qt::SkipEmptyParts);
+            EXPECT_TRUE(!messages.empty() || pages[page].shown == before[page].shown) << page;
         }
         EXPECT_EQ(messages.filter(QRegularExpression(u"^DB (Connection )?Error: ."_s)), messages);
         EXPECT_EQ(Bytes(), damaged);
         EXPECT_EQ(QDir(QFileInfo(path).path()).entryList(QDir::Files).size(), 1);
-        ++counts[messages.empty() ? "shown whole" : "told"];
+        ++counts[messages.empty() ? "unaffected" : "reported"];
     });
 }

@@ -8,9 +8,9 @@
 #include <map>
 #include <random>
 
-/// A test of many rounds, ENDURANCE_TIMES as many, each with random numbers of its own: the ENDURANCE_SEED that a
-/// failure names repeats its round as the first. It ends with a line: name, rounds, counts, and the rounds with a
-/// finding.
+/// A randomized test. ENDURANCE_TIMES multiplies the number of rounds. Each round has its own random seed; a failure
+/// shows it, and ENDURANCE_SEED repeats the round as the first one. Run() prints a line at its end: the name of the
+/// test, the rounds, the counts, and the number of rounds with a failure.
 class Endurance : public testing::Test {
 protected:
     template <typename Round>
@@ -27,20 +27,21 @@ protected:
             findings += int(test.result()->total_part_count() > before);
         }
         std::cout << "endurance\t" << test.test_suite_name() << '.' << test.name() << '\t' << rounds;
-        for (const char *between = "\t"; const auto &[what, count] : counts) {
-            std::cout << std::exchange(between, ", ") << count << ' ' << what;
+        for (const char *separator = "\t"; const auto &[name, count] : counts) {
+            std::cout << std::exchange(separator, ", ") << count << ' ' << name;
         }
         std::cout << '\t' << findings << std::endl;
     }
 
-    int Any(int below) { return static_cast<int>(random() % static_cast<unsigned>(below)); }
+    /// Returns a random number from 0 to below the limit.
+    int RandomBelow(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
 
     std::mt19937 random;
-    /// What is counted besides the rounds.
+    /// Further counts for the printed line, by name.
     std::map<std::string, int> counts;
 
 private:
-    static int Setting(const char *name, int otherwise) {
-        return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : otherwise;
+    static int Setting(const char *name, int defaultValue) {
+        return qEnvironmentVariableIsSet(name) ? qEnvironmentVariableIntValue(name) : defaultValue;
     }
 };

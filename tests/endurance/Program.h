@@ -3,8 +3,8 @@
 #include "setup/WelcomeWindow.h"
 #include "support/TestEnvironment.h"
 
-/// The program from its start, without a widget: the welcome window makes a book if there is none, and opens the main
-/// window. What fails is told by the desktop's messages.
+/// The program from its start, without widgets: the welcome window creates a database file if none exists, and opens
+/// the main window. Failures are shown as messages of the desktop.
 class Program {
 public:
     explicit Program(FakeDesktop &desktop) : app(desktop, UserLocale(QLocale(QLocale::German, QLocale::Germany))) {
@@ -19,7 +19,7 @@ public:
         }
     }
 
-    /// Books a receipt under a voucher number, with a note of so many times that number.
+    /// Adds a receipt with a voucher number, and with a note that repeats the number so many times.
     void Submit(const QString &number, const QString &amount, int times = 1) {
         EntryRow &row = window->entryRow;
         row.InputField.SetText(amount);
@@ -39,7 +39,7 @@ public:
         window->MenuAction(u"delete"_s);
     }
 
-    /// All bookings in the order of the list; each as Line tells it if it is complete.
+    /// Returns all bookings in the order of their ids, each in the format of Line(), or as "half" if it is incomplete.
     QStringList Stored() const {
         return Lines(u"SELECT CASE WHEN replace(note, salesnumber, '') = '' AND vdate || tax || category || "
                      "cashbookID || bdate || account > '' THEN salesnumber || '|' || type || '|' || "
@@ -49,8 +49,8 @@ public:
     static QString Line(const QString &number, const QString &amount, int times) {
         return u"%1|E|%2|%2|%3"_s.arg(number, amount).arg(number.size() * times);
     }
-    /// Whether the engine finds the whole file in order; SQLCipher 4 names each page that is not.
-    bool IsSound() const {
+    /// Returns whether the file passes SQLCipher's integrity checks; version 4 also lists each damaged page.
+    bool IsIntact() const {
         return Lines(u"PRAGMA integrity_check"_s).join(u' ') == u"ok" &&
                Lines(u"PRAGMA cipher_integrity_check"_s).isEmpty();
     }

@@ -2,9 +2,9 @@
 
 using BalancesTest = EnvironmentTest;
 
-TEST_F(BalancesTest, CarryEarlierBookingsIntoThePeriodAndSumATypeOverAllCashBooks) {
+TEST_F(BalancesTest, IncludeEarlierBookingsAndSumTypesOverAllCashBooks) {
     env.Add({u"2024-12-31"_s, u"E"_s, u"50"_s});
-    env.Add({u"2024-11-30"_s, u"EX"_s, u"7"_s}); // Of no known type: it does not count.
+    env.Add({u"2024-11-30"_s, u"EX"_s, u"7"_s}); // An unknown type, which is not counted.
     env.Add({u"2026-01-31"_s, u"a"_s, u"150"_s});
     env.Add({u"2026-02-01"_s, u"E"_s, u"0.1"_s});
     env.Add({u"2026-03-31"_s, u"A"_s, u"0.75"_s});

@@ -14,7 +14,7 @@ protected:
         row.OutputField.SetText(amount);
         category.SetText(u"Porto"_s);
     }
-    /// Columns of the last booking, one after the other.
+    /// Returns columns of the last booking, separated by vertical bars.
     QString Columns(const QString &columns) const {
         return env.Value(
             u"SELECT %1 FROM cash_journal ORDER BY id DESC LIMIT 1"_s.arg(columns.split(u' ').join(u" || '|' || "_s)));
@@ -25,7 +25,7 @@ protected:
     ComboBox &category = row.pickLists.CategoryCombo;
 };
 
-TEST_F(EntryRowTest, WritesEveryColumnOfAReceiptAndOfAnExpense) {
+TEST_F(EntryRowTest, WritesAllColumnsOfAReceiptAndAnExpense) {
     row.SaleNumberField.SetText(u"R-1"_s);
     row.NoteField.SetText(u"'); DROP TABLE cash_journal; -- %1 \"\u202e\U0001F469\u200D"_s);
     Submit(u"12,50"_s);
@@ -39,7 +39,7 @@ TEST_F(EntryRowTest, WritesEveryColumnOfAReceiptAndOfAnExpense) {
               "2|2026-03-16|A|NULL|3|3.0|9|Porto|||1|2026-03-15 12:00:00|4910|real|null|integer|text"_s);
 }
 
-TEST_F(EntryRowTest, KeepsAnyAmountAsTypedAndShowsTheNumberAtItsStart) {
+TEST_F(EntryRowTest, StoresAmountsAsTypedAndShowsTheLeadingNumber) {
     struct Case {
         QString typed, stored, type, shown, balance, hint;
     };
@@ -54,7 +54,7 @@ TEST_F(EntryRowTest, KeepsAnyAmountAsTypedAndShowsTheNumberAtItsStart) {
         row.InputField.SetText(each.typed);
         EXPECT_EQ(row.InputField.Hint(), each.hint);
         Submit(each.typed);
-        EXPECT_EQ(row.InputField.Hint(), QString()) << "of the emptied row";
+        EXPECT_EQ(row.InputField.Hint(), QString()) << "no hint after the row was cleared";
         EXPECT_EQ(Columns(u"input"_s), each.stored);
         EXPECT_EQ(Columns(u"typeof(amount)"_s), each.type) << qPrintable(each.typed);
         EXPECT_EQ(bookings.Cell(-1, Journal::Input), each.shown);
@@ -63,7 +63,7 @@ TEST_F(EntryRowTest, KeepsAnyAmountAsTypedAndShowsTheNumberAtItsStart) {
     }
 }
 
-TEST_F(EntryRowTest, SaysTheLastThingThatIsMissingAndSavesNothing) {
+TEST_F(EntryRowTest, ReportsInvalidInputAndSavesNothing) {
     struct Case {
         QString date, amount, tax, category, message;
     };
@@ -84,29 +84,29 @@ TEST_F(EntryRowTest, SaysTheLastThingThatIsMissingAndSavesNothing) {
         EXPECT_EQ(category.Text(), each.category);
         EXPECT_TRUE(row.ErrorRect.Visible());
     }
-    row.SubmitButton.Press(); // A refused day is asked for once; the day before it is the first.
+    row.SubmitButton.Press(); // An invalid date is reported only once; the date before it, 1 January, is saved.
     EXPECT_EQ(Columns(u"id vdate tax category account"_s), u"1|2026-01-01|0|frei|"_s);
     EXPECT_FALSE(row.ErrorRect.Visible());
 }
 
-TEST_F(EntryRowTest, TellsACategoryWithoutAnAccountAndTheSideThatIsEntered) {
+TEST_F(EntryRowTest, ShowsAMissingAccountAndTheTypeOfBooking) {
     category.SetText(u"frei"_s);
-    EXPECT_EQ(category.Hint(), QString()) << "of no side yet";
+    EXPECT_EQ(category.Hint(), QString()) << "no amount was entered yet";
     row.InputField.SetText(u"1"_s);
     EXPECT_EQ(category.Hint(), u"ohne Konto"_s);
     category.SetText(u"erlöse 19% ust"_s);
-    EXPECT_EQ(category.Hint() + row.CategoryLabel.SpokenText(), u"Art der Einnahme"_s);
+    EXPECT_EQ(category.Hint() + row.CategoryLabel.AccessibleName(), u"Art der Einnahme"_s);
     row.InputField.SetText({});
     category.SetText(u"frei"_s);
     Q_EMIT row.OutputField.GotFocus();
-    EXPECT_EQ(category.Hint() + row.CategoryLabel.SpokenText(), u"Art der Ausgabe"_s);
+    EXPECT_EQ(category.Hint() + row.CategoryLabel.AccessibleName(), u"Art der Ausgabe"_s);
     Q_EMIT row.InputField.GotFocus();
     TypeExpense(u"2"_s);
-    EXPECT_EQ(row.CategoryLabel.Text() + category.Hint() + row.CategoryLabel.SpokenText(),
+    EXPECT_EQ(row.CategoryLabel.Text() + category.Hint() + row.CategoryLabel.AccessibleName(),
               u"Art der EinnahmeArt der Ausgabe"_s);
 }
 
-TEST_F(EntryRowTest, LocksTheOtherAmountAndOffersItsSide) {
+TEST_F(EntryRowTest, DisablesTheOtherAmountAndListsMatchingAccounts) {
     env.Run(u"UPDATE cash_accounts SET name = 'Äpfel' WHERE name = 'Privateinlagen'"_s);
     row.InputField.SetText(u"1"_s);
     EXPECT_EQ(category.List(0), u"Äpfel"_s);
@@ -116,10 +116,10 @@ TEST_F(EntryRowTest, LocksTheOtherAmountAndOffersItsSide) {
     row.InputField.SetText({});
     row.OutputField.SetText(u"1"_s);
     EXPECT_FALSE(row.InputField.Enabled());
-    EXPECT_EQ(tax.Text() + category.Text(), u"19% VSt."_s) << "no account of the other side";
+    EXPECT_EQ(tax.Text() + category.Text(), u"19% VSt."_s) << "the account of the other type is cleared";
 }
 
-TEST_F(EntryRowTest, BooksIntoTheCashBookThatWasMeantOrNowhere) {
+TEST_F(EntryRowTest, SavesOnlyIntoTheSelectedCashBook) {
     env.Run(u"INSERT INTO cash_book (name, account) VALUES ('Laden', '1010')"_s);
     row.NewSale();
     window.selectors.CashbookPopup.SetListIndex(1);
@@ -130,7 +130,7 @@ TEST_F(EntryRowTest, BooksIntoTheCashBookThatWasMeantOrNowhere) {
         env.Break(tables[0]);
         row.NewSale();
         bookings.SetListIndex(0);
-        row.EditSale(EntryRow::EditMode::Change); // Of the booking from the first time.
+        row.EditSale(EntryRow::EditMode::Change); // In the second round: the booking of the first round.
         EXPECT_EQ(env.desktop.TakeMessages(), failure);
     };
     QString typed = u"5"_s;
@@ -141,21 +141,21 @@ TEST_F(EntryRowTest, BooksIntoTheCashBookThatWasMeantOrNowhere) {
         button->Press();
         EXPECT_EQ(row.ErrorLabel.Text(), u"Bitte eine Kasse auswählen!"_s);
         EXPECT_EQ(row.InputField.Text(), typed);
-        EXPECT_EQ(env.desktop.TakeMessages(), failure) << "the lists were read again";
+        EXPECT_EQ(env.desktop.TakeMessages(), failure) << "the lists are loaded again";
         env.Show(tables);
         button->Press();
         EXPECT_EQ(Columns(u"id cashbookID amount"_s), u"1|2|%1.0"_s.arg(typed));
         typed = u"7"_s;
     }
-    for (const auto &word : {u"print"_s, u"export"_s}) {
+    for (const auto &command : {u"print"_s, u"export"_s}) {
         failToLoad();
         env.Show(tables);
-        window.MenuAction(word);
+        window.MenuAction(command);
         EXPECT_EQ(window.selectors.CashbookPopup.Text() + window.selectors.YearPopup.Text(), u"1010:Laden2026"_s);
     }
 }
 
-TEST_F(EntryRowTest, OffersNothingOfTheOtherSideWhenTheListsCannotBeRead) {
+TEST_F(EntryRowTest, ClearsThePickListsWhenTheyCannotBeRead) {
     const QStringList tables = {u"cash_tax"_s, u"cash_accounts"_s};
     row.InputField.SetText(u"1"_s);
     category.SetText(u"Erlöse 7% USt"_s);
@@ -172,7 +172,7 @@ TEST_F(EntryRowTest, OffersNothingOfTheOtherSideWhenTheListsCannotBeRead) {
     EXPECT_EQ(Columns(u"type tax category account"_s), u"A|9|Porto|4910"_s);
 }
 
-TEST_F(EntryRowTest, TakesTheViewToTheFirstBookingOfANewYear) {
+TEST_F(EntryRowTest, ShowsThePeriodOfTheFirstBookingOfANewYear) {
     Submit(u"1"_s);
     row.DateField.SetDateValue(Date(QDate(2027, 2, 3)));
     Submit(u"2"_s);
@@ -180,7 +180,7 @@ TEST_F(EntryRowTest, TakesTheViewToTheFirstBookingOfANewYear) {
     EXPECT_EQ(bookings.Cell(-1, Journal::Balance), u"103,00"_s);
 }
 
-/// The entry row on another day than the selected booking, and some time after its entry.
+/// A selected booking, with another date in the entry row and a later clock.
 class ChangeTest : public EntryRowTest {
 protected:
     ChangeTest() {
@@ -198,7 +198,7 @@ protected:
     }
 };
 
-TEST_F(ChangeTest, RewritesTheBookingAndKeepsItsDayItsEntryTimeAndItsOldSide) {
+TEST_F(ChangeTest, KeepsTheDateTheEntryTimeAndTheReplacedAmount) {
     Q_EMIT bookings.DoubleClick();
     EXPECT_EQ(row.InputField.Text(), u"10,00"_s);
     row.InputField.SetText({});
@@ -209,7 +209,7 @@ TEST_F(ChangeTest, RewritesTheBookingAndKeepsItsDayItsEntryTimeAndItsOldSide) {
     EXPECT_EQ(bookings.Cell(-1, Journal::Balance), u"79,50"_s);
 }
 
-TEST_F(ChangeTest, ACopyFromTheMenuBecomesANewBooking) {
+TEST_F(ChangeTest, SavesACopyAsANewBooking) {
     MenuItem menu;
     Q_EMIT bookings.ConstructContextualMenu(menu);
     EXPECT_EQ(menu.Item(0).Text() + menu.Item(2).Text(), u"BearbeitenLöschen"_s);
@@ -219,7 +219,7 @@ TEST_F(ChangeTest, ACopyFromTheMenuBecomesANewBooking) {
               u"2|2026-03-15|10.00|alt|Erlöse 19% USt|2026-04-01 08:00:00"_s);
 }
 
-TEST_F(ChangeTest, KeepsTheNameOfASwitchedOffAccountAndAsksForASwitchedOffTax) {
+TEST_F(ChangeTest, KeepsAnInactiveAccountAndRejectsAnInactiveTax) {
     env.Run(u"UPDATE cash_accounts SET active = 0 WHERE account = '8400'"_s);
     Change();
     EXPECT_EQ(Columns(u"category account"_s), u"Erlöse 19% USt|"_s);

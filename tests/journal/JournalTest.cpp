@@ -2,7 +2,7 @@
 
 using JournalTest = EnvironmentTest;
 
-TEST_F(JournalTest, ListsWhateverTheBookHoldsInOrderOfDateAndEntry) {
+TEST_F(JournalTest, ListsAnyStoredBookingByDateAndId) {
     env.Add({u"2026-03-15"_s, u"E"_s, u"10"_s, u"0"_s, u"Privateinlagen"_s});
     env.Add({u"2026-01-31"_s, u"e"_s, u"12,50"_s, u"3"_s, u"Erlöse"_s, u"1"_s, u"8400"_s, u"07"_s, u"a\nb"_s});
     env.Add({u"2026-03-15"_s, u"x"_s, u"5"_s, u"8"_s, u""_s});
@@ -21,7 +21,7 @@ TEST_F(JournalTest, ListsWhateverTheBookHoldsInOrderOfDateAndEntry) {
                                      "15.03.2026\t\t0,00\tkeine\t\t\t\t1118,51"_s);
 }
 
-TEST_F(JournalTest, TellsAFailedLoadOnceAndBalancesNoRowsOfAnotherYear) {
+TEST_F(JournalTest, ReportsAFailedLoadOnceAndKeepsTheBalances) {
     env.Add({u"2026-01-01"_s, u"E"_s, u"1"_s});
     env.Add({u"2025-01-01"_s, u"E"_s, u"20"_s});
     window.Event_Open();
@@ -31,7 +31,7 @@ TEST_F(JournalTest, TellsAFailedLoadOnceAndBalancesNoRowsOfAnotherYear) {
     EXPECT_EQ(window.balances.OpeningBalanceLabel.Text() + bookings.Cell(0, Journal::Balance), u"120,00121,00"_s);
     env.Show({u"cash_tax"_s});
     env.Hide({u"cash_journal"_s});
-    // Whoever reads the amount of the second booking, which is of the year before, fails.
+    // Reading the amount of the second booking, which is of the previous year, fails.
     env.Run(
         u"CREATE VIEW cash_journal AS SELECT *, abs(-9223372036854775806 - id) AS amount FROM "
         "(SELECT id, vdate, type, tax, category, salesnumber, note, cashbookID, account FROM hidden_cash_journal)"_s);
@@ -40,7 +40,7 @@ TEST_F(JournalTest, TellsAFailedLoadOnceAndBalancesNoRowsOfAnotherYear) {
               u"DB Error: integer overflow120,00"_s);
 }
 
-TEST_F(JournalTest, TakesTheFirstCashBookForTheMainOneWhateverItsTag) {
+TEST_F(JournalTest, TreatsTheFirstCashBookAsTheMainOneWhateverItsId) {
     env.Run(u"UPDATE cash_book SET id = 7"_s);
     env.Run(u"INSERT INTO cash_book VALUES (9, 'Laden', '1010', '12,50', 'bald', NULL)"_s);
     env.Add({u"2026-01-01"_s, u"E"_s, u"1"_s});

@@ -11,7 +11,7 @@ protected:
         accounts.LoadCashAccounts();
     }
 
-    /// Columns of all accounts, in the order of their ids, as the database holds them.
+    /// Returns columns of all stored accounts, in the order of their ids.
     QString Stored(const QString &columns) const {
         return env.Value(u"SELECT group_concat(ifnull(%1, 'NULL'), ' ') FROM cash_accounts"_s.arg(columns));
     }
@@ -22,7 +22,7 @@ protected:
     TLXPlusMinusButton &button = accounts.AccountsAdd;
 };
 
-TEST_F(BookingAccountsTest, ListsThemByNameAndSortsByTheCheckBothWays) {
+TEST_F(BookingAccountsTest, ListsByNameAndSortsByTheCheckBox) {
     EXPECT_EQ(list.Cell(-1, -1), u"A\t\tE\t\nb\t4711\tE\t\nölig\t0815\tA\t"_s);
     list.SetListIndex(2);
     for (const auto &names : {u"A\nb\nölig"_s, u"ölig\nA\nb"_s}) {
@@ -32,7 +32,7 @@ TEST_F(BookingAccountsTest, ListsThemByNameAndSortsByTheCheckBothWays) {
     }
 }
 
-TEST_F(BookingAccountsTest, WritesTheOpenCellIntoItsOwnRowBeforeTheRowsChange) {
+TEST_F(BookingAccountsTest, SavesTheOpenCellToItsRowBeforeRowsChange) {
     const std::function<void()> changes[] = {[this] { accounts.LoadCashAccounts(); }, [this] { list.SetListIndex(0); },
                                              [this] { list.SetListIndex(-1); },       [this] { list.EditCell(0, 0); },
                                              [this] { list.ToggleCheck(0, 3); },      [this] { list.PressHeading(0); }};
@@ -46,13 +46,13 @@ TEST_F(BookingAccountsTest, WritesTheOpenCellIntoItsOwnRowBeforeTheRowsChange) {
     }
 }
 
-TEST_F(BookingAccountsTest, ChoosesTheKindFromAMenu) {
+TEST_F(BookingAccountsTest, ChoosesTheTypeFromAMenu) {
     const auto choose = [this](int row, std::optional<int> choice, int column = BookingAccounts::Kind) {
-        bool taken = false;
+        bool handled = false;
         env.desktop.menuChoice = choice;
-        Q_EMIT list.MouseDown(row, column, taken);
+        Q_EMIT list.MouseDown(row, column, handled);
         Q_EMIT list.MouseUp(row, column);
-        EXPECT_EQ(taken, column == BookingAccounts::Kind);
+        EXPECT_EQ(handled, column == BookingAccounts::Kind);
         return Stored(u"type"_s);
     };
     EXPECT_EQ(choose(1, std::nullopt), u"A E E"_s);
@@ -63,7 +63,7 @@ TEST_F(BookingAccountsTest, ChoosesTheKindFromAMenu) {
     EXPECT_EQ(list.Cell(-1, BookingAccounts::Kind), u"A\nE\nE"_s);
 }
 
-TEST_F(BookingAccountsTest, PlusOpensTheNewNameAtItsPlaceAndMinusRemoves) {
+TEST_F(BookingAccountsTest, AddsWithPlusAndRemovesWithMinus) {
     list.EditCell(0, BookingAccounts::Name);
     list.SetEditText(u"Zins"_s);
     Q_EMIT button.PlusPressed();
@@ -72,6 +72,6 @@ TEST_F(BookingAccountsTest, PlusOpensTheNewNameAtItsPlaceAndMinusRemoves) {
     EXPECT_EQ(Stored(u"name || type || active"_s), u"öligA1 bE0 NULL Neues KontoE1"_s);
     list.SetListIndex(3);
     Q_EMIT button.MinusPressed();
-    Q_EMIT button.MinusPressed(); // Nothing is selected now.
+    Q_EMIT button.MinusPressed(); // No row is selected now.
     EXPECT_EQ(Stored(u"name"_s), u"ölig b Neues Konto"_s);
 }

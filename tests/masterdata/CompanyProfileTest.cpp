@@ -2,7 +2,7 @@
 
 #include "support/TestEnvironment.h"
 
-TEST(CompanyProfile, WritesEachFieldIntoItsColumnAndLeavesTheRestAlone) {
+TEST(CompanyProfile, WritesEachFieldOnlyToItsColumn) {
     TestEnvironment env;
     env.Run(u"UPDATE core_company SET countryID = 49, taxnumber = '7'"_s);
     CompanyProfile profile(env.app);

@@ -6,15 +6,15 @@ protected:
         env.Run(u"UPDATE core_company SET company = 'Holz & Söhne', department = 'Werkstatt', "
                 "street = 'Am Markt 1', city = 'Köln'"_s);
         window.Event_Open();
-        env.desktop.paper.emplace();
+        env.desktop.printout.emplace();
     }
     QStringList Print() {
         window.MenuAction(u"print"_s);
-        return *std::exchange(env.desktop.paper, QStringList());
+        return *std::exchange(env.desktop.printout, QStringList());
     }
 };
 
-TEST_F(CashReportTest, DrawsWhatTheJournalShowsAndTheTotals) {
+TEST_F(CashReportTest, PrintsTheJournalAndTheTotals) {
     const QString wood = u"Erlöse aus dem Verkauf von Holz"_s;
     env.Add({u"2026-03-01"_s, u"E"_s, u"119"_s, u"3"_s, wood, u"1"_s, {}, u"17"_s, u"bar"_s});
     env.Add({u"2026-03-02"_s, u"A"_s, u"1234567.5"_s, u"0"_s});
@@ -42,7 +42,7 @@ TEST_F(CashReportTest, DrawsWhatTheJournalShowsAndTheTotals) {
     EXPECT_EQ(drawn, QStringList());
 }
 
-TEST_F(CashReportTest, EndsAPageAfterItsLastLine) {
+TEST_F(CashReportTest, BreaksThePageAfterItsLastLine) {
     struct Case {
         int rows;
         qsizetype pages;
@@ -64,6 +64,6 @@ TEST_F(CashReportTest, EndsAPageAfterItsLastLine) {
         EXPECT_TRUE(rows.value(each.rows - 1).endsWith(each.lastRow)) << each.rows;
         EXPECT_TRUE(drawn.filter(u"Anfangsbestand"_s).value(0).endsWith(each.totals)) << each.rows;
         EXPECT_EQ(drawn.count(u"next page"_s) + 1, each.pages) << each.rows;
-        EXPECT_EQ(drawn.filter(u"Sonntag, 15. März"_s).size(), each.pages) << "each page has its head";
+        EXPECT_EQ(drawn.filter(u"Sonntag, 15. März"_s).size(), each.pages) << "each page has a header";
     }
 }

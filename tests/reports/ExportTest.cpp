@@ -18,7 +18,7 @@ protected:
     const QString path = env.desktop.Path(u"export.txt"_s);
 };
 
-TEST_F(ExportTest, WritesTheYearOfTheCashBookByteForByte) {
+TEST_F(ExportTest, WritesTheYearOfTheSelectedCashBook) {
     env.Run(u"INSERT INTO cash_book (id, name, account) VALUES ('7', 'Laden', '1010')"_s);
     env.Run(u"INSERT INTO cash_journal (vdate, type, amount, tax, category, salesnumber, note, "
             "cashbookID, account) VALUES "
@@ -35,14 +35,14 @@ TEST_F(ExportTest, WritesTheYearOfTheCashBookByteForByte) {
     EXPECT_EQ(Export(), headings + "01.05.2026;2,00;3;19% USt.;;;1010;;EUR;;");
 }
 
-TEST(Export, RefusesTheOpenBookAsItsFile) {
+TEST(Export, RejectsTheOpenDatabaseAsItsFile) {
     TestEnvironment env(TestEnvironment::Storage::File);
     MainWindow window(env.app);
     window.Event_Open();
-    const QString place = env.app.DefaultDatabaseFile().Path();
+    const QString databasePath = env.app.DefaultDatabaseFile().Path();
     const QString link = env.desktop.Path(u"link.txt"_s);
-    ASSERT_TRUE(QFile::link(place, link));
-    for (const QString &path : {place, link}) {
+    ASSERT_TRUE(QFile::link(databasePath, link));
+    for (const QString &path : {databasePath, link}) {
         env.desktop.fileToSave = FolderItem(path);
         window.MenuAction(u"export"_s);
         EXPECT_EQ(env.desktop.TakeMessages(),
@@ -50,5 +50,5 @@ TEST(Export, RefusesTheOpenBookAsItsFile) {
     }
     EXPECT_EQ(ReadWithShell(env.app, u"SELECT company FROM core_company"_s), u"Muster"_s);
     window.MenuAction(u"print"_s);
-    EXPECT_TRUE(env.desktop.notToPrintInto && env.desktop.notToPrintInto->Path() == place);
+    EXPECT_TRUE(env.desktop.protectedFile && env.desktop.protectedFile->Path() == databasePath);
 }

@@ -7,23 +7,25 @@
 
 #include <sys/stat.h>
 
-/// A first start, and the roads through the window's controls to a book.
+/// The first start, before a database file exists.
 class WelcomeWindowTest : public testing::Test {
 protected:
     WelcomeWindowTest() { welcome.Event_Open(); }
 
     QString Read(const QString &sql) const { return ReadWithShell(app, sql); }
-    QString Files() const { return QDir(place.Parent().Path()).entryList(QDir::Files | QDir::Hidden).join(u' '); }
-    /// What the window has signalled and told since the last time.
-    QString Told() { return log.Take() + desktop.TakeMessages(); }
+    QString Files() const {
+        return QDir(databaseFile.Parent().Path()).entryList(QDir::Files | QDir::Hidden).join(u' ');
+    }
+    /// Returns the signals and messages since the last call.
+    QString TakeEvents() { return log.Take() + desktop.TakeMessages(); }
 
     FakeDesktop desktop;
     App app{desktop, UserLocale(QLocale::c())};
     WelcomeWindow welcome{app};
     EventLog log{welcome};
-    const FolderItem place = app.DefaultDatabaseFile();
-    const QString made = u"MainWindowRequested Closed"_s;
-    const QString cannot = u"Die Datenbank konnte nicht erstellt werden: "_s;
+    const FolderItem databaseFile = app.DefaultDatabaseFile();
+    const QString success = u"MainWindowRequested Closed"_s;
+    const QString failure = u"Die Datenbank konnte nicht erstellt werden: "_s;
 };
 
 TEST_F(WelcomeWindowTest, ShowsAPictureOnEachButton) {
@@ -37,10 +39,10 @@ TEST_F(WelcomeWindowTest, ShowsAPictureOnEachButton) {
                                   u"48_address-book.png 14 26"_s, u"welcome_image.png 0 0"_s}));
 }
 
-TEST_F(WelcomeWindowTest, MakesTheSampleBookInMemoryAlone) {
+TEST_F(WelcomeWindowTest, CreatesTheSampleDatabaseInMemory) {
     desktop.now = Date(QDate(2031, 7, 1));
     Q_EMIT welcome.DemoCanvas.MouseDown(1, 1);
-    EXPECT_TRUE(Told().startsWith(made + u"In der Demo werden "_s));
+    EXPECT_TRUE(TakeEvents().startsWith(success + u"In der Demo werden "_s));
     MainWindow window(app);
     window.Event_Open();
     const Listbox &bookings = window.journal.CashList;
@@ -49,7 +51,7 @@ TEST_F(WelcomeWindowTest, MakesTheSampleBookInMemoryAlone) {
     EXPECT_FALSE(desktop.ApplicationData().Exists());
 }
 
-TEST_F(WelcomeWindowTest, MakesABookWithTheChosenChart) {
+TEST_F(WelcomeWindowTest, CreatesADatabaseWithTheSelectedChart) {
     struct Case {
         int row;
         QString account, chart, accounts;
@@ -63,79 +65,80 @@ TEST_F(WelcomeWindowTest, MakesABookWithTheChosenChart) {
     for (const Case &each : cases) {
         welcome.AccountsPopup.SetListIndex(each.row);
         welcome.SaveButton.Press();
-        EXPECT_EQ(Told(), made);
+        EXPECT_EQ(TakeEvents(), success);
         EXPECT_EQ(Read(u"SELECT company, department, lastname, street FROM core_company"_s),
                   u"Müller & Söhne \"Holz\"||Werkstatt|"_s);
         EXPECT_EQ(Read(u"SELECT cb.*, account_frame FROM cash_book cb, core_company"_s),
                   u"1|Kasse|%1|12.5|2026-01-01||%2"_s.arg(each.account, each.chart));
         EXPECT_EQ(Read(u"SELECT count(*), max(frameID) FROM cash_accounts"_s), each.accounts);
         app.NewDatabase();
-        EXPECT_TRUE(place.Delete());
+        EXPECT_TRUE(databaseFile.Delete());
     }
 }
 
-TEST_F(WelcomeWindowTest, KeepsThePageAndWhatWasTypedUntilAllIsThere) {
+TEST_F(WelcomeWindowTest, KeepsThePageUntilTheInputIsComplete) {
     EventLog nameLog(welcome.CompanyField);
     Q_EMIT welcome.NewCanvas.MouseDown(1, 1);
     EXPECT_EQ(nameLog.Take(), u"FocusRequested"_s);
     welcome.ForwardButton.Press();
-    EXPECT_EQ(Told(), u"Bitte geben Sie einen Firmannamen an"_s);
+    EXPECT_EQ(TakeEvents(), u"Bitte geben Sie einen Firmannamen an"_s);
     welcome.CompanyField.SetText(u" "_s);
     welcome.ForwardButton.Press();
     for (TextField *field : {&welcome.AccountNameField, &welcome.AccountField, &welcome.OpeningBalanceField}) {
         const QString text = field->Text();
         field->SetText(u""_s);
         welcome.SaveButton.Press();
-        EXPECT_EQ(Told(), u"Bitte füllen Sie alle Felder aus: \r\r- Kassenbezeichnung\r- Konto\r- Anfangsbestand"_s);
+        EXPECT_EQ(TakeEvents(),
+                  u"Bitte füllen Sie alle Felder aus: \r\r- Kassenbezeichnung\r- Konto\r- Anfangsbestand"_s);
         field->SetText(text);
     }
     EXPECT_FALSE(welcome.OpeningDate.SetTyped(u"31.02."_s));
     EventLog dateLog(welcome.OpeningDate);
     welcome.SaveButton.Press();
-    EXPECT_EQ(Told() + dateLog.Take(), u"Bitte das Datum prüfen!FocusRequested"_s);
+    EXPECT_EQ(TakeEvents() + dateLog.Take(), u"Bitte das Datum prüfen!FocusRequested"_s);
     EXPECT_EQ(welcome.PagePanel1.Value(), 2);
-    EXPECT_FALSE(place.Parent().Exists());
+    EXPECT_FALSE(databaseFile.Parent().Exists());
 }
 
-TEST_F(WelcomeWindowTest, ReplacesNothingThatAnotherProgramHasMade) {
+TEST_F(WelcomeWindowTest, DoesNotReplaceAnExistingFileOrLink) {
     const FolderItem elsewhere(desktop.Path(u"elsewhere"_s));
-    ASSERT_TRUE(place.Parent().CreateAsFolder() && QFile::link(elsewhere.Path(), place.Path()));
+    ASSERT_TRUE(databaseFile.Parent().CreateAsFolder() && QFile::link(elsewhere.Path(), databaseFile.Path()));
     welcome.CreateDatabase();
-    EXPECT_TRUE(Told().startsWith(cannot + place.Path())) << "a link to nowhere";
-    EXPECT_TRUE(!elsewhere.Exists() && place.Delete());
+    EXPECT_TRUE(TakeEvents().startsWith(failure + databaseFile.Path())) << "a dangling link";
+    EXPECT_TRUE(!elsewhere.Exists() && databaseFile.Delete());
     welcome.CompanyField.SetText(u"Muster"_s);
     welcome.SaveButton.Press();
-    EXPECT_EQ(Told(), made);
+    EXPECT_EQ(TakeEvents(), success);
     welcome.CompanyField.SetText(u"Andere"_s);
     welcome.CreateDatabase();
-    EXPECT_TRUE(Told().startsWith(cannot + place.Path()));
+    EXPECT_TRUE(TakeEvents().startsWith(failure + databaseFile.Path()));
     EXPECT_EQ(Read(u"SELECT company FROM core_company"_s) + Files(), u"MusterZolmark.sdb"_s);
 }
 
-TEST_F(WelcomeWindowTest, LeavesNoFileOfAFailedOrKilledAttempt) {
-    QFile leftover(place.Parent().Child(u"Zolmark.neu-1-journal"_s).Path());
-    ASSERT_TRUE(place.Parent().CreateAsFolder() && leftover.open(QIODevice::WriteOnly));
+TEST_F(WelcomeWindowTest, RemovesTheFilesOfFailedAttempts) {
+    QFile leftover(databaseFile.Parent().Child(u"Zolmark.neu-1-journal"_s).Path());
+    ASSERT_TRUE(databaseFile.Parent().CreateAsFolder() && leftover.open(QIODevice::WriteOnly));
     welcome.CompanyField.SetText(u"O'Neill"_s);
     welcome.SaveButton.Press();
-    EXPECT_EQ(Told(), u"Error: near \"Neill\": syntax error"_s);
+    EXPECT_EQ(TakeEvents(), u"Error: near \"Neill\": syntax error"_s);
     EXPECT_EQ(Files(), QString());
     welcome.CompanyField.SetText(u"Muster"_s);
     welcome.SaveButton.Press();
     leftover.close();
     ASSERT_TRUE(leftover.open(QIODevice::WriteOnly));
-    EXPECT_EQ(Told(), made);
+    EXPECT_EQ(TakeEvents(), success);
     welcome.Event_Open();
-    EXPECT_EQ(Told(), u"Closed MainWindowRequested"_s);
+    EXPECT_EQ(TakeEvents(), u"Closed MainWindowRequested"_s);
     EXPECT_EQ(Files(), u"Zolmark.sdb"_s);
 }
 
-TEST_F(WelcomeWindowTest, KeepsFoldersAndFileFromOthersWhateverTheHabit) {
+TEST_F(WelcomeWindowTest, SetsPrivatePermissionsWhateverTheUmask) {
     const auto before = umask(0277);
     welcome.CreateDatabase();
     umask(before);
-    EXPECT_EQ(Told(), made);
-    EXPECT_EQ(QFileInfo(place.Path()).permissions(), QFile::Permissions(0x6600));
-    for (const FolderItem &folder : {place.Parent(), place.Parent().Parent()}) {
+    EXPECT_EQ(TakeEvents(), success);
+    EXPECT_EQ(QFileInfo(databaseFile.Path()).permissions(), QFile::Permissions(0x6600));
+    for (const FolderItem &folder : {databaseFile.Parent(), databaseFile.Parent().Parent()}) {
         EXPECT_EQ(QFileInfo(folder.Path()).permissions(), QFile::Permissions(0x7700));
     }
 }

@@ -5,9 +5,9 @@
 
 #include <QStringList>
 
-/// A surface that writes down what is drawn on it: "line 0 0 10 0", or a text after its place, "40 270 Endbestand".
-/// What differs in its look from the step before has the look in front: "333333 Courier 10 bold 40 270 Endbestand".
-/// A line of text is two points higher than its font, and in the bold face four.
+/// Records each drawing step as a text: "line 0 0 10 0", or a position and the text, "40 270 Endbestand". A step whose
+/// colour or font differs from that of the step before begins with them: "333333 Courier 10 bold 40 270 Endbestand".
+/// The height of a text is the font size and two points, or four in bold.
 class DrawingRecorder : public PrinterGraphics {
 public:
     explicit DrawingRecorder(QStringList &drawn) : drawn_(drawn) {}
@@ -16,16 +16,16 @@ public:
     double Height() const override { return 0; }
     void SetForeColor(Color color) override { color_ = QString::number(color.rgb, 16); }
     void DrawLine(double x1, double y1, double x2, double y2) override {
-        Note(color_, u"line %1 %2 %3 %4"_s.arg(x1).arg(y1).arg(x2).arg(y2));
+        Append(color_, u"line %1 %2 %3 %4"_s.arg(x1).arg(y1).arg(x2).arg(y2));
     }
     void DrawRect(double left, double top, double width, double height) override {
-        Note(color_, u"rect %1 %2 %3 %4"_s.arg(left).arg(top).arg(width).arg(height));
+        Append(color_, u"rect %1 %2 %3 %4"_s.arg(left).arg(top).arg(width).arg(height));
     }
     void FillRect(double left, double top, double width, double height) override {
-        Note(color_, u"fill %1 %2 %3 %4"_s.arg(left).arg(top).arg(width).arg(height));
+        Append(color_, u"fill %1 %2 %3 %4"_s.arg(left).arg(top).arg(width).arg(height));
     }
     void DrawPicture(const FolderItem &file, double x, double y) override {
-        Note(color_, u"%1 %2 %3"_s.arg(file.Path().section(u'/', -1)).arg(x).arg(y));
+        Append(color_, u"%1 %2 %3"_s.arg(file.Path().section(u'/', -1)).arg(x).arg(y));
     }
     void SetTextFont(const QString &family) override { font_ = family; }
     void SetTextSize(double size) override { size_ = size; }
@@ -34,12 +34,12 @@ public:
     double TextHeight() const override { return size_ + (bold_ ? 4 : 2); }
     void DrawString(const QString &text, double x, double y) override {
         const QString face = (bold_ ? u" bold"_s : u""_s) + (underline_ ? u" underlined"_s : u""_s);
-        Note(u"%1 %2 %3%4"_s.arg(color_, font_, QString::number(size_), face), u"%1 %2 %3"_s.arg(x).arg(y).arg(text));
+        Append(u"%1 %2 %3%4"_s.arg(color_, font_, QString::number(size_), face), u"%1 %2 %3"_s.arg(x).arg(y).arg(text));
     }
     void NextPage() override { drawn_.append(u"next page"_s); }
 
 private:
-    void Note(const QString &look, const QString &step) {
+    void Append(const QString &look, const QString &step) {
         drawn_.append(std::exchange(look_, look) == look ? step : look + u' ' + step);
     }
 

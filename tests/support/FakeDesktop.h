@@ -7,23 +7,24 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// A desktop for tests: it records the messages, holds the answers of dialogs, and has a clock and folders of its
-/// own. A message that the test does not take is a failure.
+/// A desktop for tests: records the messages, returns preset results of dialogs, and has its own clock and folders.
+/// A message that the test does not take is a failure.
 class FakeDesktop : public Desktop {
 public:
     FakeDesktop() = default;
     Q_DISABLE_COPY_MOVE(FakeDesktop)
     ~FakeDesktop() override { EXPECT_EQ(TakeMessages(), QString()); }
 
-    /// The clock stands still at noon of this day, until a test sets it.
+    /// The current time. It does not advance; a test may set it.
     Date now = Date(QDateTime(QDate(2026, 3, 15), QTime(12, 0)));
     std::optional<FolderItem> fileToOpen;
     std::optional<int> menuChoice;
     std::optional<FolderItem> fileToSave;
-    /// What was printed; nothing while the user cancels the dialog.
-    std::optional<QStringList> paper;
-    std::optional<FolderItem> notToPrintInto;
-    /// What was asked for and opened: "about", documents to print, names of files, addresses.
+    /// The recorded drawing steps of the print jobs; without a value the print dialog is cancelled.
+    std::optional<QStringList> printout;
+    /// The database file passed to the print dialog, which the print job must not overwrite.
+    std::optional<FolderItem> protectedFile;
+    /// Everything that was opened: "about", documents to print, suggested file names, paths, addresses.
     QStringList opened;
 
     Date Now() const override { return now; }
@@ -38,16 +39,16 @@ public:
     }
     std::unique_ptr<PrinterGraphics> OpenPrinterDialog(const QString &document,
                                                        const std::optional<FolderItem> &databaseFile) override {
-        notToPrintInto = databaseFile;
+        protectedFile = databaseFile;
         opened.append(document);
-        return paper ? std::make_unique<DrawingRecorder>(*paper) : nullptr;
+        return printout ? std::make_unique<DrawingRecorder>(*printout) : nullptr;
     }
     std::optional<int> PopUp(const MenuItem & /*base*/) override { return menuChoice; }
     void ShowAboutPanel() override { opened.append(u"about"_s); }
     void ShowURL(const QString &address) override { opened.append(address); }
     void Launch(const FolderItem &file) override { opened.append(file.Path()); }
 
-    /// The messages since the last time, with a bar between them.
+    /// Returns the messages since the last call, separated by vertical bars.
     QString TakeMessages() { return std::exchange(messages_, {}).join(u'|'); }
     QString Path(const QString &name) const { return folder_.filePath(name); }
 

@@ -5,13 +5,13 @@
 #include <csignal>
 #include <sys/resource.h>
 
-/// While it lives, no file can grow beyond so many bytes.
+/// Simulates a full disk: during the object's lifetime, this process cannot write to a file beyond this size.
 class FullDisk {
 public:
     explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
         getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit full{bytes, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &full);
+        const rlimit limit{bytes, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
     }
     ~FullDisk() {
         setrlimit(RLIMIT_FSIZE, &before_);

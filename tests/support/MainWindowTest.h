@@ -5,25 +5,24 @@
 
 #include <QRegularExpression>
 #include <QTest>
-#include <QtWidgets> // The tests of the windows reach for any part of the toolkit.
+#include <QtWidgets> // The tests use many Qt classes.
 
-/// Presses the keys of a text, \t, \r and \x1b for Tab, Return and Escape, and any key by its name, as in "{Ctrl+N}".
-/// They go to a widget; or, if a window is given, to wherever its focus is, or to its pop-up.
+/// Presses the keys of a text: \t, \r and \x1b are Tab, Return and Escape, a name in braces is any key, as in
+/// "{Ctrl+N}". The target is a widget, or a window, which passes the keys to its focus widget or to its pop-up.
 template <class Target>
 void Type(Target *target, const QString &text) {
-    static const QRegularExpression each(u"\\{([^}]+)\\}|[^{]"_s);
-    for (const QRegularExpressionMatch &key : each.globalMatch(text)) {
-        if (key.hasCaptured(1)) {
-            const QKeyCombination named = QKeySequence(key.captured(1))[0];
-            QTest::keyClick(target, named.key(), named.keyboardModifiers());
+    static const QRegularExpression token(u"\\{([^}]+)\\}|[^{]"_s);
+    for (const QRegularExpressionMatch &match : token.globalMatch(text)) {
+        if (match.hasCaptured(1)) {
+            const QKeyCombination key = QKeySequence(match.captured(1))[0];
+            QTest::keyClick(target, key.key(), key.keyboardModifiers());
         } else {
-            QTest::keyClick(target, key.captured()[0].toLatin1());
+            QTest::keyClick(target, match.captured()[0].toLatin1());
         }
     }
 }
 
-/// The real main window on a book, driven by keys and clicks as by its user. A test fills the book and opens the
-/// window.
+/// The real main window on a test database, operated by keys and clicks. A test adds records and calls Open().
 class MainWindowTest : public EnvironmentTest {
 protected:
     void Open() {
@@ -39,8 +38,8 @@ protected:
     static QPoint Centre(const QTableView &list, int row, int column) {
         return list.visualRect(list.model()->index(row, column)).center();
     }
-    void Click(const QWidget *widget, QPoint place) {
-        QTest::mouseClick(view.windowHandle(), Qt::LeftButton, {}, widget->mapTo(&view, place));
+    void Click(const QWidget *widget, QPoint position) {
+        QTest::mouseClick(view.windowHandle(), Qt::LeftButton, {}, widget->mapTo(&view, position));
     }
     void Click(const QTableView &list, int row, int column) { Click(list.viewport(), Centre(list, row, column)); }
     void DoubleClick(const QTableView &list, int row, int column) {
@@ -51,11 +50,11 @@ protected:
     void Choose(const QString &name, int row) {
         auto &box = Find<QComboBox>(name);
         Click(&box, box.rect().center() + QPoint(box.width() / 2 - 8, 0));
-        QApplication::processEvents(); // So far the release of the button could belong to a drag.
+        QApplication::processEvents(); // Otherwise the mouse release could be taken for the end of a drag.
         const QAbstractItemView &rows = *box.view();
-        const QPoint place = rows.visualRect(box.model()->index(row, 0)).center();
-        QTest::mouseMove(rows.viewport(), place);
-        QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, place);
+        const QPoint position = rows.visualRect(box.model()->index(row, 0)).center();
+        QTest::mouseMove(rows.viewport(), position);
+        QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, position);
     }
 
     MainWindowView view{window, env.app.Locale(), env.app.Resources()};

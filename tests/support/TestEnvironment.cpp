@@ -49,7 +49,7 @@ QString ReadWithShell(const App &app, const QString &sql) {
     shell.write(sql.toUtf8() + ";\n");
     shell.closeWriteChannel();
     EXPECT_TRUE(shell.waitForFinished());
-    // Newer shells answer "ok" to the key.
+    // Newer shells print "ok" for the key.
     const QString output = QString::fromUtf8(shell.readAllStandardOutput());
     return (output.startsWith(u"ok\n"_s) ? output.mid(3) : output).trimmed();
 }

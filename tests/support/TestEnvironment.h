@@ -4,7 +4,7 @@
 #include "shell/MainWindow.h"
 #include "support/FakeDesktop.h"
 
-/// A booking to put into a book; the amount and the date as the database stores them, and no apostrophe in its texts.
+/// A booking to insert, with amount and date as the database stores them. The texts must not contain apostrophes.
 struct Booking {
     QString date, type, amount;
     QString tax = u"3"_s;
@@ -14,8 +14,8 @@ struct Booking {
     QString number = {}, note = {};
 };
 
-/// An application on an open book: schema, reference data and the chart SKR-03, one company, and one cash book,
-/// 1000:Kasse, that opens with 100.00 on 2026-01-01.
+/// An application with an open database: schema, reference data, the chart SKR-03, one company, and one cash book,
+/// 1000:Kasse, with an opening balance of 100.00 on 2026-01-01.
 class TestEnvironment {
 public:
     enum class Storage { Memory, File };
@@ -25,33 +25,35 @@ public:
     App app;
 
     void Add(const Booking &booking) const;
-    /// Runs a statement, which must not fail.
+    /// Executes a statement, which must not fail.
     void Run(const QString &sql) const;
-    /// While tables are hidden, every statement on them fails.
+    /// Renames the tables, so that every statement on them fails.
     void Hide(const QStringList &tables, bool hidden = true) const {
         for (const QString &table : tables) {
-            const QString other = u"hidden_"_s + table;
-            Run(u"ALTER TABLE %1 RENAME TO %2"_s.arg(hidden ? table : other, hidden ? other : table));
+            const QString hiddenName = u"hidden_"_s + table;
+            Run(u"ALTER TABLE %1 RENAME TO %2"_s.arg(hidden ? table : hiddenName, hidden ? hiddenName : table));
         }
     }
-    /// As by a damaged page, a broken table gives its row 1 and fails at its row 2.
+    /// Makes a query of the table fail at its row 2, after row 1 was returned, as a damaged page does.
     void Break(const QString &table) const {
         Hide({table});
         Run(u"CREATE VIEW %1 AS SELECT * FROM hidden_%1 WHERE abs(-9223372036854775806 - id) > 0"_s.arg(table));
     }
+    /// Restores hidden and broken tables.
     void Show(const QStringList &tables) const {
         for (const QString &table : tables) { Run(u"DROP VIEW IF EXISTS "_s + table); }
         Hide(tables, false);
     }
+    /// Returns the first column of the first row.
     QString Value(const QString &sql) const;
 };
 
 inline const QByteArray fixedKey("rk7WPNdTLqhvM4");
 
-/// What the standard sqlcipher shell prints for a statement on the default file, without the line break at its end.
+/// Returns what the standard sqlcipher shell prints for a statement on the default database file, trimmed.
 QString ReadWithShell(const App &app, const QString &sql);
 
-/// What the main window knows and decides on a book, without a widget. A test fills the book and opens the window.
+/// The main window's logic on a test database, without widgets. A test adds records and calls window.Event_Open().
 class EnvironmentTest : public testing::Test {
 protected:
     explicit EnvironmentTest(TestEnvironment::Storage storage = TestEnvironment::Storage::Memory) : env(storage) {}

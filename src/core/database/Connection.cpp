@@ -1,6 +1,6 @@
 #include "core/database/Connection.h"
 
-#include "core/database/DerivedKey.h"
+#include "core/database/DeriveKey.h"
 
 #define SQLITE_HAS_CODEC 1
 #include <QFileInfo>
@@ -14,7 +14,7 @@ constexpr int lockPollMs = 20;
 } // namespace
 
 void Connection::Closer::operator()(sqlite3 *handle) const {
-    // Statements that are still alive keep the handle until they end; nothing else can fail here.
+    // Closes only after the last statement is finalized; there is no other failure.
     sqlite3_close_v2(handle);
 }
 
@@ -24,24 +24,24 @@ Connection::Connection(const QString &path, const QByteArray &key,
 
 bool Connection::Open(const QString &path, const QByteArray &key) {
     const bool inMemory = path.isEmpty();
-    // Opening a pipe would wait for its other end.
+    // Opening a named pipe would block until its other end is opened.
     if (!inMemory && !QFileInfo(path).isFile()) {
         SetError(QString::fromUtf8(sqlite3_errstr(SQLITE_CANTOPEN)));
         return false;
     }
-    QByteArray derived = inMemory || key.isEmpty() ? QByteArray() : DerivedKey(key, path);
-    // The program has one thread: without a lock around each value of a row.
+    QByteArray derivedKey = inMemory || key.isEmpty() ? QByteArray() : DeriveKey(key, path);
+    // The program has one thread, so no mutex is needed for each access to a column.
     const int flags =
         SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (inMemory ? SQLITE_OPEN_CREATE : 0);
     const QByteArray name = inMemory ? QByteArrayLiteral(":memory:") : path.toUtf8();
     sqlite3 *handle = nullptr;
     const int result = sqlite3_open_v2(name.constData(), &handle, flags, nullptr);
     handle_.reset(handle);
-    // Without a salt the library says itself what the file lacks.
+    // If no key could be derived, the text key is used: SQLCipher then reports the error.
     const bool open = SetResult(result) &&
                       SetResult(sqlite3_busy_handler(handle, &WaitForLock, this)) &&
-                      ApplyKey(derived.isEmpty() ? key : derived) && Configure();
-    derived.fill('\0');
+                      ApplyKey(derivedKey.isEmpty() ? key : derivedKey) && Configure();
+    derivedKey.fill('\0');
     return open;
 }
 
@@ -49,15 +49,15 @@ bool Connection::ApplyKey(const QByteArray &key) {
     if (key.isEmpty()) {
         return true;
     }
-    // The file format is pinned to that of SQLCipher 3, which every later version can be told to
-    // use.
+    // The file format is fixed to that of SQLCipher 3, which all later versions can read and write.
     return SetResult(sqlite3_key(Handle(), key.constData(), static_cast<int>(key.size()))) &&
            Execute("PRAGMA cipher_compatibility = 3");
 }
 
 bool Connection::Configure() {
-    // A cache of 64 MiB, for decrypted pages are dear; nothing in plain text in a temporary file.
-    // The last line is the proof of the key: it reads the first page.
+    // The cache is 64 MiB because decrypting a page is expensive. Temporary files would contain
+    // plain text, so they are kept in memory. The SELECT reads the first page and so verifies the
+    // key.
     return Execute("PRAGMA cache_size = -65536") && Execute("PRAGMA temp_store = MEMORY") &&
            Execute("PRAGMA synchronous = FULL") && Execute("SELECT count(*) FROM sqlite_master");
 }

@@ -9,18 +9,18 @@
 
 struct sqlite3;
 
-/// An open SQLCipher database and the outcome of the last operation on it. It is shared by the
-/// database object and by all statements and record sets that came from it, and closes with the
-/// last.
+/// A SQLCipher database connection and the result of the last operation on it. Shared by the
+/// database object and all statements and record sets created from it; closed with the last of
+/// them.
 ///
-/// A file that another program has locked is waited for as long as the patience lasts. After a
-/// wait in vain nothing waits for as long again: one command runs many statements, and the user
-/// waits but once.
+/// If another program has locked the file, an operation waits up to the lock timeout. After a
+/// timeout, no operation waits during a further period of that length: one command runs many
+/// statements, and the user must not wait for each of them.
 class Connection {
 public:
-    /// Opens the file, which must exist and be a regular one, with the key; an empty path opens a
-    /// database in memory without a key. A file is open when the key fits and its first page could
-    /// be read; otherwise Error is set.
+    /// Opens an existing regular file with the key, or an in-memory database without a key if the
+    /// path is empty. Sets Error if the file can't be opened or its first page can't be read with
+    /// the key.
     Connection(const QString &path, const QByteArray &key, std::chrono::milliseconds lockTimeout);
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;
@@ -28,15 +28,15 @@ public:
     bool IsOpen() const { return open_; }
     sqlite3 *Handle() const { return handle_.get(); }
 
-    /// Runs one statement or a script, up to its first failing statement.
+    /// Runs one statement or a script, up to the first failing statement. Returns false on failure.
     [[nodiscard]] bool Execute(const QByteArray &sql);
     qint64 LastRowID() const;
-    /// Rows changed by the last INSERT, UPDATE or DELETE.
+    /// Returns the number of rows changed by the last INSERT, UPDATE or DELETE.
     int Changes() const;
 
-    /// Keeps the outcome of a call of the library; true for a success.
+    /// Records the result code of a SQLite call. Returns whether the code means success.
     [[nodiscard]] bool SetResult(int resultCode);
-    /// An outcome that no call of the library gave; a null text is a success.
+    /// Records a result that does not come from SQLite; a null text means success.
     void SetError(const QString &message);
     bool Error() const { return !message_.isNull(); }
     QString ErrorMessage() const { return message_; }
@@ -56,5 +56,5 @@ private:
     std::chrono::milliseconds lockTimeout_;
     QDeadlineTimer lockWait_;
     QDeadlineTimer noWaitUntil_;
-    bool open_ = false; // After what opening writes to.
+    bool open_ = false; // Declared last: its initializer calls Open(), which sets other members.
 };

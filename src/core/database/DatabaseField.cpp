@@ -16,8 +16,8 @@ QString DatabaseField::StringValue() const {
     return statement.Text(column_);
 }
 
-char DatabaseField::Code() const {
-    return records_->CanRead(column_) ? records_->statement_->Character(column_) : '\0';
+char DatabaseField::UpperCaseCharacter() const {
+    return records_->CanRead(column_) ? records_->statement_->UpperCaseCharacter(column_) : '\0';
 }
 
 void DatabaseField::SetStringValue(const QString &text) {

@@ -9,19 +9,20 @@
 
 class RecordSet;
 
-/// One column of a record set: reads the value of its current row, and follows it from row to row.
+/// A column of a record set: reads and writes the value in the current row of the record set.
 class DatabaseField {
 public:
-    /// The value as text, empty for NULL; a boolean column gives "True" or "False".
+    /// Returns the value as text: empty for NULL, "True" or "False" for a boolean column.
     QString StringValue() const;
-    /// A text of one letter, as a capital; 0 for any other.
-    char Code() const;
-    /// Sets the value as text, for RecordSet::Update to write. Takes effect after RecordSet::Edit.
+    /// Returns the character of a text of one ASCII character, in upper case; 0 for any other text.
+    char UpperCaseCharacter() const;
+    /// Sets the value that RecordSet::Update writes. Call RecordSet::Edit first: it discards the
+    /// values set before.
     void SetStringValue(const QString &text);
-    /// A text in a column of numbers is read as an amount that somebody typed, comma or dot.
+    /// Returns the value as a number. A text is parsed with a comma or a dot as decimal mark.
     double DoubleValue() const;
     Currency CurrencyValue() const { return Currency::FromDouble(DoubleValue()); }
-    /// Nothing when the text is no SQL date.
+    /// Returns nullopt if the text is not a SQL date.
     std::optional<Date> DateValue() const;
 
 private:

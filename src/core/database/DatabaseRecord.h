@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-/// The columns of a row to insert, each with its value as text.
+/// A row to insert: column names with their values as text.
 class DatabaseRecord {
 public:
     using Columns = std::vector<std::pair<QString, QString>>;

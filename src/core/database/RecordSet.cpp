@@ -8,11 +8,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString RowHasGone() {
+QString RowMissingMessage() {
     return u"Der Datensatz ist nicht mehr vorhanden."_s;
 }
 
-QString ColumnIsMissing() {
+QString ColumnMissingMessage() {
     return u"In der Datenbank fehlt eine Spalte."_s;
 }
 
@@ -35,9 +35,9 @@ void RecordSet::MoveNext() {
 
 DatabaseField RecordSet::Field(QAnyStringView name) {
     for (size_t column = 0; column < columns_.size(); ++column) {
-        // The tables' names are plain letters.
-        const QLatin1StringView known(columns_[column].name);
-        if (QAnyStringView::compare(name, known, Qt::CaseInsensitive) == 0) {
+        // All column names are ASCII.
+        const QLatin1StringView columnName(columns_[column].name);
+        if (QAnyStringView::compare(name, columnName, Qt::CaseInsensitive) == 0) {
             return {*this, static_cast<int>(column)};
         }
     }
@@ -46,35 +46,36 @@ DatabaseField RecordSet::Field(QAnyStringView name) {
 
 void RecordSet::Edit() {
     changes_.clear();
-    statement_->Owner()->SetError(AtEnd() ? RowHasGone() : QString());
+    statement_->GetConnection()->SetError(AtEnd() ? RowMissingMessage() : QString());
 }
 
 void RecordSet::Update() {
     if (AtEnd() || changes_.empty()) {
         return;
     }
-    const auto isKnown = [this](const auto &change) { return HasColumn(change.first); };
-    if (!std::all_of(changes_.begin(), changes_.end(), isKnown)) {
-        statement_->Owner()->SetError(ColumnIsMissing());
+    const auto hasColumn = [this](const auto &change) { return HasColumn(change.first); };
+    if (!std::all_of(changes_.begin(), changes_.end(), hasColumn)) {
+        statement_->GetConnection()->SetError(ColumnMissingMessage());
         return;
     }
     const QString id = Field("id"_L1).StringValue();
-    // The query's lock would keep another program from ending its write, and so this one waiting.
+    // Release the read lock of the query: another program could not commit because of it, and the
+    // UPDATE would wait for that program.
     statement_->Reset();
     hasRow_ = false;
-    Statement update(statement_->Owner(), UpdateText());
+    Statement update(statement_->GetConnection(), UpdateText());
     int parameter = 0;
-    bool fine = update.IsValid();
+    bool isBound = update.IsValid();
     for (const auto &[column, text] : changes_) {
-        fine = fine && update.Bind(parameter++, text);
+        isBound = isBound && update.Bind(parameter++, text);
     }
-    if (!fine || !update.Bind(parameter, id)) {
+    if (!isBound || !update.Bind(parameter, id)) {
         return;
     }
-    // An UPDATE has no rows; a failure stands in Error.
+    // An UPDATE returns no rows; a failure sets Error.
     static_cast<void>(update.Step());
-    if (!update.Owner()->Error() && update.Owner()->Changes() == 0) {
-        update.Owner()->SetError(RowHasGone());
+    if (!update.GetConnection()->Error() && update.GetConnection()->Changes() == 0) {
+        update.GetConnection()->SetError(RowMissingMessage());
     }
 }
 

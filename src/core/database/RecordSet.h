@@ -10,28 +10,29 @@
 #include <memory>
 #include <vector>
 
-/// The rows of a query, one after the other. It streams: only the current row is in memory. It ends
-/// the query when it is let go. A failure on the way ends the rows and sets the database's Error.
+/// A forward-only cursor over the rows of a query: only the current row is in memory. The
+/// destructor ends the query. A failure while reading ends the rows and sets the database's Error.
 class RecordSet {
 public:
-    /// Takes a statement that stands on its first row, or after its last.
+    /// The statement is at its first row (`hasRow`), or has no rows.
     RecordSet(std::unique_ptr<Statement> statement, bool hasRow);
     RecordSet(const RecordSet &) = delete;
     RecordSet &operator=(const RecordSet &) = delete;
 
-    /// Whether the rows have been walked to their end.
+    /// Returns true if there is no current row.
     bool AtEnd() const { return !hasRow_; }
     void MoveNext();
-    /// A column by name. One that the query lacks reads as empty, and lets Update fail.
+    /// Returns a column by its case-insensitive name. A column that is not in the query reads as
+    /// empty; if it is set, Update fails.
     DatabaseField Field(QAnyStringView name);
-    /// A column by position, from 1.
+    /// Returns a column by position, from 1.
     DatabaseField IdxField(int position) { return {*this, position - 1}; }
 
-    /// Begins a change of the current row. The query must select from one table and name its id.
-    /// Without a current row, Error is set.
+    /// Begins a change of the current row. The query must select from one table and include its id.
+    /// Sets Error if there is no current row.
     void Edit();
-    /// Writes the fields set since Edit into the row, and ends the walk through the rows. A row
-    /// that has gone meanwhile sets Error.
+    /// Writes the fields set since Edit into the row, and ends the query: there is no current row
+    /// afterwards. Sets Error if the row has been deleted in the meantime.
     void Update();
 
 private:

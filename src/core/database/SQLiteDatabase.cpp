@@ -9,11 +9,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The library would make the file readable for everybody.
-void CreateForOwnerAlone(const QString &path) {
+/// Creates an empty file with permissions for its owner only; SQLite would create it readable for
+/// all users.
+void CreateOwnerOnlyFile(const QString &path) {
     const auto ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
     QFile file(path);
-    // A failure shows at once when the library opens the file, and it has the better message.
+    // Failure is ignored: SQLite then fails to open the file and sets a more specific message.
     static_cast<void>(file.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerOnly) &&
                       file.setPermissions(ownerOnly));
 }
@@ -25,7 +26,7 @@ SQLiteDatabase::~SQLiteDatabase() = default;
 
 bool SQLiteDatabase::CreateDatabaseFile() {
     if (file_ && !file_->Exists()) {
-        CreateForOwnerAlone(file_->Path());
+        CreateOwnerOnlyFile(file_->Path());
     }
     return Connect();
 }
@@ -38,7 +39,7 @@ bool SQLiteDatabase::Connect() {
 
 void SQLiteDatabase::SQLExecute(const QString &sql) {
     if (connection_ && connection_->IsOpen()) {
-        // The outcome stands in Error.
+        // The connection records the result.
         static_cast<void>(connection_->Execute(sql.toUtf8()));
     }
 }

@@ -14,10 +14,10 @@
 
 class Connection;
 
-/// An SQLite database in a keyed file, or in memory when it has no file.
+/// An SQLite database in an encrypted file, or in memory if no file is set.
 ///
-/// Every operation leaves its outcome in Error and ErrorMessage. On a database that is not open
-/// every operation fails.
+/// Every operation sets Error and ErrorMessage. On a database that is not open, every operation
+/// fails.
 class SQLiteDatabase {
 public:
     SQLiteDatabase();
@@ -26,34 +26,36 @@ public:
     SQLiteDatabase &operator=(const SQLiteDatabase &) = delete;
 
     void SetDatabaseFile(const FolderItem &file) { file_ = file; }
-    /// Nothing for a database in memory.
+    /// Returns nullopt for an in-memory database.
     std::optional<FolderItem> DatabaseFile() const { return file_; }
-    /// The key, set before the file is created or opened. Without one the file is plain.
+    /// Sets the key; call this before the file is created or opened. Without a key the file is not
+    /// encrypted.
     void SetEncryptionKey(const QByteArray &key) { key_ = key; }
-    /// How long a file that another program holds locked is waited for, 5 s unless told otherwise.
-    /// To be set before it is opened.
+    /// Sets how long an operation waits for a file that another program has locked; 5 s by default.
+    /// Call this before the file is opened.
     void SetLockTimeout(std::chrono::milliseconds lockTimeout) { lockTimeout_ = lockTimeout; }
 
-    /// Creates the file for its owner alone, and opens it. An existing file is opened as it is.
+    /// Creates the file with permissions for its owner only, and opens it. An existing file is
+    /// opened unchanged. Returns false on failure.
     [[nodiscard]] bool CreateDatabaseFile();
-    /// Opens the file, which must exist; true when the key fits and the file can be read. It
-    /// creates no file, and changes none but to roll back what a crash has left half-written.
+    /// Opens the file, which must exist. Returns true if the file can be read with the key. Creates
+    /// no file, and changes one only to roll back a transaction that a crash left incomplete.
     [[nodiscard]] bool Connect();
 
-    /// Runs a statement, or a script of several up to its first failing one.
+    /// Runs one statement or a script, up to the first failing statement.
     void SQLExecute(const QString &sql);
-    /// Nothing on a failure.
+    /// Returns null on failure.
     [[nodiscard]] std::unique_ptr<RecordSet> SQLSelect(const QString &sql);
     [[nodiscard]] SQLitePreparedStatement Prepare(const QString &sql);
     void InsertRecord(const QString &table, const DatabaseRecord &record);
-    /// End the transaction; Transaction begins one.
+    /// Commit and Rollback end the current transaction, which Transaction begins.
     void Commit();
     void Rollback();
-    /// The id of the row inserted last.
+    /// Returns the id of the row inserted last.
     qint64 LastRowID() const;
 
     bool Error() const;
-    /// The engine's text for the last operation, empty after a success.
+    /// Returns the error message of the last operation, empty after a success.
     QString ErrorMessage() const;
 
 private:
@@ -62,6 +64,6 @@ private:
     std::optional<FolderItem> file_;
     QByteArray key_;
     std::chrono::milliseconds lockTimeout_ = std::chrono::seconds(5);
-    /// Null until the first attempt to open.
+    /// Null until the first attempt to open the database.
     std::shared_ptr<Connection> connection_;
 };

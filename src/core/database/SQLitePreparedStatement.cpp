@@ -11,7 +11,7 @@ void SQLitePreparedStatement::Bind(int parameter, const QString &text) {
 
 void SQLitePreparedStatement::SQLExecute() {
     if (statement_) {
-        // A row is of no interest; a failure stands in the database's Error.
+        // A result row is ignored; a failure sets the database's Error.
         static_cast<void>(statement_->Step());
         statement_.reset();
     }
@@ -22,7 +22,7 @@ std::unique_ptr<RecordSet> SQLitePreparedStatement::SQLSelect() {
         return nullptr;
     }
     const bool hasRow = statement_->Step();
-    if (statement_->Owner()->Error()) {
+    if (statement_->GetConnection()->Error()) {
         statement_.reset();
         return nullptr;
     }

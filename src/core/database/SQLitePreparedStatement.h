@@ -7,16 +7,17 @@
 
 #include <memory>
 
-/// A statement with ? markers, all bound as text. It serves for one run.
+/// A statement with ? parameters, all bound as text. Can be executed once.
 class SQLitePreparedStatement {
 public:
-    /// Without a statement every operation fails; the database's Error tells why.
+    /// `statement` is null if it could not be compiled: every operation then fails, and the
+    /// database's ErrorMessage is the reason.
     explicit SQLitePreparedStatement(std::unique_ptr<Statement> statement);
 
-    /// Binds a marker, counted from 0.
+    /// Binds a parameter, counted from 0.
     void Bind(int parameter, const QString &text);
     void SQLExecute();
-    /// Nothing on a failure.
+    /// Returns null on failure.
     [[nodiscard]] std::unique_ptr<RecordSet> SQLSelect();
 
 private:

@@ -4,7 +4,7 @@
 #include <sqlite3.h>
 
 void Statement::Finalizer::operator()(sqlite3_stmt *handle) const {
-    // Repeats the outcome of the last step, which has been recorded.
+    // Returns the error of the last step again, which has been recorded already.
     sqlite3_finalize(handle);
 }
 
@@ -12,7 +12,7 @@ Statement::Statement(std::shared_ptr<Connection> connection, const QString &sql)
     : connection_(std::move(connection)) {
     const QByteArray text = sql.toUtf8();
     sqlite3_stmt *handle = nullptr;
-    // On failure the handle is null.
+    // On failure the handle is null, see IsValid().
     static_cast<void>(connection_->SetResult(sqlite3_prepare_v2(
         connection_->Handle(), text.constData(), static_cast<int>(text.size()), &handle, nullptr)));
     handle_.reset(handle);
@@ -31,7 +31,7 @@ bool Statement::Step() {
 }
 
 void Statement::Reset() {
-    // Repeats the outcome of the last step, which has been noted.
+    // Returns the error of the last step again, which has been recorded already.
     sqlite3_reset(handle_.get());
 }
 
@@ -66,13 +66,13 @@ Statement::Kind Statement::ColumnKind(int column) const {
 QString Statement::Text(int column) const {
     const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(handle_.get(), column));
     const QByteArrayView bytes(text, sqlite3_column_bytes(handle_.get(), column));
-    // The mark EF BB BF at the start of a text is a letter of it, which the plain way would drop.
+    // A leading byte order mark (EF BB BF) is part of the text; fromUtf8() would drop it.
     return bytes.startsWith('\xEF') ? QStringDecoder(QStringDecoder::Utf8,
                                                      QStringDecoder::Flag::ConvertInitialBom)(bytes)
                                     : QString::fromUtf8(bytes);
 }
 
-char Statement::Character(int column) const {
+char Statement::UpperCaseCharacter(int column) const {
     const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(handle_.get(), column));
     if (text == nullptr || text[0] == '\0' || text[1] != '\0') {
         return '\0';

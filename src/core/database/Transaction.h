@@ -2,8 +2,9 @@
 
 class SQLiteDatabase;
 
-/// A transaction on an open database: begins with the object, and is rolled back with it unless it
-/// was committed. Every outcome stands in the database's Error, also that of the rollback.
+/// Transaction guard for an open database: the constructor begins the transaction, the destructor
+/// rolls it back unless it was committed. Every operation sets the database's Error, including the
+/// rollback.
 class [[nodiscard]] Transaction {
 public:
     explicit Transaction(SQLiteDatabase &database);
@@ -11,8 +12,8 @@ public:
     Transaction &operator=(const Transaction &) = delete;
     ~Transaction();
 
-    /// Makes the changes permanent. Returns false on failure, as on a full disk; the changes are
-    /// then rolled back with the object.
+    /// Makes the changes permanent. Returns false on failure, for example on a full disk; the
+    /// destructor then rolls the changes back.
     [[nodiscard]] bool Commit();
 
 private:

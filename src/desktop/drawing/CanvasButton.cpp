@@ -16,7 +16,7 @@ CanvasButton::CanvasButton(Canvas &canvas, const QString &name, const QRect &rec
 
 void CanvasButton::keyPressEvent(QKeyEvent *event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        // One press, one click: a key that is held down does no more.
+        // A key that is held down clicks only once.
         if (!event->isAutoRepeat()) {
             click();
         }
@@ -33,7 +33,7 @@ void CanvasButton::paintEvent(QPaintEvent * /*event*/) {
 }
 
 void CanvasButton::Press() {
-    const QPoint middle = rect_.center();
-    Q_EMIT canvas_.MouseDown(middle.x(), middle.y());
-    Q_EMIT canvas_.MouseUp(middle.x(), middle.y());
+    const QPoint center = rect_.center();
+    Q_EMIT canvas_.MouseDown(center.x(), center.y());
+    Q_EMIT canvas_.MouseUp(center.x(), center.y());
 }

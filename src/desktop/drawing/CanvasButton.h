@@ -5,14 +5,13 @@
 
 class Canvas;
 
-/// A part of a Canvas that works like a button: for the keys, which reach it with Tab and press it
-/// with Space or Return, and for assistive tools. It draws nothing but the focus. The mouse goes
-/// through it, and never brings it the focus. Its view puts it into its place.
+/// Makes a part of a Canvas a button for the keyboard (Tab, Space, Return) and for assistive tools.
+/// It draws only its focus; mouse events go to the canvas below. CanvasView sets its geometry.
 class CanvasButton : public QAbstractButton {
     Q_OBJECT
 
 public:
-    /// The place is one on the canvas.
+    /// The rectangle is in coordinates of the canvas.
     CanvasButton(Canvas &canvas, const QString &name, const QRect &rect, QWidget *view);
 
     QRect Rect() const { return rect_; }
@@ -22,7 +21,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    /// A click of the mouse on its middle.
+    /// Emits a mouse click on its centre.
     void Press();
 
     Canvas &canvas_;

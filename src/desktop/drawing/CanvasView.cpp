@@ -14,13 +14,13 @@ CanvasView::CanvasView(Canvas &canvas, QWidget *parent) : QWidget(parent), canva
     connect(&canvas, &Canvas::Updated, this, qOverload<>(&QWidget::update));
 }
 
-CanvasButton *CanvasView::AddButton(const QString &name, const QRect &place) {
-    return new CanvasButton(canvas_, name, place, this);
+CanvasButton *CanvasView::AddButton(const QString &name, const QRect &rect) {
+    return new CanvasButton(canvas_, name, rect, this);
 }
 
 void CanvasView::showEvent(QShowEvent * /*event*/) {
-    if (!opened_) {
-        opened_ = true;
+    if (!isOpen_) {
+        isOpen_ = true;
         Q_EMIT canvas_.Open();
     }
 }
@@ -46,21 +46,21 @@ void CanvasView::paintEvent(QPaintEvent * /*event*/) {
 
 void CanvasView::mousePressEvent(QMouseEvent *event) {
     if (event->button() == Qt::LeftButton) {
-        const QPoint place = ToCanvas(*event);
-        Q_EMIT canvas_.MouseDown(place.x(), place.y());
+        const QPoint position = ToCanvas(*event);
+        Q_EMIT canvas_.MouseDown(position.x(), position.y());
     }
 }
 
 void CanvasView::mouseDoubleClickEvent(QMouseEvent *event) {
-    if (canvas_.CountsEachPress()) {
+    if (canvas_.EmitsMouseDownOnDoubleClick()) {
         mousePressEvent(event);
     }
 }
 
 void CanvasView::mouseReleaseEvent(QMouseEvent *event) {
     if (event->button() == Qt::LeftButton) {
-        const QPoint place = ToCanvas(*event);
-        Q_EMIT canvas_.MouseUp(place.x(), place.y());
+        const QPoint position = ToCanvas(*event);
+        Q_EMIT canvas_.MouseUp(position.x(), position.y());
     }
 }
 

@@ -5,16 +5,16 @@
 class Canvas;
 class CanvasButton;
 
-/// Shows a Canvas, as much larger as the desktop's letters are, and hands it what the mouse does.
-/// It does not take the focus; its parts that are buttons take it from the Tab key.
+/// Shows a Canvas, scaled with the desktop's font, and passes mouse events to it. The keyboard
+/// reaches only the buttons on it.
 class CanvasView : public QWidget {
     Q_OBJECT
 
 public:
     CanvasView(Canvas &canvas, QWidget *parent);
 
-    /// Makes a part of it work like a button for keys and assistive tools.
-    CanvasButton *AddButton(const QString &name, const QRect &place);
+    /// Makes a part of the canvas a button for the keyboard and for assistive tools.
+    CanvasButton *AddButton(const QString &name, const QRect &rect);
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -27,9 +27,9 @@ protected:
     void leaveEvent(QEvent *event) override;
 
 private:
-    /// A point of the canvas, which knows no larger letters.
+    /// Returns the position in coordinates of the canvas, which are not scaled.
     QPoint ToCanvas(const QMouseEvent &event) const;
 
     Canvas &canvas_;
-    bool opened_ = false;
+    bool isOpen_ = false;
 };

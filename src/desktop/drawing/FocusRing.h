@@ -2,8 +2,8 @@
 
 #include <QFocusFrame>
 
-/// A ring around whatever has the focus in a window: styles show it faintly, and on a default
-/// button not at all. The parts of a canvas draw theirs themselves.
+/// Draws a frame around the widget with the focus in a window: the styles show the focus faintly,
+/// on a default button not at all. A CanvasButton draws its own.
 class FocusRing : public QFocusFrame {
     Q_OBJECT
 

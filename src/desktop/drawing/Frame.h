@@ -4,6 +4,6 @@ class QColor;
 class QPainter;
 class QRect;
 
-/// Draws a frame of this width along the inner edges of the rectangle. It is filled: a drawn line
-/// of one point may fall between the pixels of a screen at 125 % and lose an edge.
+/// Fills a frame of this width along the inner edges of the rectangle. A drawn line of one point
+/// could lose an edge on a screen scaled to 125 %.
 void FillFrame(QPainter &painter, const QRect &outer, int width, const QColor &colour);

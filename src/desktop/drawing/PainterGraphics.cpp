@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A null pixmap when there is no such picture. Each is read once.
+/// Returns a null pixmap if the file does not exist. Each file is read once.
 QPixmap Load(const QString &path) {
     QPixmap pixmap;
     if (!QPixmapCache::find(path, &pixmap)) {
@@ -19,7 +19,7 @@ QPixmap Load(const QString &path) {
     return pixmap;
 }
 
-QString TwinForFineScreens(const QString &path) {
+QString HighResolutionFile(const QString &path) {
     return path.chopped(4) + u"@2x.png"_s;
 }
 
@@ -37,7 +37,7 @@ PainterGraphics::~PainterGraphics() {
 
 void PainterGraphics::DrawLine(double x1, double y1, double x2, double y2) {
     if (x1 == x2 || y1 == y2) {
-        // As a rectangle an upright or level line covers whole points at any scale of the screen.
+        // A filled rectangle covers whole points at any scale of the screen.
         const QRectF line = QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized();
         painter_.fillRect(line.adjusted(0, 0, 1, 1), color_);
         return;
@@ -60,8 +60,8 @@ void PainterGraphics::FillRect(double left, double top, double width, double hei
 }
 
 void PainterGraphics::DrawPicture(const FolderItem &file, double x, double y) {
-    const bool fine = painter_.deviceTransform().m11() > 1;
-    QPixmap pixmap = fine ? Load(TwinForFineScreens(file.Path())) : QPixmap();
+    const bool isHighResolution = painter_.deviceTransform().m11() > 1;
+    QPixmap pixmap = isHighResolution ? Load(HighResolutionFile(file.Path())) : QPixmap();
     if (pixmap.isNull()) {
         pixmap = Load(file.Path());
     }

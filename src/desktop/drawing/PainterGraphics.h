@@ -7,7 +7,7 @@
 
 class QPainter;
 
-/// Draws with a painter, on an area of its device.
+/// Draws with a QPainter on an area of its device.
 class PainterGraphics : public Graphics {
 public:
     PainterGraphics(QPainter &painter, const QRectF &area);
@@ -19,7 +19,7 @@ public:
     void DrawLine(double x1, double y1, double x2, double y2) override;
     void DrawRect(double left, double top, double width, double height) override;
     void FillRect(double left, double top, double width, double height) override;
-    /// Takes the file's twin for fine screens, name@2x, where the device is one.
+    /// Uses the file name@2x.png on a screen of high resolution.
     void DrawPicture(const FolderItem &file, double x, double y) override;
 
 private:

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Darker than the toolkit's red, which is hard to read on white.
+/// Darker than Qt's red, which is hard to read on white.
 constexpr QColor weekendRed(0x9c, 0x00, 0x06);
 
 } // namespace
@@ -23,9 +23,9 @@ CalendarPopup::CalendarPopup(QDate day, const QLocale &locale, QWidget *field)
     : QCalendarWidget(field) {
     setWindowFlags(Qt::Popup);
     setAttribute(Qt::WA_DeleteOnClose);
-    // Colours and font are the field's.
+    // Inherits colours and font from the field.
     setAttribute(Qt::WA_WindowPropagation);
-    // The click that closes it does nothing else; on the field's button it would open it again.
+    // The click that closes it is not replayed; on the field's button it would open it again.
     setAttribute(Qt::WA_NoMouseReplay);
     setContentsMargins(1, 1, 1, 1);
     setLocale(locale);
@@ -37,7 +37,7 @@ CalendarPopup::CalendarPopup(QDate day, const QLocale &locale, QWidget *field)
     findChild<QTableView *>()->setAccessibleName(u"Tage"_s);
     findChild<QToolButton *>(u"qt_calendar_prevmonth"_s)->setAccessibleName(u"Voriger Monat"_s);
     findChild<QToolButton *>(u"qt_calendar_nextmonth"_s)->setAccessibleName(u"Nächster Monat"_s);
-    // Its bar is the selection's colour, on which the arrows of most styles are not seen.
+    // The bar has the colour of the selection, on which most styles draw invisible arrows.
     QPalette bar;
     bar.setColor(QPalette::Highlight, palette().color(QPalette::Button));
     bar.setColor(QPalette::HighlightedText, palette().color(QPalette::ButtonText));
@@ -46,8 +46,8 @@ CalendarPopup::CalendarPopup(QDate day, const QLocale &locale, QWidget *field)
     weekend.setForeground(weekendRed);
     setWeekdayTextFormat(Qt::Saturday, weekend);
     setWeekdayTextFormat(Qt::Sunday, weekend);
-    connect(this, &QCalendarWidget::clicked, this, &CalendarPopup::Choose);
-    connect(this, &QCalendarWidget::activated, this, &CalendarPopup::Choose);
+    connect(this, &QCalendarWidget::clicked, this, &CalendarPopup::Select);
+    connect(this, &QCalendarWidget::activated, this, &CalendarPopup::Select);
 }
 
 void CalendarPopup::Open() {
@@ -62,18 +62,18 @@ void CalendarPopup::paintEvent(QPaintEvent *event) {
     FillFrame(painter, rect(), 1, palette().color(QPalette::Dark));
 }
 
-void CalendarPopup::Choose(QDate day) {
+void CalendarPopup::Select(QDate day) {
     close();
-    Q_EMIT Chosen(day);
+    Q_EMIT Selected(day);
 }
 
 QPoint CalendarPopup::Position() const {
     const QWidget &field = *parentWidget();
-    const QRect free = field.screen()->availableGeometry();
+    const QRect available = field.screen()->availableGeometry();
     const QSize size = sizeHint();
     const QPoint above = field.mapToGlobal(QPoint(0, -size.height()));
     const QPoint below = field.mapToGlobal(QPoint(0, field.height()));
-    const int right = std::max(free.left(), free.right() - size.width());
-    return {std::clamp(below.x(), free.left(), right),
-            below.y() + size.height() > free.bottom() ? above.y() : below.y()};
+    const int right = std::max(available.left(), available.right() - size.width());
+    return {std::clamp(below.x(), available.left(), right),
+            below.y() + size.height() > available.bottom() ? above.y() : below.y()};
 }

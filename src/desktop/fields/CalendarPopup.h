@@ -2,8 +2,8 @@
 
 #include <QCalendarWidget>
 
-/// A calendar that pops up at a field to choose one day from. It closes, and is gone, when a day is
-/// chosen, by Escape and by a click elsewhere.
+/// A pop-up calendar below or above a field. It closes and deletes itself when the user selects a
+/// day, presses Escape or clicks elsewhere.
 class CalendarPopup : public QCalendarWidget {
     Q_OBJECT
 
@@ -13,14 +13,14 @@ public:
     void Open();
 
 Q_SIGNALS:
-    /// A day was chosen, and the pop-up is closed.
-    void Chosen(QDate day);
+    /// Emitted when a day was selected, after the pop-up has closed.
+    void Selected(QDate day);
 
 protected:
-    /// A line around it: what lies behind may have its colours.
+    /// Adds a border, since the background may have the same colour.
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void Choose(QDate day);
+    void Select(QDate day);
     QPoint Position() const;
 };

@@ -19,23 +19,23 @@
 
 namespace {
 
-/// Gives a press of the mouse to what lies there.
+/// Sends a mouse press to the widget at its position.
 void ForwardPress(const QMouseEvent &press) {
-    QWidget *below = QApplication::widgetAt(press.globalPosition().toPoint());
-    if (below == nullptr) {
+    QWidget *target = QApplication::widgetAt(press.globalPosition().toPoint());
+    if (target == nullptr) {
         return;
     }
-    for (QWidget *each = below; each != nullptr; each = each->parentWidget()) {
+    for (QWidget *each = target; each != nullptr; each = each->parentWidget()) {
         if (each->isEnabled() && (each->focusPolicy() & Qt::ClickFocus)) {
             each->setFocus(Qt::MouseFocusReason);
             break;
         }
     }
-    QWindow *window = below->window()->windowHandle();
-    const QPointF place = window->mapFromGlobal(press.globalPosition());
-    QMouseEvent again(press.type(), place, place, press.globalPosition(), press.button(),
+    QWindow *window = target->window()->windowHandle();
+    const QPointF position = window->mapFromGlobal(press.globalPosition());
+    QMouseEvent event(press.type(), position, position, press.globalPosition(), press.button(),
                       press.buttons(), press.modifiers(), press.pointingDevice());
-    QCoreApplication::sendEvent(window, &again);
+    QCoreApplication::sendEvent(window, &event);
 }
 
 } // namespace
@@ -68,7 +68,6 @@ void ComboBoxView::ShowCombo() {
     ShowBeginning(*lineEdit());
 }
 
-/// A chosen row that is a little too long is shown whole; what is typed stays in its letters.
 void ComboBoxView::FitRow() {
     QLineEdit &edit = *lineEdit();
     edit.setFont(FittedFont(font(), {currentIndex() < 0 ? QString() : currentText(),
@@ -80,9 +79,9 @@ bool ComboBoxView::event(QEvent *event) {
         return QComboBox::event(event);
     }
     const QLineEdit &edit = *lineEdit();
-    const bool cut = edit.fontMetrics().horizontalAdvance(edit.text()) > edit.width();
+    const bool isCut = edit.fontMetrics().horizontalAdvance(edit.text()) > edit.width();
     QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
-                       cut ? ToolTipText(edit.text()) : QString(), this);
+                       isCut ? ToolTipText(edit.text()) : QString(), this);
     return true;
 }
 
@@ -92,14 +91,14 @@ void ComboBoxView::resizeEvent(QResizeEvent *event) {
 }
 
 void ComboBoxView::SetUpCompleter() {
-    // Owned by the combo box. The list of its own would replace what was typed.
+    // The built-in completer of QComboBox would replace the typed text.
     auto *completer = new QCompleter(combo_.Rows(), this);
     completer->setCompletionMode(QCompleter::PopupCompletion);
     completer->setFilterMode(Qt::MatchContains);
     completer->setCaseSensitivity(Qt::CaseInsensitive);
     setCompleter(completer);
     completer->popup()->installEventFilter(this);
-    // The open list gets the clicks beside it too. Not every desktop hands them on; this view does.
+    // HandleOutsidePress sends a click outside the list on; not every platform replays it.
     completer->popup()->setAttribute(Qt::WA_NoMouseReplay);
     AcceptOneLine(*lineEdit());
 }
@@ -163,7 +162,7 @@ bool ComboBoxView::HandleCompletionKey(QKeyEvent *event) {
     if (completes) {
         combo_.SetListIndex(combo_.FindText(completion));
     }
-    // The Return that completes does not save as well.
+    // A Return that completes does not press the default button.
     if (isTab || !completes) {
         QCoreApplication::sendEvent(this, event);
     }

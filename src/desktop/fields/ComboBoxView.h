@@ -4,11 +4,11 @@
 
 class ComboBox;
 
-/// Shows a ComboBox, with a list of the rows that hold the typed text anywhere in theirs.
+/// Shows a ComboBox and lists the rows that contain the typed text.
 ///
-/// Return and Tab take the row that is marked in the list, else the first one that begins with the
-/// typed text, else the first one that holds it; Escape closes the list and leaves the text. A
-/// click elsewhere closes the list too, and does what it does without one.
+/// Return and Tab select the highlighted row of the list, else the first row that begins with the
+/// typed text, else the first that contains it. Escape closes the list and leaves the text. A click
+/// elsewhere closes the list and has its usual effect.
 class ComboBoxView : public QComboBox {
     Q_OBJECT
 
@@ -19,15 +19,15 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
-    /// A text that is cut tells all of itself as a tip: in a disabled field nobody can move to its
-    /// end.
+    /// Shows a text that is cut as a tool tip: a disabled field can't be scrolled.
     bool event(QEvent *event) override;
-    /// The list of completions is a window of its own and has to be given the font.
+    /// Sets the font of the completion list, which is a window and does not inherit it.
     void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     void ShowCombo();
+    /// Fits the font to a selected row; typed text keeps its font.
     void FitRow();
     void SetUpCompleter();
     bool HandleOutsidePress(const QMouseEvent &press);

@@ -18,11 +18,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What a day in a font of 11 points leaves of a field of 100.
+/// The space beside a date in 11 points in a field 100 points wide.
 constexpr int buttonWidth = 11;
 constexpr QColor darkRed(0x9c, 0x00, 0x06);
 
-/// Opens the calendar; a small one is drawn on it.
+/// Opens the calendar. Draws a small calendar as its icon.
 class CalendarButton : public QAbstractButton {
 public:
     explicit CalendarButton(QWidget *field) : QAbstractButton(field) {
@@ -49,7 +49,7 @@ protected:
     }
 };
 
-QPalette RefusedColours() {
+QPalette InvalidPalette() {
     QPalette palette;
     palette.setColor(QPalette::Base, QColor(0xff, 0xc7, 0xce));
     palette.setColor(QPalette::Text, darkRed);
@@ -71,9 +71,9 @@ bool IsTab(const QEvent &event) {
 
 DateControlView::DateControlView(DateControl &control, const UserLocale &locale, QWidget *parent)
     : QLineEdit(parent), control_(control), locale_(locale), button_(new CalendarButton(this)) {
-    // A click that brings the focus has to be told from the others, so it is not brought for us.
+    // Not by a click: mousePressEvent must recognise the click that sets the focus.
     setFocusPolicy(Qt::TabFocus);
-    // A dropped text would stay here unread, without the focus.
+    // A dropped text would not be committed without the focus.
     setAcceptDrops(false);
     setMaxLength(40);
     setFrame(false);
@@ -81,10 +81,11 @@ DateControlView::DateControlView(DateControl &control, const UserLocale &locale,
     BindControl(control, *this);
     connect(&control, &Control::Updated, this, &DateControlView::ShowDay);
     connect(&control, &Control::FocusRequested, this, &DateControlView::DiscardTyped);
-    connect(&control, &Control::HintChanged, this, &DateControlView::ShowRefusal);
+    connect(&control, &Control::HintChanged, this, &DateControlView::ShowValidity);
     connect(this, &QLineEdit::textEdited, &control, [&control] { control.SetHint({}); });
     connect(button_, &QAbstractButton::clicked, this, &DateControlView::OpenCalendar);
-    // After the binding, so that the typed day is taken before the control hears of the lost focus.
+    // After the binding: event filters run last to first, so the text is committed before
+    // LostFocus.
     installEventFilter(this);
 }
 
@@ -100,8 +101,8 @@ void DateControlView::DiscardTyped() {
     ShowDay();
 }
 
-void DateControlView::ShowRefusal() {
-    setPalette(control_.Hint().isEmpty() ? QPalette() : RefusedColours());
+void DateControlView::ShowValidity() {
+    setPalette(control_.Hint().isEmpty() ? QPalette() : InvalidPalette());
 }
 
 bool DateControlView::CommitTyped() {
@@ -114,9 +115,9 @@ bool DateControlView::CommitTyped() {
 }
 
 void DateControlView::CommitOrDiscard() {
-    const bool good = control_.SetTyped(text());
+    const bool isValid = control_.SetTyped(text());
     ShowDay();
-    if (!good) {
+    if (!isValid) {
         control_.SetHint(control_.Hint() + u" Es bleibt beim %1."_s.arg(text()));
     }
 }
@@ -136,11 +137,11 @@ void DateControlView::keyPressEvent(QKeyEvent *event) {
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // A good day leaves the key to the window, which may have a default button.
+        // After a valid day the key goes on to the page, which may have a default button.
         event->setAccepted(!CommitTyped());
         break;
     case Qt::Key_Escape:
-        // It takes back what is half typed; only pressed again it is the window's.
+        // The first press discards a typed text, the next one goes on to the page.
         event->setAccepted(isModified());
         DiscardTyped();
         break;
@@ -154,12 +155,12 @@ void DateControlView::keyPressEvent(QKeyEvent *event) {
 bool DateControlView::HandleKey(const QKeyEvent &event) {
     const int key = event.key();
     const auto modifiers = event.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
-    const bool plain = modifiers == Qt::NoModifier;
-    if ((key == Qt::Key_F4 && plain) || (key == Qt::Key_Down && modifiers == Qt::AltModifier)) {
+    const bool isPlain = modifiers == Qt::NoModifier;
+    if ((key == Qt::Key_F4 && isPlain) || (key == Qt::Key_Down && modifiers == Qt::AltModifier)) {
         OpenCalendar();
         return true;
     }
-    return plain && !BelongsToText(key) && StepBy(key);
+    return isPlain && !BelongsToText(key) && StepBy(key);
 }
 
 bool DateControlView::StepBy(int key) {
@@ -195,7 +196,7 @@ void DateControlView::Step(void (DateControl::*step)(int), int count) {
 }
 
 bool DateControlView::BelongsToText(int key) const {
-    // A day in full; of anything shorter a minus may be a part, as in 2026-02-01 or 1-2-26.
+    // A complete day. In a shorter text a minus may be a separator, as in 2026-02-01.
     static const QRegularExpression day(
         u"^\\s*(\\d{6}|\\d{8}|\\d\\d?\\.\\d\\d?\\.(\\d\\d|\\d{4})|\\d{4}-\\d\\d?-\\d\\d?)$"_s);
     static const QRegularExpression letter(u"\\p{L}"_s);
@@ -211,18 +212,18 @@ bool DateControlView::BelongsToText(int key) const {
 
 void DateControlView::OpenCalendar() {
     setFocus(Qt::OtherFocusReason);
-    // What is no day is dropped: the calendar shows the day that it begins from.
+    // An invalid text is discarded: the calendar shows the day that it starts from.
     static_cast<void>(control_.SetTyped(text()));
     DiscardTyped();
     auto *calendar = new CalendarPopup(control_.DateValue().Day(), locale_.Locale(), this);
-    connect(calendar, &CalendarPopup::Chosen, this,
+    connect(calendar, &CalendarPopup::Selected, this,
             [this](QDate day) { control_.SetDateValue(Date(day)); });
     calendar->Open();
 }
 
 void DateControlView::focusInEvent(QFocusEvent *event) {
     QLineEdit::focusInEvent(event);
-    // Back from a menu, what was marked for it stays; back from elsewhere, what is half typed.
+    // The selection stays for a menu, a half typed text in any case.
     const bool fromMenu =
         event->reason() == Qt::PopupFocusReason || event->reason() == Qt::MenuBarFocusReason;
     if (!fromMenu && !isModified()) {
@@ -231,8 +232,8 @@ void DateControlView::focusInEvent(QFocusEvent *event) {
 }
 
 void DateControlView::mousePressEvent(QMouseEvent *event) {
-    focusingClick_ = !hasFocus();
-    if (focusingClick_) {
+    isFocusingClick_ = !hasFocus();
+    if (isFocusingClick_) {
         setFocus(Qt::MouseFocusReason);
     } else {
         QLineEdit::mousePressEvent(event);
@@ -240,22 +241,22 @@ void DateControlView::mousePressEvent(QMouseEvent *event) {
 }
 
 void DateControlView::mouseMoveEvent(QMouseEvent *event) {
-    if (!focusingClick_) {
+    if (!isFocusingClick_) {
         QLineEdit::mouseMoveEvent(event);
     }
 }
 
 void DateControlView::mouseReleaseEvent(QMouseEvent *event) {
-    if (!focusingClick_) {
+    if (!isFocusingClick_) {
         QLineEdit::mouseReleaseEvent(event);
     }
-    focusingClick_ = false;
+    isFocusingClick_ = false;
 }
 
 void DateControlView::wheelEvent(QWheelEvent *event) {
-    wheelRest_ += event->angleDelta().y();
-    const int days = wheelRest_ / QWheelEvent::DefaultDeltasPerStep;
-    wheelRest_ %= QWheelEvent::DefaultDeltasPerStep;
+    wheelDelta_ += event->angleDelta().y();
+    const int days = wheelDelta_ / QWheelEvent::DefaultDeltasPerStep;
+    wheelDelta_ %= QWheelEvent::DefaultDeltasPerStep;
     if (days != 0) {
         Step(&DateControl::Step, days);
     }
@@ -266,13 +267,13 @@ void DateControlView::resizeEvent(QResizeEvent *event) {
     QLineEdit::resizeEvent(event);
     const int side = Scaled(buttonWidth, ScaleFactor(*this));
     button_->setGeometry(width() - 1 - side, 1, side, height() - 2);
-    // Besides the two points that the toolkit leaves on each side, the right ones under the button.
+    // QLineEdit adds two points on each side; those on the right lie under the button.
     setTextMargins(1, 0, side - 2, 0);
 }
 
 void DateControlView::paintEvent(QPaintEvent *event) {
     QLineEdit::paintEvent(event);
-    // The frame of any field. One of its own would take the room of the text.
+    // The frame of a line edit; setFrame(true) would reduce the width of the text.
     QStyleOptionFrame option;
     initStyleOption(&option);
     option.lineWidth = 1;

@@ -6,9 +6,9 @@ class DateControl;
 class QAbstractButton;
 class UserLocale;
 
-/// Shows a DateControl: a day to type over, to step with keys and wheel, or to choose in a
-/// calendar. A text that is no day is refused for all to see and never reaches the control: the
-/// field keeps its colour as long as the control has its hint.
+/// Shows a DateControl: the user types a day, steps with keys and mouse wheel, or selects one in a
+/// calendar. A text that is no valid day is not passed to the control; the field is red as long as
+/// the control has its hint.
 class DateControlView : public QLineEdit {
     Q_OBJECT
 
@@ -27,28 +27,28 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    /// Shows the control's day in place of what was typed.
+    /// Replaces the typed text by the control's day.
     void ShowDay();
-    /// The same, and says no more about what was typed.
+    /// The same, and clears the hint.
     void DiscardTyped();
-    void ShowRefusal();
-    /// Hands the typed text to the control; false if it had to be refused.
+    void ShowValidity();
+    /// Passes the typed text to the control; returns false if it is no valid day.
     [[nodiscard]] bool CommitTyped();
-    /// Hands the typed text to the control, or drops it.
+    /// Passes the typed text to the control, or discards it with a hint.
     void CommitOrDiscard();
 
     bool HandleKey(const QKeyEvent &event);
     bool StepBy(int key);
     void Step(void (DateControl::*step)(int), int count);
-    /// Whether the key is a letter of what is being typed, and no step.
+    /// Returns whether the key is part of the typed text, not a step.
     bool BelongsToText(int key) const;
     void OpenCalendar();
 
     DateControl &control_;
     const UserLocale &locale_;
     QAbstractButton *button_;
-    /// From the press that brought the focus to its release.
-    bool focusingClick_ = false;
-    /// What the wheel has turned beyond the last whole step, in eighths of a degree.
-    int wheelRest_ = 0;
+    /// True between press and release of the click that set the focus.
+    bool isFocusingClick_ = false;
+    /// The rotation of the wheel since the last whole step, in eighths of a degree.
+    int wheelDelta_ = 0;
 };

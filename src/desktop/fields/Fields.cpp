@@ -70,7 +70,7 @@ QLabel *CreateLabel(Label &label, QWidget *parent, Qt::Alignment alignment) {
     BindControl(label, *view);
     const auto show = [view, &label] {
         view->setText(label.Text());
-        view->setAccessibleName(label.SpokenText());
+        view->setAccessibleName(label.AccessibleName());
     };
     show();
     QObject::connect(&label, &Label::Updated, view, show);

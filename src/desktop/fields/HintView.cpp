@@ -33,7 +33,7 @@ void HintView::SetText(const QString &hint) {
 }
 
 QRect HintView::HintRect() const {
-    // Clear of the ring around the field.
+    // Below the focus ring of the field.
     const QPoint corner(0, field_.height() + 2);
     QRect rect(corner, fontMetrics().size(0, hint_).grownBy(margins));
     for (const QWidget *each :
@@ -44,7 +44,7 @@ QRect HintView::HintRect() const {
         }
     }
     rect.translate(field_.mapTo(window(), QPoint()));
-    // Whole in the window, if that is wide enough.
+    // Inside the window, if that is wide enough.
     rect.moveLeft(std::max(0, std::min(rect.left(), window()->width() - rect.width())));
     return rect;
 }

@@ -2,8 +2,8 @@
 
 #include <QWidget>
 
-/// A few words below a field, over what lies there, for as long as there is the field. Clicks go
-/// through them; a message that stands there already stays readable, and they go below it.
+/// Shows a short hint below a field, above other widgets, and is deleted with the field. Mouse
+/// events go to the widgets below. The hint moves down if it would cover a label or message.
 class HintView : public QWidget {
     Q_OBJECT
 
@@ -13,7 +13,7 @@ public:
     /// Shows the hint; an empty text hides it.
     void SetText(const QString &hint);
 
-    /// Moves the hint when what lies around the field has changed.
+    /// Moves the hint when the layout around the field has changed.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:

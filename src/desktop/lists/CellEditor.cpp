@@ -31,7 +31,7 @@ CellEditor::CellEditor(Listbox &list, QWidget *parent)
     setText(list.EditText());
     selectAll();
     AcceptOneLine(*this);
-    // Only what the user types, for a line edit shows some characters otherwise than they are.
+    // Not textChanged: a line edit may alter characters of the text that it is given.
     connect(this, &QLineEdit::textEdited, this, &CellEditor::TextEdited);
     QCoreApplication::instance()->installEventFilter(this);
 }
@@ -72,7 +72,7 @@ void CellEditor::keyPressEvent(QKeyEvent *event) {
         break;
     default:
         QLineEdit::keyPressEvent(event);
-        // An ignored key would reach the list, which removes a record for Delete.
+        // An ignored Delete would reach the list and remove a record.
         if (!MovesSelection(event->key())) {
             event->accept();
         }

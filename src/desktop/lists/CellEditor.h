@@ -5,9 +5,9 @@
 class HintView;
 class Listbox;
 
-/// The line edit over the open cell of a Listbox. Return ends the edit, and so does a click
-/// elsewhere or the loss of the focus; Escape drops it; the list handles Tab. Of the keys that the
-/// line edit does not use, only those that move the selection of the list are passed on to it.
+/// The line edit over the open cell of a Listbox. Return, a click elsewhere and the loss of the
+/// focus end the edit, Escape cancels it, Tab is handled by the list. Of the keys that the line
+/// edit ignores, only those that move the selection are passed to the list.
 class CellEditor : public QLineEdit {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ public:
 
 protected:
     bool event(QEvent *event) override;
-    /// Watches for clicks outside, also on what takes no focus.
+    /// Ends the edit on a click outside, also on a widget that does not accept the focus.
     bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;

@@ -10,7 +10,7 @@ ListHeading::ListHeading(Listbox &list, QWidget *parent)
     setVisible(list.HasHeading());
     setMinimumSectionSize(0);
     setHighlightSections(false);
-    // It is fitted; the toolkit would cut it by the letters before.
+    // The text is fitted below; Qt would elide it by the unfitted font.
     setTextElideMode(Qt::ElideNone);
     setSectionsClickable(list.SortsByHeading());
     connect(this, &QHeaderView::sectionClicked, &list, &Listbox::PressHeading);
@@ -23,11 +23,12 @@ void ListHeading::ShowOrder() {
                      list_.SortsDescending() ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
-void ListHeading::paintSection(QPainter *painter, const QRect &place, int column) const {
+void ListHeading::paintSection(QPainter *painter, const QRect &rect, int column) const {
     const int margin = style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
-    const bool marked = isSortIndicatorShown() && column == list_.SortedColumn();
-    const int mark = marked ? style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, this) : 0;
-    const QRect room = place.adjusted(margin, 0, -margin - mark, 0);
-    painter->setFont(FittedFont(font(), {list_.Heading(column), room}));
-    QHeaderView::paintSection(painter, place, column);
+    const bool hasIndicator = isSortIndicatorShown() && column == list_.SortedColumn();
+    const int indicator =
+        hasIndicator ? style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, this) : 0;
+    const QRect textRect = rect.adjusted(margin, 0, -margin - indicator, 0);
+    painter->setFont(FittedFont(font(), {list_.Heading(column), textRect}));
+    QHeaderView::paintSection(painter, rect, column);
 }

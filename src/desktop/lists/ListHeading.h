@@ -4,8 +4,8 @@
 
 class Listbox;
 
-/// The headings of a Listbox; a click on one sorts. A heading that would not fit its column is made
-/// narrower, and only then smaller.
+/// The headings of a Listbox; a click sorts. A heading that is too long for its column is
+/// condensed, and if that is not enough drawn smaller.
 class ListHeading : public QHeaderView {
     Q_OBJECT
 
@@ -13,7 +13,7 @@ public:
     ListHeading(Listbox &list, QWidget *parent);
 
 protected:
-    void paintSection(QPainter *painter, const QRect &place, int column) const override;
+    void paintSection(QPainter *painter, const QRect &rect, int column) const override;
 
 private:
     void ShowOrder();

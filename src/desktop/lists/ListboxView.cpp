@@ -41,11 +41,11 @@ ListboxView::ListboxView(Listbox &list, QWidget *parent) : QTableView(parent), l
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(0);
     ApplyScale();
-    connect(&list, &Listbox::SelectionMoved, this, &ListboxView::ShowSelection);
+    connect(&list, &Listbox::SelectionChanged, this, &ListboxView::ShowSelection);
     connect(&list, &Listbox::EditOpened, this, &ListboxView::OpenEditor);
     connect(&list, &Listbox::EditClosed, this, &ListboxView::CloseEditor);
     connect(&list, &Listbox::ScrollRequested, this, [this](int row) {
-        // Right after a refill the scroll bar still has the range of the rows before.
+        // After a refill the scroll bar still has the range of the old rows.
         updateGeometries();
         scrollTo(list_.index(row, 0));
     });
@@ -99,13 +99,13 @@ void ListboxView::CloseEditor() {
     if (window()->focusWidget() == editor) {
         setFocus(Qt::OtherFocusReason);
     }
-    // It is gone when the event loop comes round, which may be after a menu or a message.
+    // Hidden now: its deletion waits for the event loop, which may run a menu or dialog first.
     editor->hide();
     setIndexWidget(edited_, nullptr);
 }
 
 void ListboxView::ShowSelection() {
-    const QScopedValueRollback<bool> guard(showing_, true);
+    const QScopedValueRollback<bool> guard(isShowing_, true);
     if (list_.ListIndex() < 0) {
         clearSelection();
         setCurrentIndex({});
@@ -123,7 +123,7 @@ QModelIndex ListboxView::moveCursor(CursorAction action, Qt::KeyboardModifiers m
 
 void ListboxView::selectionChanged(const QItemSelection &now, const QItemSelection &before) {
     QTableView::selectionChanged(now, before);
-    if (!showing_) {
+    if (!isShowing_) {
         const QModelIndexList rows = selectionModel()->selectedRows();
         list_.SetListIndex(rows.isEmpty() ? -1 : rows.first().row());
     }
@@ -149,18 +149,17 @@ void ListboxView::PaintRow(QPainter &painter, int row, int top) {
     }
 }
 
-bool ListboxView::HandlePress(QPoint place) {
-    bool taken = false;
-    Q_EMIT list_.MouseDown(rowAt(place.y()), columnAt(place.x()), taken);
-    if (taken) {
+bool ListboxView::HandlePress(QPoint position) {
+    bool handled = false;
+    Q_EMIT list_.MouseDown(rowAt(position.y()), columnAt(position.x()), handled);
+    if (handled) {
         isPressHandled_ = true;
         return true;
     }
-    const QModelIndex cell = indexAt(place);
+    const QModelIndex cell = indexAt(position);
     if (!cell.isValid()) {
         return false;
     }
-    bool handled = false;
     Q_EMIT list_.CellClick(cell.row(), cell.column(), handled);
     if (!handled) {
         list_.ToggleCheck(cell.row(), cell.column());
@@ -177,8 +176,8 @@ void ListboxView::mousePressEvent(QMouseEvent *event) {
 
 void ListboxView::mouseReleaseEvent(QMouseEvent *event) {
     if (event->button() == Qt::LeftButton && std::exchange(isPressHandled_, false)) {
-        const QPoint place = event->position().toPoint();
-        Q_EMIT list_.MouseUp(rowAt(place.y()), columnAt(place.x()));
+        const QPoint position = event->position().toPoint();
+        Q_EMIT list_.MouseUp(rowAt(position.y()), columnAt(position.x()));
         return;
     }
     QTableView::mouseReleaseEvent(event);
@@ -191,7 +190,7 @@ void ListboxView::mouseDoubleClickEvent(QMouseEvent *event) {
     }
     const QModelIndex cell = indexAt(event->position().toPoint());
     if (list_.IsCheckBox(cell.row(), cell.column())) {
-        // The second of two quick clicks is one more.
+        // A second quick click toggles again.
         mousePressEvent(event);
     } else {
         QTableView::mouseDoubleClickEvent(event);
@@ -214,7 +213,7 @@ bool ListboxView::HandleKey(const QKeyEvent &event) {
         OpenMenu(MenuPosition());
         return true;
     }
-    // The keys of the keypad count too.
+    // Keys of the keypad are allowed.
     if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) {
         return false;
     }
@@ -222,7 +221,7 @@ bool ListboxView::HandleKey(const QKeyEvent &event) {
     switch (event.key()) {
     case Qt::Key_Insert:
     case Qt::Key_Delete:
-        // One press, one record: a key that is held down does no more.
+        // A key that is held down adds or removes only one record.
         if (!event.isAutoRepeat()) {
             Q_EMIT event.key() == Qt::Key_Insert ? AddRequested() : RemoveRequested();
         }
@@ -239,7 +238,7 @@ bool ListboxView::HandleKey(const QKeyEvent &event) {
 }
 
 void ListboxView::OpenRow(int row) {
-    // What a double click on the row's first cell does.
+    // Like a double click on the first cell.
     bool handled = row < 0;
     if (!handled) {
         Q_EMIT list_.CellClick(row, 0, handled);
@@ -271,7 +270,7 @@ void ListboxView::contextMenuEvent(QContextMenuEvent *event) {
     }
     if (const QModelIndex cell = indexAt(event->pos()); cell.isValid()) {
         list_.SetListIndex(cell.row());
-        // The row counts as chosen, as by an arrow key.
+        // As if selected by an arrow key.
         Q_EMIT list_.KeyDown();
     }
     OpenMenu(event->globalPos());

@@ -6,19 +6,19 @@
 
 class Listbox;
 
-/// Shows a Listbox and hands it what the user does.
+/// Shows a Listbox and passes the user's input to it.
 class ListboxView : public QTableView {
     Q_OBJECT
 
 public:
     ListboxView(Listbox &list, QWidget *parent);
 
-    /// The widths of the first columns, in points of the design. Columns of width 0, and those
-    /// without one, share what is left.
+    /// Sets the widths of the first columns, in points of the design. Columns of width 0 and those
+    /// without a width share the remaining space.
     void SetColumnWidths(const std::vector<int> &widths);
 
 Q_SIGNALS:
-    /// The key Insert, or Delete, without a modifier.
+    /// Emitted for the keys Insert and Delete without a modifier.
     void AddRequested();
     void RemoveRequested();
 
@@ -29,12 +29,12 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
-    /// F2 opens the selected row, Space flips its check box, Shift+F10 opens its menu. A key with
-    /// another modifier is no command.
+    /// F2 opens the selected row, Space toggles its check box, Shift+F10 opens its menu. Keys with
+    /// other modifiers are ignored.
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
-    /// Home and End go to the first and the last row: rows are chosen whole.
+    /// Home and End go to the first and the last row.
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
                                                          const QEvent *event) const override;
@@ -46,17 +46,18 @@ private:
     void ToggleChecks(int row);
     void OpenRow(int row);
     void OpenMenu(QPoint position);
+    /// Returns the position of a menu opened by a key: below the selected row.
     QPoint MenuPosition() const;
     void OpenEditor();
     void CloseEditor();
     void ShowSelection();
-    /// Hands a press of the left button to the list; true if the list does no more with it.
-    bool HandlePress(QPoint place);
+    /// Passes a press of the left button to the list; returns true if the list has handled it.
+    bool HandlePress(QPoint position);
     void PaintRow(QPainter &painter, int row, int top);
 
     Listbox &list_;
     std::vector<int> widths_;
     QPersistentModelIndex edited_;
-    bool showing_ = false;
+    bool isShowing_ = false;
     bool isPressHandled_ = false;
 };

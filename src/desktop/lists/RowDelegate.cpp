@@ -10,10 +10,10 @@
 
 namespace {
 
-/// More than any column shows; laying out more would only cost time.
-constexpr int longestShownText = 1000;
+/// More than any column can show.
+constexpr int maxShownLength = 1000;
 
-/// What a cell has for its text.
+/// Returns the rectangle of the text in a cell.
 QRect TextRect(const QRect &cell) {
     constexpr int margin = 3;
     return cell.adjusted(margin, 0, -margin, 0);
@@ -22,7 +22,7 @@ QRect TextRect(const QRect &cell) {
 } // namespace
 
 QString RowDelegate::displayText(const QVariant &value, const QLocale & /*locale*/) const {
-    QString text = value.toString().left(longestShownText);
+    QString text = value.toString().left(maxShownLength);
     for (QChar &each : text) {
         if (each.category() == QChar::Other_Control) {
             each = u' ';
@@ -81,10 +81,10 @@ bool RowDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view,
 void RowDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const {
     QStyledItemDelegate::initStyleOption(option, index);
     option->state &= ~QStyle::State_HasFocus;
-    const QFont narrowed = CondensedFont(option->font, {option->text, TextRect(option->rect)});
-    if (narrowed != option->font) {
-        option->font = narrowed;
-        option->fontMetrics = QFontMetrics(narrowed);
+    const QFont condensed = CondensedFont(option->font, {option->text, TextRect(option->rect)});
+    if (condensed != option->font) {
+        option->font = condensed;
+        option->fontMetrics = QFontMetrics(condensed);
         option->text = option->fontMetrics.elidedText(option->text, option->textElideMode,
                                                       TextRect(option->rect).width());
     }

@@ -2,9 +2,8 @@
 
 #include <QStyledItemDelegate>
 
-/// Draws the cells of a list: each text on one line, a little narrower if it is a little too long,
-/// a check box in the middle of its cell. The row is what is selected: no cell of it is marked on
-/// its own.
+/// Draws the cells of a list: each text on one line, condensed if it is a little too long, a check
+/// box in the centre of its cell. Rows are selected as a whole: no cell shows the focus.
 class RowDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
@@ -15,7 +14,7 @@ public:
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
 
-    /// A text that is cut tells all of itself as a tip.
+    /// Shows a text that is cut as a tool tip.
     bool helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
                    const QModelIndex &index) override;
 
@@ -24,5 +23,6 @@ protected:
 
 private:
     static void PaintBox(QPainter &painter, QStyleOptionViewItem box, bool checked);
+    /// Not by the style, which draws the text one pixel lower in some fonts.
     static void PaintText(QPainter &painter, const QStyleOptionViewItem &cell);
 };

@@ -73,7 +73,7 @@ void EditActions::Update() {
 }
 
 void EditActions::TrackFocus(QWidget *now) {
-    // A menu that is walked through by keys has the focus for a while only.
+    // The menu bar has the focus only while the user navigates it by keys.
     if (now == nullptr || qobject_cast<QMenuBar *>(now) != nullptr) {
         return;
     }

@@ -10,16 +10,16 @@ class QAction;
 class QLineEdit;
 class QWidget;
 
-/// The standard editing entries of a menu, on the text field that has the focus.
+/// The standard actions of an edit menu, for the text field that has the focus.
 class EditActions : public QObject {
     Q_OBJECT
 
 public:
     explicit EditActions(QObject *parent);
 
-    /// Takes an entry if it is one of them, by its name.
+    /// Connects the action if its name is that of a standard action; returns false otherwise.
     bool Connect(QAction &action);
-    /// Enables what can be done now.
+    /// Enables the actions that are possible now.
     void Update();
 
 private:

@@ -7,7 +7,7 @@ class MainWindow;
 class QStackedWidget;
 class UserLocale;
 
-/// The main window on the desktop.
+/// Shows the main window: menu bar, tool bar, pages.
 class MainWindowView : public QMainWindow {
     Q_OBJECT
 

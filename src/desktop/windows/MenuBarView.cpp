@@ -23,7 +23,7 @@ QAction::MenuRole RoleOf(MenuItem::Kind kind) {
     return QAction::NoRole;
 }
 
-/// The toolkit calls the command key Ctrl on every platform.
+/// Qt calls the command key Ctrl on every platform.
 QKeySequence KeysOf(const MenuItem &item) {
     return {item.KeyboardShortcut().replace(u"Cmd+"_s, u"Ctrl+"_s)};
 }

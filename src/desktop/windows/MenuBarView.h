@@ -5,8 +5,8 @@
 class EditActions;
 class MenuItem;
 
-/// Shows a menu bar and hands its items what the user chooses. The editing entries act on the
-/// focused text field, and the quit entry closes the windows, without a handler of the program.
+/// Shows a menu bar; an item emits Action when the user selects it. The editing items act on the
+/// focused text field and the quit item closes the windows, without a handler of the program.
 class MenuBarView : public QMenuBar {
     Q_OBJECT
 

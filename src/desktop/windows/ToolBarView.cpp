@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int widthOfSpace = 16;
+constexpr int spaceWidth = 16;
 
 } // namespace
 
@@ -24,8 +24,8 @@ ToolBarView::ToolBarView(const MainToolbar &bar, const FolderItem &icons, QWidge
     setContextMenuPolicy(Qt::PreventContextMenu);
     setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     setIconSize({32, 32});
-    for (int place = 0; place < bar.Count(); ++place) {
-        ToolItem &item = bar.Item(place);
+    for (int index = 0; index < bar.Count(); ++index) {
+        ToolItem &item = bar.Item(index);
         switch (item.ItemStyle()) {
         case ToolItem::Style::PushButton:
             AddButton(item, icons);
@@ -50,7 +50,7 @@ void ToolBarView::AddButton(ToolItem &item, const FolderItem &icons) {
     const auto show = [action, button, &item] {
         action->setText(item.Caption());
         action->setEnabled(item.Enabled());
-        // Its caption says it all, and a tip would be told after it.
+        // A screen reader would read a tool tip after the equal caption.
         button->setToolTip({});
     };
     show();
@@ -62,7 +62,7 @@ void ToolBarView::AddButton(ToolItem &item, const FolderItem &icons) {
 
 void ToolBarView::AddSpace(QSizePolicy::Policy width) {
     auto *space = new QWidget(this);
-    space->setMinimumWidth(width == QSizePolicy::Fixed ? widthOfSpace : 0);
+    space->setMinimumWidth(width == QSizePolicy::Fixed ? spaceWidth : 0);
     space->setSizePolicy(width, QSizePolicy::Preferred);
     addWidget(space);
 }

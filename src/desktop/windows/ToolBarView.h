@@ -6,9 +6,9 @@ class FolderItem;
 class MainToolbar;
 class ToolItem;
 
-/// Shows the tool bar: buttons with their captions below, lines and spaces between them. The keys
-/// reach the buttons with Tab and press them with Space or Return; a click never takes the focus,
-/// so the list keeps it.
+/// Shows the tool bar: buttons with captions below, separators and spaces. Tab reaches the buttons,
+/// Space and Return press them. A click does not move the focus, so that the list keeps its
+/// commands enabled.
 class ToolBarView : public QToolBar {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ public:
     /// The icons are in the folder.
     ToolBarView(const MainToolbar &bar, const FolderItem &icons, QWidget *parent);
 
-    /// Return presses a button.
+    /// Makes Return press a button.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:

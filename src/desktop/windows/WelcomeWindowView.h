@@ -9,7 +9,7 @@ class TLXCanvasButton;
 class UserLocale;
 class WelcomeWindow;
 
-/// The welcome window on the desktop: pages on the left, three large buttons on the right.
+/// Shows the welcome window: pages on the left, three large buttons on the right.
 class WelcomeWindowView : public QMainWindow {
     Q_OBJECT
 

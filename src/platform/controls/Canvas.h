@@ -5,14 +5,14 @@
 
 #include <memory>
 
-/// An area that the program draws and that answers the mouse.
+/// An area that the program draws, with mouse events.
 class Canvas : public Control {
     Q_OBJECT
 
 public:
     explicit Canvas(const QString &name) : Control(name) {}
 
-    /// The size in points. It is 0 until the canvas shows.
+    /// The size in points, 0 until the canvas is shown.
     int Width() const { return width_; }
     int Height() const { return height_; }
     /// Called by the view when the canvas has been resized.
@@ -21,25 +21,25 @@ public:
         height_ = height;
     }
 
-    /// The picture behind what Paint draws; none at the start.
+    /// Returns the picture drawn before Paint is emitted, null by default.
     const Picture *Backdrop() const { return backdrop_.get(); }
     void SetBackdrop(std::unique_ptr<const Picture> picture) {
         backdrop_ = std::move(picture);
         Refresh();
     }
 
-    /// Whether the second press of a double click is a MouseDown too.
-    virtual bool CountsEachPress() const { return true; }
+    /// Returns whether the second press of a double click emits MouseDown too.
+    virtual bool EmitsMouseDownOnDoubleClick() const { return true; }
 
-    /// Asks for a repaint, the background first.
+    /// Requests a repaint, including the background.
     void Refresh() { Q_EMIT Updated(); }
 
 Q_SIGNALS:
-    /// Comes once, when the canvas has its size, before it shows.
+    /// Emitted once, after the canvas has been sized and before it is shown.
     void Open();
     void Paint(Graphics &graphics);
     void MouseDown(int x, int y);
-    /// Follows every MouseDown, also when the pointer has left the canvas since.
+    /// Emitted after every MouseDown, even if the pointer has left the canvas.
     void MouseUp(int x, int y);
     void MouseEnter();
     void MouseExit();

@@ -5,10 +5,10 @@
 
 #include <utility>
 
-/// What every control has: a name, whether it shows and can be used, and the keyboard focus.
+/// Base class of all controls: object name, visible and enabled state, hint and keyboard focus.
 ///
-/// A control holds state and fires events, and has nothing to draw with: a view shows it and hands
-/// back what the user does. Events run inside the write that sets them off.
+/// A control stores state and emits signals. It draws nothing: a view displays it and calls it on
+/// user input. Handlers run within the call that changes the state.
 class Control : public QObject {
     Q_OBJECT
 
@@ -20,27 +20,27 @@ public:
     bool Enabled() const { return enabled_; }
     void SetEnabled(bool enabled) { Assign(enabled_, enabled); }
 
-    /// What there is to say about what was typed, though nothing of it is refused; empty when all
-    /// is well. The view shows it below the field while that has the focus.
+    /// A remark about the typed text, which is accepted nevertheless; empty if there is none. The
+    /// view shows it below the field while the field has the focus.
     QString Hint() const { return hint_; }
     void SetHint(const QString &hint);
 
-    /// Asks for the keyboard focus, which only a control that shows can take. The control that
-    /// loses it gets LostFocus.
+    /// Requests the keyboard focus, which only a visible control can get. The control that loses
+    /// the focus emits LostFocus.
     void SetFocus() { Q_EMIT FocusRequested(); }
 
 Q_SIGNALS:
     void GotFocus();
     void LostFocus();
-    /// For the view: what it shows has changed. Comes before the event of the control itself.
+    /// For the view: emitted when the displayed state has changed, before the control's own signal.
     void Updated();
-    /// For the view: the hint is another.
+    /// For the view: emitted when the hint has changed.
     void HintChanged();
-    /// For the view: give the control the keyboard focus.
+    /// For the view: emitted to move the keyboard focus to the control.
     void FocusRequested();
 
 protected:
-    /// Sets a member that the view shows and emits Updated if it differs; true if it did.
+    /// Sets a member that the view displays. If the value differs, emits Updated and returns true.
     template <typename Value>
     bool Assign(Value &member, const Value &value) {
         if (std::exchange(member, value) == value) {

@@ -8,34 +8,35 @@ DateControl::DateControl(const QString &name, const Date &start, std::function<D
     : Control(name), day_(start.Day()), now_(std::move(now)) {}
 
 bool DateControl::SetTyped(const QString &text) {
-    refused_ = !SetDay(Read(text));
+    refused_ = !SetDay(ParseDay(text));
     if (refused_) {
-        const QString typed = text.trimmed();
-        SetHint(typed.isEmpty() ? u"Das Datum fehlt."_s : typed + u" ist kein gültiges Datum."_s);
+        const QString trimmed = text.trimmed();
+        SetHint(trimmed.isEmpty() ? u"Das Datum fehlt."_s
+                                  : trimmed + u" ist kein gültiges Datum."_s);
     }
     return !refused_;
 }
 
-QDate DateControl::Read(const QString &text) const {
+QDate DateControl::ParseDay(const QString &text) const {
     static const QRegularExpression iso(u"^(\\d{4})-(\\d\\d?)-(\\d\\d?)$"_s);
-    // Day, month and year, whichever of the forms fits.
+    // The branch reset group numbers day, month and year as 1 to 3 in every alternative.
     static const QRegularExpression german(u"^(?|(\\d\\d?)|(\\d\\d)(\\d\\d)(\\d\\d|\\d{4})?|"
                                            "(\\d\\d?)\\.(\\d\\d?)(?:\\.(\\d\\d|\\d{4})?)?)$"_s);
-    const QString typed = text.trimmed();
-    if (const auto parts = iso.match(typed); parts.hasMatch()) {
-        return {parts.capturedView(1).toInt(), parts.capturedView(2).toInt(),
-                parts.capturedView(3).toInt()};
+    const QString trimmed = text.trimmed();
+    if (const auto match = iso.match(trimmed); match.hasMatch()) {
+        return {match.capturedView(1).toInt(), match.capturedView(2).toInt(),
+                match.capturedView(3).toInt()};
     }
-    const auto parts = german.match(typed);
-    if (!parts.hasMatch()) {
+    const auto match = german.match(trimmed);
+    if (!match.hasMatch()) {
         return {};
     }
-    const QStringView month = parts.capturedView(2);
-    return {YearOf(parts.capturedView(3)), month.isEmpty() ? Month() : month.toInt(),
-            parts.capturedView(1).toInt()};
+    const QStringView month = match.capturedView(2);
+    return {ParseYear(match.capturedView(3)), month.isEmpty() ? Month() : month.toInt(),
+            match.capturedView(1).toInt()};
 }
 
-int DateControl::YearOf(QStringView digits) const {
+int DateControl::ParseYear(QStringView digits) const {
     constexpr int century = 100;
     switch (digits.size()) {
     case 0:

@@ -2,7 +2,7 @@
 
 #include "platform/controls/Control.h"
 
-/// A caption that the program writes.
+/// A text that the user can't edit.
 class Label : public Control {
     Q_OBJECT
 
@@ -11,12 +11,12 @@ public:
 
     QString Text() const { return text_; }
     void SetText(const QString &text) { Assign(text_, text); }
-    /// What assistive tools say in place of the text, as the name of what it is the caption of;
-    /// empty for the text.
-    QString SpokenText() const { return spokenText_; }
-    void SetSpokenText(const QString &text) { Assign(spokenText_, text); }
+    /// The accessible name, which assistive tools use instead of the text to name the labelled
+    /// control; if empty, they use the text.
+    QString AccessibleName() const { return accessibleName_; }
+    void SetAccessibleName(const QString &text) { Assign(accessibleName_, text); }
 
 private:
     QString text_;
-    QString spokenText_;
+    QString accessibleName_;
 };

@@ -2,14 +2,14 @@
 
 #include "platform/controls/Control.h"
 
-/// Pages in one place, one of which shows. A control on a page that goes loses the focus.
+/// A stack of pages, one of which is visible. A control on a page that gets hidden loses the focus.
 class PagePanel : public Control {
     Q_OBJECT
 
 public:
     explicit PagePanel(const QString &name) : Control(name) {}
 
-    /// The shown page, from 0.
+    /// Returns the index of the visible page, from 0.
     int Value() const { return value_; }
     void SetValue(int page) { Assign(value_, page); }
 

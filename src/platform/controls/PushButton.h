@@ -7,7 +7,7 @@ class PushButton : public Control {
     Q_OBJECT
 
 public:
-    /// The default button also takes Return, the cancel button Escape, each while it shows.
+    /// While visible, the default button is also activated by Return, the cancel button by Escape.
     enum class Role { Plain, Default, Cancel };
 
     PushButton(const QString &name, const QString &caption, Role role = Role::Plain)
@@ -16,7 +16,7 @@ public:
     QString Caption() const { return caption_; }
     Role Kind() const { return role_; }
 
-    /// A click; nothing happens while the button is hidden or disabled.
+    /// Emits Action. Does nothing while the button is hidden or disabled.
     void Press() {
         if (Visible() && Enabled()) {
             Q_EMIT Action();

@@ -2,16 +2,16 @@
 
 #include "platform/controls/Canvas.h"
 
-/// A large flat panel to click on: a bright line above, a dark one below, and another fill while
-/// the mouse is over it. It repaints on entering and leaving alone.
+/// A large flat button with a bright line at the top and a dark one at the bottom. Its fill colour
+/// differs while the mouse is over it; only entering and leaving repaint it.
 class TLXCanvasButton : public Canvas {
     Q_OBJECT
 
 public:
     explicit TLXCanvasButton(const QString &name);
 
-    /// A double click presses it once.
-    bool CountsEachPress() const override { return false; }
+    /// A double click is one press.
+    bool EmitsMouseDownOnDoubleClick() const override { return false; }
 
     Color BorderTop{0xFFFFFF};
     Color BorderBottom{0xCCCCCC};

@@ -2,8 +2,8 @@
 
 #include "platform/controls/Canvas.h"
 
-/// A plus and a minus in two square halves. A press counts where it is released, not where it went
-/// down; a release outside the halves fires nothing.
+/// A plus and a minus button in two square halves. The position of the release determines the
+/// signal, not that of the press; a release outside the halves emits nothing.
 class TLXPlusMinusButton : public Canvas {
     Q_OBJECT
 
@@ -12,7 +12,7 @@ public:
 
     Color BorderColor{0xCCCCCC};
     Color HoverColor{0xE6E6E6};
-    /// The fill of the half that is held down.
+    /// The fill colour of the pressed half.
     Color FillColor{0xCCCCCC};
 
 Q_SIGNALS:
@@ -24,7 +24,7 @@ private:
     void Event_Paint(Graphics &graphics);
     void Event_MouseDown(int x);
 
-    /// The side of one half, in points; 0 until the first paint.
+    /// The side length of a half, in points; 0 until the first paint.
     double scaleXY_ = 0;
     bool pushMinus_ = false;
     bool pushPlus_ = false;

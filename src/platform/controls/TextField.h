@@ -2,7 +2,7 @@
 
 #include "platform/controls/Control.h"
 
-/// One line of text that the user types.
+/// A one-line text field.
 class TextField : public Control {
     Q_OBJECT
 
@@ -11,7 +11,7 @@ public:
         : Control(name), text_(text) {}
 
     QString Text() const { return text_; }
-    /// Fires TextChange when the text differs, also for a write by the program.
+    /// Sets the text and emits TextChange if it differs, for changes by the user and the program.
     void SetText(const QString &text) {
         if (Assign(text_, text)) {
             Q_EMIT TextChange();

@@ -2,14 +2,15 @@
 
 #include "platform/outside/FolderItem.h"
 
-/// A colour as 24-bit RGB.
+/// A 24-bit RGB colour.
 struct Color {
     quint32 rgb = 0;
 
     friend bool operator==(Color, Color) = default;
 };
 
-/// A surface to draw on: screen, picture or paper. Coordinates are points from its top left corner.
+/// A surface to draw on: screen, picture or paper. Coordinates are in points from the top left
+/// corner.
 class Graphics {
 public:
     Graphics() = default;
@@ -20,14 +21,14 @@ public:
     virtual double Width() const = 0;
     virtual double Height() const = 0;
 
-    /// The colour of the drawing that follows.
+    /// Sets the colour of all subsequent drawing.
     virtual void SetForeColor(Color color) = 0;
-    /// A line of one point, both of its ends included.
+    /// Draws a line one point wide, including both end points.
     virtual void DrawLine(double x1, double y1, double x2, double y2) = 0;
-    /// An outline of one point, from left and top to left + width and top + height, both included,
-    /// or to the last point of the surface.
+    /// Draws an outline one point wide, from left and top to left + width and top + height
+    /// inclusive, limited to the last point of the surface.
     virtual void DrawRect(double left, double top, double width, double height) = 0;
     virtual void FillRect(double left, double top, double width, double height) = 0;
-    /// The picture in a file, in its own size. A missing file draws nothing.
+    /// Draws the picture in a file at its original size. Draws nothing if the file is missing.
     virtual void DrawPicture(const FolderItem &file, double x, double y) = 0;
 };

@@ -5,8 +5,8 @@
 #include <functional>
 #include <vector>
 
-/// An off-screen picture to draw into. It keeps the drawing and not its points, so that it is sharp
-/// on a screen of any resolution.
+/// An off-screen picture. Records drawing commands instead of pixels, so that it is sharp at any
+/// screen resolution.
 class Picture : public Graphics {
 public:
     Picture(double width, double height) : width_(width), height_(height) {}
@@ -19,13 +19,13 @@ public:
     void FillRect(double left, double top, double width, double height) override;
     void DrawPicture(const FolderItem &file, double x, double y) override;
 
-    /// Repeats what was drawn here on another surface.
+    /// Replays the recorded commands on another surface.
     void DrawOn(Graphics &surface) const;
 
 private:
-    using Step = std::function<void(Graphics &)>;
+    using Command = std::function<void(Graphics &)>;
 
     double width_;
     double height_;
-    std::vector<Step> steps_;
+    std::vector<Command> commands_;
 };

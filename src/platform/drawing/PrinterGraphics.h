@@ -4,20 +4,19 @@
 
 #include <QString>
 
-/// Paper, page by page: what every surface can, and text. Coordinates are points from the top left
-/// corner of the paper, whatever the resolution of the printer. Letting go of it ends the print
-/// job.
+/// A print job: a surface with text and pages. Coordinates are in points from the top left corner
+/// of the paper, independent of the printer's resolution. The destructor ends the print job.
 class PrinterGraphics : public Graphics {
 public:
-    /// The font of the text that follows, by its family and its size in points.
+    /// SetTextFont and SetTextSize set the font family, and the size in points, of subsequent text.
     virtual void SetTextFont(const QString &family) = 0;
     virtual void SetTextSize(double size) = 0;
     virtual void SetBold(bool bold) = 0;
     virtual void SetUnderline(bool underline) = 0;
-    /// The height of a line in the current font and size, in points.
+    /// Returns the line height in the current font, in points.
     virtual double TextHeight() const = 0;
-    /// One line that is never wrapped, with its baseline at y.
+    /// Draws one line of text without wrapping, with its baseline at y.
     virtual void DrawString(const QString &text, double x, double y) = 0;
-    /// Ends the page; what follows is drawn on the next.
+    /// Ends the page and begins the next one.
     virtual void NextPage() = 0;
 };

@@ -6,12 +6,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The place of a row among values that exist only up to the last in use.
+/// Returns an iterator to the value of a row, after growing the container if it is too short.
 template <typename Values>
 auto ElementAt(Values &values, int row) {
-    const auto place = static_cast<size_t>(row);
-    if (place >= values.size()) {
-        values.resize(place + 1);
+    const auto index = static_cast<size_t>(row);
+    if (index >= values.size()) {
+        values.resize(index + 1);
     }
     return values.begin() + row;
 }
@@ -28,9 +28,9 @@ void Reorder(Values &values, const std::vector<int> &order) {
     }
     values.resize(order.size());
     Values ordered(order.size());
-    auto place = ordered.begin();
+    auto target = ordered.begin();
     for (const int row : order) {
-        *place++ = std::move(values[static_cast<size_t>(row)]);
+        *target++ = std::move(values[static_cast<size_t>(row)]);
     }
     values = std::move(ordered);
 }
@@ -46,13 +46,13 @@ void Reorder(TextColumn &texts, const std::vector<int> &order) {
 } // namespace
 
 void CellModel::BeginRefill() {
-    if (refills_++ == 0) {
+    if (refillDepth_++ == 0) {
         beginResetModel();
     }
 }
 
 void CellModel::EndRefill() {
-    if (--refills_ == 0) {
+    if (--refillDepth_ == 0) {
         endResetModel();
     }
 }
@@ -79,8 +79,8 @@ void CellModel::ReorderRows(const std::vector<int> &order) {
 }
 
 void CellModel::AddRow(const QString &text) {
-    const bool isNotified = IsRefilling();
-    if (!isNotified) {
+    const bool isRefilling = IsRefilling();
+    if (!isRefilling) {
         beginInsertRows({}, ListCount(), ListCount());
     }
     for (Column &column : columns_) {
@@ -88,7 +88,7 @@ void CellModel::AddRow(const QString &text) {
     }
     columns_.front().cells.Set(ListCount(), text);
     rowTags_.Add({});
-    if (!isNotified) {
+    if (!isRefilling) {
         endInsertRows();
     }
 }
@@ -106,25 +106,25 @@ QString CellModel::Cell(int row, int column) const {
 QString CellModel::JoinedCells(int begin, int end, int column) const {
     const int first = std::max(column, 0);
     const int last = column < 0 ? ColumnCount() - 1 : column;
-    // A year is some megabytes: they are allocated once.
+    // The text of a year is several megabytes, so allocate it only once.
     qsizetype size = qsizetype(end - begin) * (last - first + 1);
-    for (int each = first; each <= last; ++each) {
-        size += ColumnAt(each).cells.LengthOf(begin, end);
+    for (int current = first; current <= last; ++current) {
+        size += ColumnAt(current).cells.LengthOf(begin, end);
     }
-    QString all(size, Qt::Uninitialized);
-    QChar *place = all.data();
+    QString joined(size, Qt::Uninitialized);
+    QChar *target = joined.data();
     for (int row = begin; row < end; ++row) {
-        for (int each = first; each <= last; ++each) {
-            const QStringView cell = ColumnAt(each).cells.At(row);
-            place = std::copy(cell.begin(), cell.end(), place);
-            *place++ = each == last ? u'\n' : u'\t';
+        for (int current = first; current <= last; ++current) {
+            const QStringView cell = ColumnAt(current).cells.At(row);
+            target = std::copy(cell.begin(), cell.end(), target);
+            *target++ = current == last ? u'\n' : u'\t';
         }
     }
-    all.chop(1);
-    return all;
+    joined.chop(1);
+    return joined;
 }
 
-void CellModel::ShowCell(int row, int column) {
+void CellModel::NotifyCellChanged(int row, int column) {
     if (!IsRefilling()) {
         Q_EMIT dataChanged(index(row, column), index(row, column));
     }
@@ -133,7 +133,7 @@ void CellModel::ShowCell(int row, int column) {
 void CellModel::SetCell(int row, int column, const QString &text) {
     if (Has(row, column)) {
         ColumnAt(column).cells.Set(row, text);
-        ShowCell(row, column);
+        NotifyCellChanged(row, column);
     }
 }
 
@@ -156,7 +156,7 @@ bool CellModel::CellCheck(int row, int column) const {
 void CellModel::SetCellCheck(int row, int column, bool checked) {
     if (Has(row, column)) {
         *ElementAt(ColumnAt(column).checks, row) = checked;
-        ShowCell(row, column);
+        NotifyCellChanged(row, column);
     }
 }
 
@@ -203,8 +203,8 @@ QString CellModel::Heading(int column) const {
         return HasColumn(column) ? ColumnAt(column).heading : QString();
     }
     QString headings;
-    for (const Column &each : columns_) {
-        headings += each.heading + u'\t';
+    for (const Column &current : columns_) {
+        headings += current.heading + u'\t';
     }
     headings.chop(1);
     return headings;

@@ -10,24 +10,24 @@
 #include <variant>
 #include <vector>
 
-/// The rows and columns of a list: what stands in the cells and over them. Rows and columns count
-/// from 0, -1 is none; outside the list cells and tags read as empty, and nothing can be written.
+/// The table model of a list: cells, tags and column headings. Rows and columns count from 0, -1 is
+/// none. Outside of the list, cells and tags read as empty, and writing has no effect.
 class CellModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    /// A value stored with a cell, which the list does not show.
+    /// A value stored with a cell and not displayed.
     using Tag = std::variant<std::monostate, QString, Date>;
     enum class Alignment { Default = 0, Right = 3 };
     enum class ColumnType { Default = 0, CheckBox = 2 };
 
-    /// Whole rows, column by column. A column of cells or tags that is too short reads as empty
-    /// beyond its end.
+    /// The contents of a list, by column. A column of cells or tags that is too short reads as
+    /// empty beyond its end.
     struct Rows {
         explicit Rows(int columnCount)
             : cells(static_cast<size_t>(columnCount)), cellTags(static_cast<size_t>(columnCount)) {}
 
-        /// One for each row.
+        /// One tag per row; their number is the number of rows.
         TextColumn tags;
         std::vector<TextColumn> cells;
         std::vector<std::deque<Tag>> cellTags;
@@ -35,18 +35,18 @@ public:
 
     explicit CellModel(int columnCount) : columns_(static_cast<size_t>(columnCount)) {}
 
-    /// Adds a row with the text in column 0; it is LastIndex then.
+    /// Appends a row with the text in column 0; LastIndex is then its index.
     void AddRow(const QString &text);
     int ListCount() const { return rowTags_.Count(); }
     int LastIndex() const { return ListCount() - 1; }
 
-    /// Row -1 stands for all rows, column -1 for all columns: cells are then joined by a Tab, rows
-    /// by a line feed.
+    /// Returns the text of a cell. Row -1 means all rows, column -1 all columns: the cells of a row
+    /// are then joined by a tab, the rows by a line feed.
     QString Cell(int row, int column) const;
-    /// All texts of a column that exists, as they lie there.
-    const TextColumn &CellsOf(int column) const { return ColumnAt(column).cells; }
+    /// Returns all texts of a column, which must exist.
+    const TextColumn &ColumnTexts(int column) const { return ColumnAt(column).cells; }
     void SetCell(int row, int column, const QString &text);
-    /// Writes one column from the first row to the last, one text to a row, and shows it at once.
+    /// Replaces all texts of a column, with one update of the view.
     void SetColumn(int column, TextColumn texts);
     bool CellCheck(int row, int column) const;
     void SetCellCheck(int row, int column, bool checked);
@@ -54,7 +54,7 @@ public:
     QString RowTag(int row) const;
     const TextColumn &RowTags() const { return rowTags_; }
     void SetRowTag(int row, const QString &tag);
-    /// The first row with the tag, -1 if there is none.
+    /// Returns the first row with the tag, -1 if there is none.
     int FindRow(const QString &tag) const;
 
     int ColumnCount() const { return static_cast<int>(columns_.size()); }
@@ -62,12 +62,12 @@ public:
     ColumnType TypeOfColumn(int column) const {
         return HasColumn(column) ? ColumnAt(column).type : ColumnType::Default;
     }
-    /// A check box column shows a box in each cell, and no text.
+    /// A check box column displays a check box in each cell instead of text.
     void SetColumnType(int column, ColumnType type);
     bool HasHeading() const { return hasHeading_; }
-    /// To be set before the list shows.
+    /// Call this before the list is shown.
     void SetHasHeading(bool hasHeading) { hasHeading_ = hasHeading; }
-    /// Column -1 stands for all headings, joined by a Tab.
+    /// Returns a column heading. Column -1 means all headings, joined by a tab.
     QString Heading(int column) const;
     void SetHeading(int column, const QString &text);
 
@@ -81,23 +81,23 @@ protected:
     bool Has(int row, int column) const { return Has(row) && HasColumn(column); }
     bool HasColumn(int column) const { return column >= 0 && column < ColumnCount(); }
 
-    /// Between the outermost of these calls the view waits, and is then shown all rows anew.
+    /// Begin and end a model reset. Calls can be nested; only the outermost pair resets the model.
     void BeginRefill();
     void EndRefill();
-    bool IsRefilling() const { return refills_ > 0; }
-    /// Both only in a refill.
+    bool IsRefilling() const { return refillDepth_ > 0; }
+    /// Call ReplaceRows and ReorderRows only during a refill.
     void ReplaceRows(Rows rows);
-    /// Puts the row of the first index first, and so on; each index stands once.
+    /// Moves the row with index order[i] to index i. The order contains each index once.
     void ReorderRows(const std::vector<int> &order);
 
 private:
-    /// Column by column instead of row by row: thousands of rows then cost no memory of their own.
+    /// Cells are stored by column, so that thousands of rows need no allocations of their own.
     struct Column {
         QString heading;
         Alignment alignment = Alignment::Default;
         ColumnType type = ColumnType::Default;
         TextColumn cells;
-        /// These two reach to the last row that has one.
+        /// Tags and checks may be shorter than the list; missing elements are empty.
         std::deque<Tag> tags;
         std::vector<bool> checks;
     };
@@ -106,10 +106,10 @@ private:
     Column &ColumnAt(int column) { return columns_[static_cast<size_t>(column)]; }
     QString JoinedCells(int begin, int end, int column) const;
     QVariant AlignmentOf(int column) const;
-    void ShowCell(int row, int column);
+    void NotifyCellChanged(int row, int column);
 
     std::vector<Column> columns_;
     TextColumn rowTags_;
-    int refills_ = 0;
+    int refillDepth_ = 0;
     bool hasHeading_ = false;
 };

@@ -2,26 +2,26 @@
 
 void ComboBox::SetListIndex(int index) {
     index = ValidIndex(index);
-    Show(index, List(index));
+    SetSelection(index, List(index));
 }
 
 void ComboBox::SetText(const QString &text) {
-    Show(text == List(listIndex_) ? listIndex_ : -1, text);
+    SetSelection(text == List(listIndex_) ? listIndex_ : -1, text);
 }
 
-void ComboBox::ForgetSelection() {
-    Show(-1, {});
+void ComboBox::ClearSelection() {
+    SetSelection(-1, {});
 }
 
-void ComboBox::Show(int index, const QString &text) {
-    const bool sameText = text == text_;
-    if (index == listIndex_ && sameText) {
+void ComboBox::SetSelection(int index, const QString &text) {
+    const bool isSameText = text == text_;
+    if (index == listIndex_ && isSameText) {
         return;
     }
     listIndex_ = index;
     text_ = text;
     Q_EMIT Updated();
-    if (!sameText) {
+    if (!isSameText) {
         Q_EMIT TextChanged();
     }
 }

@@ -2,27 +2,28 @@
 
 #include "platform/lists/SelectionControl.h"
 
-/// A text field with rows to choose from; the text may be one that no row has.
+/// A text field with a list of rows to choose from. The text may differ from all rows.
 class ComboBox : public SelectionControl {
     Q_OBJECT
 
 public:
     explicit ComboBox(const QString &name) : SelectionControl(name) {}
 
-    /// Shows the row's text; without a row the text is emptied.
+    /// Selects the row and sets the text to that of the row, or clears both if there is no such
+    /// row.
     void SetListIndex(int index) override;
     QString Text() const override { return text_; }
-    /// As soon as the text is not the selected row's any more, no row is selected.
+    /// Clears the selection if the text differs from that of the selected row.
     void SetText(const QString &text);
 
 Q_SIGNALS:
     void TextChanged();
 
 protected:
-    void ForgetSelection() override;
+    void ClearSelection() override;
 
 private:
-    void Show(int index, const QString &text);
+    void SetSelection(int index, const QString &text);
 
     QString text_;
 };

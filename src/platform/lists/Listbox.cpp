@@ -16,7 +16,7 @@ void Listbox::Refill(const std::function<void()> &fill) {
     fill();
     EndRefill();
     if (!IsRefilling()) {
-        Q_EMIT SelectionMoved();
+        Q_EMIT SelectionChanged();
     }
 }
 
@@ -37,7 +37,7 @@ void Listbox::SetListIndex(int row) {
     }
     listIndex_ = row;
     if (!IsRefilling()) {
-        Q_EMIT SelectionMoved();
+        Q_EMIT SelectionChanged();
     }
 }
 
@@ -121,18 +121,18 @@ void Listbox::EndEdit() {
         return;
     }
     const Edit edit = std::exchange(edit_, {});
-    const bool changed = edit.text != edit.before;
-    if (changed) {
+    const bool isChanged = edit.text != edit.originalText;
+    if (isChanged) {
         SetCell(edit.row, edit.column, edit.text);
     }
     Q_EMIT EditClosed();
-    if (changed) {
+    if (isChanged) {
         Q_EMIT CellAction(edit.row, edit.column);
     }
 }
 
 void Listbox::CancelEdit() {
-    edit_.text = edit_.before;
+    edit_.text = edit_.originalText;
     EndEdit();
 }
 

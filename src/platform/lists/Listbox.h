@@ -7,101 +7,104 @@
 
 class MenuItem;
 
-/// A list of rows, at most one of them selected and at most one cell open for typing. It is the
-/// model that its view shows.
+/// A list with at most one selected row and at most one cell open for editing. It is the model of
+/// its view.
 ///
-/// What has been typed belongs to its own row: before the rows change or another row is selected,
-/// the open cell is closed and written. A handler of CellAction must not change the rows.
+/// Before the rows change or another row is selected, the open cell is closed and its text is
+/// written, so that typed text goes to the row it was typed in. A handler of CellAction must not
+/// change the rows.
 class Listbox : public CellModel {
     Q_OBJECT
 
 public:
     Listbox(const QString &name, int columnCount);
 
-    /// Lets the view wait while rows are deleted and added, and then shows them as a whole.
+    /// Calls fill, which may delete and add rows, within one model reset.
     void Refill(const std::function<void()> &fill);
 
-    /// Puts these in the place of all rows, and leaves no selection.
+    /// Replaces all rows and clears the selection.
     void SetRows(Rows rows);
     void DeleteAllRows() { SetRows(Rows(ColumnCount())); }
 
     int ListIndex() const { return listIndex_; }
     void SetListIndex(int row);
-    /// Whether the user can't clear the selection; the program always can.
+    /// Returns whether the user can't clear the selection. The program can always clear it.
     bool RequiresSelection() const { return requiresSelection_; }
     void SetRequiresSelection(bool required) { requiresSelection_ = required; }
 
-    /// Brings the row into view.
+    /// Scrolls the row into view.
     void ScrollTo(int row);
 
-    /// The column that Sort sorts by; -1 at the start, and nothing is sorted.
+    /// Returns the column that Sort sorts by; -1, the default, means unsorted.
     int SortedColumn() const { return sortedColumn_; }
     bool SortsDescending() const { return descending_; }
-    /// Ascending; takes effect with the next Sort.
+    /// Sets the sorted column, in ascending order. Takes effect with the next Sort.
     void SetSortedColumn(int column) { SetOrder(column, false); }
-    /// Sorts by the sorted column, asking CompareRows, else by the texts in the order of a German
-    /// dictionary, without regard to case.
-    /// Rows that compare as equal keep their order; the selection stays with its row.
+    /// Sorts by the sorted column. Rows are compared by a handler of CompareRows, or else by their
+    /// texts in German collation order, ignoring case. The sort is stable; the same row remains
+    /// selected.
     void Sort();
-    /// Whether a click on a heading sorts, as it does from the start.
+    /// Returns whether a click on a heading sorts the list; true by default.
     bool SortsByHeading() const { return sortsByHeading_; }
     void SetSortsByHeading(bool sorts) { sortsByHeading_ = sorts; }
-    /// A click on a heading: sorts by the column ascending, or the other way round if the list is
-    /// sorted by it already.
+    /// Handles a click on a heading: sorts by the column in ascending order, or reverses the order
+    /// if the list is already sorted by that column.
     void PressHeading(int column);
 
-    /// Ends the edit, selects the row, brings it into view and opens the cell. A cell outside the
-    /// list, a check box and a list that is being refilled open nothing.
+    /// Ends the current edit, selects the row, scrolls it into view and opens the cell. Opens
+    /// nothing if the cell does not exist or is a check box, or during a refill.
     void EditCell(int row, int column);
-    /// The open cell, -1 when none is.
+    /// EditedRow and EditedColumn return the open cell, -1 if there is none.
     int EditedRow() const { return edit_.row; }
     int EditedColumn() const { return edit_.column; }
-    /// What stands in the open cell. The cell keeps its own text until the end.
+    /// Returns the text in the editor. The text of the cell is not changed before EndEdit.
     QString EditText() const { return edit_.text; }
     void SetEditText(const QString &text);
-    /// Closes the cell and fires EditClosed. If the text is another than in the beginning, the cell
-    /// takes it, and CellAction follows.
+    /// Closes the cell and emits EditClosed. If the text was changed, it is written to the cell
+    /// before that, and CellAction is emitted after it.
     void EndEdit();
-    /// Closes the cell, which keeps its text.
+    /// Closes the cell without changing its text.
     void CancelEdit();
-    /// Whether there is such a cell, and it shows a check box.
+    /// Returns whether the cell exists and is a check box.
     bool IsCheckBox(int row, int column) const;
-    /// A click on a check box: ends the edit, then flips the box and fires CellAction. Does nothing
-    /// where there is none.
+    /// Handles a click on a check box: ends the current edit, toggles the check box and emits
+    /// CellAction. In any other cell only the edit is ended.
     void ToggleCheck(int row, int column);
 
 Q_SIGNALS:
-    /// The button went down, over this cell, before anything else. Taken means that neither
-    /// CellClick nor a change of the selection follows, but MouseUp.
+    /// Emitted when the mouse button is pressed over the cell, before any other signal. If handled
+    /// is set, MouseUp follows, but no CellClick and no change of the selection.
     void MouseDown(int row, int column, bool &handled);
-    /// The button went up after a taken MouseDown, over this cell.
+    /// Emitted when the mouse button is released over the cell after a handled MouseDown.
     void MouseUp(int row, int column);
-    /// A click in a cell, before the selection moves on. Handled means that the list does no more.
+    /// Emitted on a click in a cell, before the selection changes. If handled is set, the list does
+    /// nothing else.
     void CellClick(int row, int column, bool &handled);
     void DoubleClick();
-    /// A key went to the list while a row is selected, as the arrows do.
+    /// Emitted on a key press in the list, such as an arrow key, while a row is selected.
     void KeyDown();
     void LostFocus();
-    /// The user has changed the cell: its edit ended with another text, or its box was flipped.
+    /// Emitted when the user has changed the text of the cell or toggled its check box.
     void CellAction(int row, int column);
-    /// A key in the open cell that is no text, such as the Tab u'\t'.
+    /// Emitted on a key in the open cell that enters no text, such as Tab (u'\t').
     void CellKeyDown(int row, int column, QChar key);
-    /// Asks for a hint about what is being typed in the open cell; empty when all is well.
+    /// Requests a hint about the text typed in the open cell; empty if there is none.
     void HintRequested(int column, const QString &text, QString &hint);
-    /// Asks for the background of a cell, also of the empty rows below the last one.
+    /// Emitted to paint the background of a cell, also in the empty rows below the last one.
     void CellBackgroundPaint(Graphics &graphics, int row, int column);
-    /// Asks how two rows compare: the handler sets the result to -1, 0 or 1 and handled to true.
+    /// Emitted to compare two rows: a handler sets result to -1, 0 or 1, and handled to true.
     void CompareRows(int first, int second, int column, int &result, bool &handled);
 
-    /// Asks for a context menu: the handler appends its entries to the base.
+    /// Emitted to build a context menu: a handler appends the menu items to base.
     void ConstructContextualMenu(MenuItem &base);
     void ContextualMenuAction(const MenuItem &chosen);
 
-    /// For the view: the selected row is another. Follows every Refill too.
-    void SelectionMoved();
-    /// For the view: bring the row into view.
+    /// For the view: emitted when the selected row has changed, and after every Refill.
+    void SelectionChanged();
+    /// For the view: emitted to scroll the row into view.
     void ScrollRequested(int row);
-    /// For the view: a cell has opened and wants the focus; the cell has closed.
+    /// For the view: emitted when a cell was opened, which then needs the focus, and when it was
+    /// closed.
     void EditOpened();
     void EditClosed();
 
@@ -109,14 +112,14 @@ private:
     struct Edit {
         int row = -1;
         int column = -1;
-        QString before;
+        QString originalText;
         QString text;
     };
 
     bool CanEdit(int row, int column) const;
     void SetOrder(int column, bool descending);
     bool Less(int first, int second);
-    /// Ends the edit, and closes what a handler of CellAction may have opened.
+    /// Ends the current edit, and cancels an edit that a handler of CellAction may have opened.
     void CloseOpenCell();
 
     Edit edit_;

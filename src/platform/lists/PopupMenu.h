@@ -2,7 +2,7 @@
 
 #include "platform/lists/SelectionControl.h"
 
-/// A pop-up list to choose one row from.
+/// A button that opens a list to choose one row from.
 class PopupMenu : public SelectionControl {
     Q_OBJECT
 
@@ -14,11 +14,11 @@ public:
             Q_EMIT Change();
         }
     }
-    /// The selected row's text, empty without a selection.
+    /// Returns the text of the selected row, empty if there is none.
     QString Text() const override { return List(ListIndex()); }
 
 Q_SIGNALS:
-    /// Another row is selected, by the user or by the program. After DeleteAllRows any row is
-    /// another.
+    /// Emitted when the user or the program selects a different row. After DeleteAllRows every row
+    /// is different.
     void Change();
 };

@@ -56,6 +56,6 @@ void SelectionControl::AddRow(const QString &text) {
 
 void SelectionControl::SetRows(std::vector<Row> rows) {
     rows_.SetRows(std::move(rows));
-    ForgetSelection();
+    ClearSelection();
     Q_EMIT Updated();
 }

@@ -6,11 +6,11 @@ void TextColumn::Add(QStringView text) {
 }
 
 void TextColumn::Set(int index, QStringView text) {
-    const qsizetype before = End(index) - Begin(index);
-    text_.replace(static_cast<size_t>(Begin(index)), static_cast<size_t>(before), text.utf16(),
+    const qsizetype oldSize = End(index) - Begin(index);
+    text_.replace(static_cast<size_t>(Begin(index)), static_cast<size_t>(oldSize), text.utf16(),
                   static_cast<size_t>(text.size()));
     for (auto end = ends_.begin() + index; end != ends_.end(); ++end) {
-        *end += text.size() - before;
+        *end += text.size() - oldSize;
     }
 }
 

@@ -6,7 +6,7 @@
 
 MenuItem::MenuItem(const Properties &properties)
     : text_(properties.text.toString()), keyboardShortcut_(properties.keyboardShortcut.toString()),
-      word_(properties.word.toString()), kind_(properties.kind),
+      command_(properties.command.toString()), kind_(properties.kind),
       autoEnable_(properties.autoEnable) {
     setObjectName(properties.name);
 }

@@ -6,21 +6,21 @@
 #include <memory>
 #include <vector>
 
-/// An entry of a menu, and the entries under it.
+/// A menu item and its submenu.
 class MenuItem : public QObject {
     Q_OBJECT
 
 public:
-    /// The last three stand in the application menu where the platform has one.
+    /// On a platform with an application menu, the last three are moved there.
     enum class Kind { Plain, Apple, Prefs, Quit };
     struct Properties {
         QStringView name;
-        /// With an ampersand before the mnemonic letter; "-" is a separator.
+        /// An ampersand precedes the mnemonic character; "-" is a separator.
         QStringView text;
-        /// A letter after "Cmd+", the platform's command key.
+        /// "Cmd+", for the platform's command key, followed by a character.
         QStringView keyboardShortcut = {};
-        /// The command that it runs, empty for none of the window's.
-        QStringView word = {};
+        /// The window command that the item runs, empty if it runs none.
+        QStringView command = {};
         Kind kind = Kind::Plain;
         bool autoEnable = true;
     };
@@ -30,11 +30,11 @@ public:
 
     QString Text() const { return text_; }
     QString KeyboardShortcut() const { return keyboardShortcut_; }
-    QString Word() const { return word_; }
+    QString Command() const { return command_; }
     Kind ItemKind() const { return kind_; }
 
-    /// With autoEnable it is enabled while somebody is connected to its Action, without it as it
-    /// was told, disabled at first.
+    /// With autoEnable, returns whether a slot is connected to Action; otherwise the value set by
+    /// SetEnabled, false by default.
     bool Enabled() const;
     void SetEnabled(bool enabled);
     bool Visible() const { return visible_; }
@@ -45,20 +45,20 @@ public:
     int Count() const { return static_cast<int>(items_.size()); }
     MenuItem &Item(int index) { return *items_[static_cast<size_t>(index)]; }
     const MenuItem &Item(int index) const { return *items_[static_cast<size_t>(index)]; }
-    /// The entry of that name under this one. Without it the program ends, and says what is
-    /// missing.
+    /// Returns the direct child with the given object name. Terminates the program with a message
+    /// if there is none.
     MenuItem &Child(QStringView name);
 
 Q_SIGNALS:
-    /// The user has chosen the entry.
+    /// Emitted when the user has chosen the item.
     void Action();
-    /// For the view: how it shows has changed.
+    /// For the view: emitted when the enabled or visible state was set.
     void Updated();
 
 private:
     QString text_;
     QString keyboardShortcut_;
-    QString word_;
+    QString command_;
     Kind kind_ = Kind::Plain;
     bool autoEnable_ = true;
     bool enabled_ = false;

@@ -2,8 +2,8 @@
 
 #include "platform/controls/Control.h"
 
-/// An item of the tool bar: a button, which is a picture with a caption below, or what stands
-/// between the buttons.
+/// An item of the tool bar: a button, which is a picture with a caption below it, or a separator or
+/// space between the buttons.
 class ToolItem : public Control {
     Q_OBJECT
 
@@ -13,8 +13,8 @@ public:
         QStringView name;
         QStringView caption = u"Untitled";
         QStringView icon = {};
-        /// The command that it runs, empty for what is no button.
-        QStringView word = {};
+        /// The command that the button runs, empty for other items.
+        QStringView command = {};
         Style style = Style::PushButton;
         bool enabled = true;
     };
@@ -22,16 +22,16 @@ public:
     explicit ToolItem(const Properties &properties)
         : Control(properties.name.toString()), style_(properties.style),
           caption_(properties.caption.toString()), icon_(properties.icon.toString()),
-          word_(properties.word.toString()) {
+          command_(properties.command.toString()) {
         SetEnabled(properties.enabled);
     }
 
     Style ItemStyle() const { return style_; }
     QString Caption() const { return caption_; }
     void SetCaption(const QString &caption) { Assign(caption_, caption); }
-    /// The file name of its picture among the program's resources.
+    /// Returns the file name of the picture in the program's resources folder.
     QString Icon() const { return icon_; }
-    QString Word() const { return word_; }
+    QString Command() const { return command_; }
 
 Q_SIGNALS:
     void Action();
@@ -40,5 +40,5 @@ private:
     Style style_;
     QString caption_;
     QString icon_;
-    QString word_;
+    QString command_;
 };

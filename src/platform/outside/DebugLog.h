@@ -2,6 +2,6 @@
 
 #include <QString>
 
-/// Writes a line to the debug log, which the user never sees. It is off unless the environment asks
-/// for it with QT_LOGGING_RULES="zolmark.debug=true".
+/// Writes a line to the debug log, which is never shown to the user. Disabled by default; set
+/// QT_LOGGING_RULES="zolmark.debug=true" in the environment to enable it.
 void DebugLog(const QString &line);

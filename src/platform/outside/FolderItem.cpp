@@ -34,26 +34,26 @@ bool FolderItem::Delete() const {
     return QFile::remove(path_);
 }
 
-void FolderItem::DeleteFiles(const QString &beginning) const {
+void FolderItem::DeleteFiles(const QString &prefix) const {
     const QDir folder(path_);
-    for (const QString &name : folder.entryList({beginning + u'*'}, QDir::Files | QDir::Hidden)) {
-        // Nobody has to hear of it, and nothing is worse than before.
+    for (const QString &name : folder.entryList({prefix + u'*'}, QDir::Files | QDir::Hidden)) {
+        // A failure is ignored: the file remains as it was.
         static_cast<void>(QFile::remove(folder.filePath(name)));
     }
 }
 
-bool FolderItem::MoveTo(const FolderItem &place) const {
+bool FolderItem::MoveTo(const FolderItem &target) const {
     const std::filesystem::path from = QFileInfo(path_).filesystemFilePath();
-    const std::filesystem::path to = QFileInfo(place.path_).filesystemFilePath();
+    const std::filesystem::path to = QFileInfo(target.path_).filesystemFilePath();
     std::error_code error;
-    // A second name is never given over one that is there; a rename would replace the file.
+    // create_hard_link() fails if the target exists, whereas rename() would replace it.
     std::filesystem::create_hard_link(from, to, error);
     if (!error) {
-        // With two names the file is in its place no less.
+        // The move succeeds even if the old name can't be removed.
         static_cast<void>(Delete());
         return true;
     }
-    // Some disks know one name alone for a file.
+    // Some file systems do not support hard links: fall back to rename().
     if (std::filesystem::exists(std::filesystem::symlink_status(to, error))) {
         return false;
     }

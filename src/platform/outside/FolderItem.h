@@ -2,7 +2,7 @@
 
 #include <QString>
 
-/// A path to a file or folder that may exist or not.
+/// The path of a file or folder, which need not exist.
 class FolderItem {
 public:
     explicit FolderItem(const QString &path) : path_(path) {}
@@ -11,18 +11,18 @@ public:
     FolderItem Child(const QString &name) const;
     FolderItem Parent() const;
     bool Exists() const;
-    /// Whether both lead to the same file, which is there.
+    /// Returns whether both paths refer to the same existing file.
     bool IsSameFileAs(const FolderItem &other) const;
-    /// Makes the folder, and those above it that are missing, for their owner alone, whatever the
-    /// system's habit is; false when that fails or something else has the name.
+    /// Creates the folder and all missing parent folders with permissions for their owner only,
+    /// independent of the umask. Returns false if that fails or the path already exists.
     [[nodiscard]] bool CreateAsFolder() const;
-    /// Removes the file; false when that fails.
+    /// Removes the file. Returns false on failure.
     [[nodiscard]] bool Delete() const;
-    /// Removes the files in this folder whose names begin so. What can't be removed stays.
-    void DeleteFiles(const QString &beginning) const;
-    /// Gives the file another place on the same disk; false, and nothing has changed, when that
-    /// fails or anything stands there, a link to nowhere included.
-    [[nodiscard]] bool MoveTo(const FolderItem &place) const;
+    /// Removes the files in this folder whose names begin with the prefix. Failures are ignored.
+    void DeleteFiles(const QString &prefix) const;
+    /// Moves the file within its file system. Returns false and changes nothing if that fails or if
+    /// the target exists, even as a dangling symbolic link.
+    [[nodiscard]] bool MoveTo(const FolderItem &target) const;
 
 private:
     QString path_;

@@ -2,17 +2,17 @@
 
 #include "platform/outside/FolderItem.h"
 
-/// A kind of file that a dialog offers: its name for the user, and its ending with the dot.
+/// A file type of a file dialog: its display name, and its extension with the dot.
 struct FileType {
     QString name;
     QString extensions;
 };
 
-/// What a dialog for a new file shows; Desktop::ShowModal shows it.
+/// The properties of a dialog to save a file; Desktop::ShowModal shows it.
 struct SaveAsDialog {
-    /// Where it begins.
+    /// The folder that is shown first.
     FolderItem initialDirectory;
-    /// Stands before the field for the name.
+    /// The label of the file name field.
     QString promptText;
     QString suggestedFileName;
     FileType filter;

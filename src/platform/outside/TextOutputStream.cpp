@@ -9,7 +9,7 @@ TextOutputStream::TextOutputStream(const FolderItem &file,
         failure_ = u"Sie ist das geöffnete Kassenbuch."_s;
         return;
     }
-    // Without a buffer: a buffer that a full disk takes in part counts as written.
+    // Unbuffered: with a buffer, data that a full disk accepts only in part counts as written.
     if (!file_.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         Fail();
     }
@@ -18,12 +18,12 @@ TextOutputStream::TextOutputStream(const FolderItem &file,
 void TextOutputStream::Write(const QByteArray &bytes) {
     qint64 written = 0;
     while (!failure_ && written < bytes.size()) {
-        // A full disk takes a part; only the next attempt fails.
-        const qint64 more = file_.write(bytes.constData() + written, bytes.size() - written);
-        if (more <= 0) {
+        // On a full disk a write can be partial; only the next attempt fails.
+        const qint64 count = file_.write(bytes.constData() + written, bytes.size() - written);
+        if (count <= 0) {
             Fail();
         }
-        written += more;
+        written += count;
     }
 }
 

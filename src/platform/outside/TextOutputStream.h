@@ -6,24 +6,24 @@
 
 #include <optional>
 
-/// Writes a file that is there as a whole or not at all: until Close succeeds, a file of that name
-/// stays as it was. A failure on the way makes Close fail. Letting go without Close drops all.
+/// Writes a file atomically: an existing file of that name is unchanged until Close succeeds. Close
+/// fails if any write has failed. The destructor discards the data if Close was not called.
 class TextOutputStream {
 public:
-    /// Begins the file. The open book is refused.
+    /// Opens the file for writing. Fails if it is the database file.
     TextOutputStream(const FolderItem &file, const std::optional<FolderItem> &databaseFile);
 
-    /// Adds the bytes as they are.
+    /// Appends the bytes without conversion.
     void Write(const QByteArray &bytes);
-    /// Puts the file in its place; false when that, or anything before, has failed.
+    /// Commits the file. Returns false if that or any earlier operation has failed.
     [[nodiscard]] bool Close();
-    /// What has failed, in the user's language.
+    /// Returns a message about the failure, in German.
     QString ErrorMessage() const;
 
 private:
     void Fail();
 
     QSaveFile file_;
-    /// The first failure; the file's own text can be overwritten by what follows.
+    /// The first error; later operations can overwrite the error text of file_.
     std::optional<QString> failure_;
 };

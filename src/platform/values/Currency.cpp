@@ -40,7 +40,7 @@ Currency operator+(Currency a, Currency b) {
 Currency operator-(Currency a, Currency b) {
     qint64 difference = 0;
     if (__builtin_sub_overflow(a.tenThousandths_, b.tenThousandths_, &difference)) {
-        // Taking the smallest from 0 overflows upwards.
+        // 0 - smallest overflows upwards, so 0 counts as positive here.
         return Currency(a.tenThousandths_ >= 0 ? largest : smallest);
     }
     return Currency(difference);

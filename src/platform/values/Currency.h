@@ -2,12 +2,12 @@
 
 #include <QtGlobal>
 
-/// An amount of money as a 64-bit number of ten-thousandths: sums are exact.
-/// What lies beyond its range stays at the end of the range.
+/// An amount of money as a 64-bit number of ten-thousandths: sums are exact. Values beyond the
+/// range saturate at its end.
 class Currency {
 public:
     Currency() = default;
-    /// To the nearest ten-thousandth. What is no number counts as 0.
+    /// Rounds to the nearest ten-thousandth. Returns 0 if the value is not finite.
     static Currency FromDouble(double value);
     double ToDouble() const;
 

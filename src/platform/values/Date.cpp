@@ -4,9 +4,9 @@ using namespace Qt::StringLiterals;
 
 std::optional<Date> Date::FromSQL(const QString &text) {
     constexpr qsizetype length = 10;
-    const bool ends = text.size() <= length || text[length] == u' ' || text[length] == u'T';
+    const bool dateEnds = text.size() <= length || text[length] == u' ' || text[length] == u'T';
     const QDate day = QDate::fromString(text.left(length), Qt::ISODate);
-    return ends && day.isValid() ? std::optional(Date(day)) : std::nullopt;
+    return dateEnds && day.isValid() ? std::optional(Date(day)) : std::nullopt;
 }
 
 QString Date::SQLDate() const {

@@ -5,13 +5,13 @@
 
 #include <optional>
 
-/// A moment by the user's clock, or a day, which is its first moment. Dates compare by the moment.
+/// A local date and time; for a day without a time, its start. Compared by date and time.
 class Date {
 public:
     explicit Date(QDate day) : day_(day), time_(0, 0) {}
-    explicit Date(const QDateTime &moment) : day_(moment.date()), time_(moment.time()) {}
-    /// The day of a SQL date (YYYY-MM-DD), which a time may follow after a blank or a T; nothing if
-    /// the text is anything else, or there is no such day.
+    explicit Date(const QDateTime &dateTime) : day_(dateTime.date()), time_(dateTime.time()) {}
+    /// Returns the day of a SQL date (YYYY-MM-DD), which may be followed by a space or a T and a
+    /// time. Returns nullopt for any other text and for an invalid date.
     static std::optional<Date> FromSQL(const QString &text);
 
     int Year() const { return day_.year(); }

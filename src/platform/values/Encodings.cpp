@@ -10,7 +10,8 @@ namespace {
 
 using Converter = std::unique_ptr<UConverter, decltype(&ucnv_close)>;
 
-/// The code page is built into the library: without it the program can't go on rightly.
+/// Terminates the program on an ICU error: the code page is built into ICU, and no correct output
+/// is possible without it.
 void AbortOnFailure(UErrorCode status) {
     if (U_FAILURE(status)) {
         qFatal("Code page 1252: %s", u_errorName(status));
@@ -27,7 +28,8 @@ Converter OpenConverter() {
 
 using Transliterator = std::unique_ptr<icu::Transliterator>;
 
-/// What puts plain letters in the place of the characters that the converter lacks.
+/// Returns a transliterator to ASCII for the characters that the converter can't represent; null on
+/// failure.
 Transliterator OpenTransliterator(const UConverter *converter) {
     UErrorCode status = U_ZERO_ERROR;
     Transliterator toAscii(
@@ -35,25 +37,27 @@ Transliterator OpenTransliterator(const UConverter *converter) {
     auto missing = std::make_unique<icu::UnicodeSet>();
     ucnv_getUnicodeSet(converter, missing->toUSet(), UCNV_ROUNDTRIP_SET, &status);
     if (!toAscii || U_FAILURE(status)) {
-        return nullptr; // Without its data files: what the code page lacks is a question mark then.
+        // Without ICU's data files. Characters missing in the code page become question marks.
+        return nullptr;
     }
     missing->complement();
     toAscii->adoptFilter(missing.release());
     return toAscii;
 }
 
-/// The end of the piece that begins here: a few words, whole. A long text costs by the square of
-/// its length, for each letter put in moves all after it.
-qsizetype EndOfPiece(QStringView text, qsizetype begin) {
-    constexpr qsizetype fewWords = 64;
-    qsizetype end = std::min(begin + fewWords, text.size());
+/// Returns the end of the chunk that starts at begin: a few whole words. Transliterating a long
+/// text in one call takes quadratic time, because each replacement moves all characters after it.
+qsizetype ChunkEnd(QStringView text, qsizetype begin) {
+    constexpr qsizetype minChunkSize = 64;
+    qsizetype end = std::min(begin + minChunkSize, text.size());
     while (end < text.size() && text[end - 1] > u' ' && text[end - 1] != u';') {
         ++end;
     }
     return end;
 }
 
-/// Nearly every text: the code page has all of Latin-1 in its place, but for control characters.
+/// Returns true for nearly every text. The code page equals Latin-1 except for 0x80 to 0x9f, which
+/// are control characters in Latin-1.
 bool IsLatin1(QStringView text) {
     return std::all_of(text.begin(), text.end(), [](QChar character) {
         return character < QChar(0x80) || (character >= QChar(0xa0) && character <= QChar(0xff));
@@ -79,16 +83,16 @@ QByteArray Encodings::WindowsANSI(const QString &text) {
     if (IsLatin1(text)) {
         return text.toLatin1();
     }
-    // What is typed as a letter and its accent is one character in the code page.
+    // A letter followed by a combining accent is one character in the code page.
     const QString composed = text.normalized(QString::NormalizationForm_C);
     const Converter converter = OpenConverter();
     const Transliterator toAscii = OpenTransliterator(converter.get());
     QByteArray bytes;
     for (qsizetype begin = 0, end = 0; begin < composed.size(); begin = end) {
-        end = EndOfPiece(composed, begin);
-        const QStringView piece = QStringView(composed).mid(begin, end - begin);
+        end = ChunkEnd(composed, begin);
+        const QStringView chunk = QStringView(composed).mid(begin, end - begin);
         bytes +=
-            IsLatin1(piece) ? piece.toLatin1() : Convert(piece, toAscii.get(), converter.get());
+            IsLatin1(chunk) ? chunk.toLatin1() : Convert(chunk, toAscii.get(), converter.get());
     }
     return bytes;
 }

@@ -5,8 +5,8 @@
 
 namespace Encodings {
 
-/// The text in code page 1252. A character that it lacks is written as its likeness in plain
-/// letters where there is one (Ł as L), else as a question mark.
+/// Returns the text in code page 1252. Characters missing in the code page are transliterated to
+/// ASCII where possible (Ł to L), otherwise replaced by a question mark.
 QByteArray WindowsANSI(const QString &text);
 
 } // namespace Encodings

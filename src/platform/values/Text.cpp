@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 double Val(QStringView text, QChar decimalMark) {
     std::string number;
     for (const QChar character : text.trimmed()) {
-        // What has no Latin letter ends a number as well as any other.
+        // toLatin1() returns 0 for other characters, which ends the number.
         number += character == decimalMark ? '.' : character.toLatin1();
     }
     const char *begin = number.data();
@@ -21,12 +21,12 @@ double Val(QStringView text, QChar decimalMark) {
     if (begin != end && (*begin == '-' || *begin == '+')) {
         ++begin;
     }
-    // The library would also read names such as inf and nan.
+    // std::from_chars() would also accept inf and nan.
     if (begin == end || !((*begin >= '0' && *begin <= '9') || *begin == '.')) {
         return 0;
     }
     double value = 0;
-    // A number beyond the range of a double stays 0, as what is not finite counts everywhere else.
+    // A number beyond the range of a double is read as 0, like all non-finite values elsewhere.
     std::from_chars(begin, end, value);
     return negative ? -value : value;
 }
@@ -41,8 +41,8 @@ QString NthField(QStringView text, QChar separator, int number) {
 }
 
 QString Replace(QString text, QChar search, QChar character) {
-    if (const qsizetype place = text.indexOf(search); place >= 0) {
-        text[place] = character;
+    if (const qsizetype index = text.indexOf(search); index >= 0) {
+        text[index] = character;
     }
     return text;
 }
@@ -55,16 +55,16 @@ QString ReplaceLineEndings(QString text, const QString &ending) {
 }
 
 QString OneLine(QString text) {
-    // Unicode has two line breaks that are no control characters.
+    // U+2028 and U+2029 are line breaks but not control characters.
     static const QRegularExpression run(u"[\\p{Cc}\\x{2028}\\x{2029}]+"_s);
     return text.replace(run, u" "_s);
 }
 
 int CompareTexts(const QString &a, const QString &b) {
     static const QCollator german = [] {
-        QCollator order(QLocale(QLocale::German, QLocale::Germany));
-        order.setCaseSensitivity(Qt::CaseInsensitive);
-        return order;
+        QCollator collator(QLocale(QLocale::German, QLocale::Germany));
+        collator.setCaseSensitivity(Qt::CaseInsensitive);
+        return collator;
     }();
     return german.compare(a, b);
 }

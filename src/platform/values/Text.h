@@ -2,26 +2,25 @@
 
 #include <QString>
 
-/// Text functions. Texts are compared without regard to case everywhere.
-
-/// The number at the start of the text, with a dot or the given letter as decimal mark; 0 if there
-/// is none.
+/// Returns the number at the start of the text, 0 if there is none. The decimal mark is a dot or
+/// the given character.
 double Val(QStringView text, QChar decimalMark = u'.');
 
-/// The piece with the given number, from 1; empty beyond the last.
+/// Returns the field with the given number, from 1; empty beyond the last.
 QString NthField(QStringView text, QChar separator, int number);
 
-/// Puts another letter in the place of the first that is found; without one the text stays.
+/// Replaces the first occurrence of a character, if any.
 QString Replace(QString text, QChar search, QChar character);
 
-/// Turns all line ends of a text, of whatever kind, into the given one.
+/// Replaces all line endings (CR LF, CR, LF) by the given one.
 QString ReplaceLineEndings(QString text, const QString &ending);
 
-/// Makes a text one line: each run of line breaks, tabs and other control characters becomes a
-/// blank.
+/// Turns a text into one line: replaces each run of line breaks, tabs and other control characters
+/// by a space.
 QString OneLine(QString text);
 
-/// Below, at or above 0, as the texts stand in a German dictionary, without regard to case.
+/// Returns a value below, equal to or above 0 by German collation order, ignoring case.
 int CompareTexts(const QString &a, const QString &b);
 
+/// Returns whether the texts are equal, ignoring case.
 bool SameText(QStringView a, QStringView b);

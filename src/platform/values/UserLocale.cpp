@@ -9,12 +9,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// German as the dictionary has it, without what the desktop has set otherwise for dates or
-/// numbers.
-QLocale German(const QLocale &desktop) {
-    // The desktop's own name may be that of such a setting; its languages are the user's.
-    QStringList names = desktop.uiLanguages();
-    names.prepend(desktop.name());
+/// Returns the standard German locale, without the user's settings for dates or numbers.
+QLocale GermanLocale(const QLocale &systemLocale) {
+    // The name of the system locale may be that of a setting for dates or numbers; its UI languages
+    // are those of the user.
+    QStringList names = systemLocale.uiLanguages();
+    names.prepend(systemLocale.name());
     for (const QString &name : names) {
         if (const QLocale locale(name); locale.language() == QLocale::German) {
             return {QLocale::German, locale.territory()};
@@ -23,11 +23,11 @@ QLocale German(const QLocale &desktop) {
     return {QLocale::German, QLocale::Germany};
 }
 
-QString WithFourDigitYear(QString form) {
-    return form.contains(u"yyyy"_s) ? form : form.replace(u"yy"_s, u"yyyy"_s);
+QString WithFourDigitYear(QString format) {
+    return format.contains(u"yyyy"_s) ? format : format.replace(u"yy"_s, u"yyyy"_s);
 }
 
-/// The shortest decimal text of the magnitude, without an exponent.
+/// Returns the shortest decimal text of the absolute value, without an exponent.
 std::string Digits(double value) {
     std::array<char, 400> text;
     const auto end = std::to_chars(text.data(), text.data() + text.size(), std::fabs(value),
@@ -35,7 +35,7 @@ std::string Digits(double value) {
     return {text.data(), end.ptr};
 }
 
-/// Adds one to the last digit of a text of digits and one dot.
+/// Adds one to the last digit of a decimal number, with carry.
 void AddOneUnit(std::string &digits) {
     for (size_t i = digits.size(); i-- > 0;) {
         if (digits[i] == '.') {
@@ -68,9 +68,9 @@ bool IsZero(const std::string &digits) {
 
 } // namespace
 
-UserLocale::UserLocale(const QLocale &desktop)
-    : locale_(German(desktop)), decimalSeparator_(locale_.decimalPoint().front()),
-      shortForm_(WithFourDigitYear(locale_.dateFormat(QLocale::ShortFormat))) {}
+UserLocale::UserLocale(const QLocale &systemLocale)
+    : locale_(GermanLocale(systemLocale)), decimalSeparator_(locale_.decimalPoint().front()),
+      shortFormat_(WithFourDigitYear(locale_.dateFormat(QLocale::ShortFormat))) {}
 
 QString UserLocale::Format(double value, QStringView mask) const {
     if (!std::isfinite(value)) {
@@ -93,7 +93,7 @@ QString UserLocale::Format(double value, QStringView mask) const {
 }
 
 QString UserLocale::ShortDate(const Date &date) const {
-    return locale_.toString(date.Day(), shortForm_);
+    return locale_.toString(date.Day(), shortFormat_);
 }
 
 QString UserLocale::LongDate(const Date &date) const {
@@ -101,6 +101,6 @@ QString UserLocale::LongDate(const Date &date) const {
 }
 
 std::optional<Date> UserLocale::ParseDate(const QString &text) const {
-    const QDate day = locale_.toDate(text, shortForm_);
+    const QDate day = locale_.toDate(text, shortFormat_);
     return day.isValid() ? std::optional(Date(day)) : std::nullopt;
 }

@@ -7,32 +7,33 @@
 
 #include <optional>
 
-/// The user's way to write numbers and dates; it reads what it writes. The one place for a locale.
+/// Formats and parses numbers and dates for the user. All locale-dependent code uses this class.
 class UserLocale {
 public:
-    /// Plain German in the territory of a German desktop, such as Austria or Switzerland, else in
-    /// Germany. What the desktop has set otherwise for dates or numbers does not count.
-    explicit UserLocale(const QLocale &desktop);
+    /// Uses German with the territory of the system locale if that is German (for example Austria
+    /// or Switzerland), otherwise Germany. The system's settings for dates and numbers are ignored.
+    explicit UserLocale(const QLocale &systemLocale);
 
     const QLocale &Locale() const { return locale_; }
 
-    /// A number by a mask: 0 is a digit always shown, # one shown only if present, the dot stands
-    /// for the decimal separator. Rounds half away from zero on the number's shortest decimal text;
-    /// a value that rounds to zero has no sign. Thousands are never grouped.
+    /// Formats a number by a mask: 0 is a digit that is always shown, # a digit shown only if
+    /// present, the dot is the decimal separator. Rounds half away from zero, based on the shortest
+    /// decimal text of the number; a value that rounds to zero has no sign. There is no thousands
+    /// separator.
     QString Format(double value, QStringView mask) const;
-    /// By the mask "0.00".
+    /// Formats by the mask "0.00".
     QString FormatAmount(double value) const { return Format(value, u"0.00"); }
-    /// By the mask "-#.00": no digit before the separator below 1.
+    /// Formats by the mask "-#.00": values below 1 have no digit before the separator.
     QString FormatBalance(double value) const { return Format(value, u"-#.00"); }
 
-    /// Numeric, with four digits of the year.
+    /// Returns the locale's short format with a four-digit year.
     QString ShortDate(const Date &date) const;
     QString LongDate(const Date &date) const;
-    /// Reads the short form; nothing if the text is no date.
+    /// Parses the format of ShortDate. Returns nullopt if the text is not a date.
     std::optional<Date> ParseDate(const QString &text) const;
 
 private:
     QLocale locale_;
     QChar decimalSeparator_;
-    QString shortForm_;
+    QString shortFormat_;
 };

@@ -1,16 +1,16 @@
 #include "support/TestEnvironment.h"
 
-TEST(RecordSet, WritesOnlyTheFieldsThatWereSetAndTellsThatItsRowHasGone) {
+TEST(RecordSet, UpdatesOnlyTheSetFieldsAndReportsADeletedRow) {
     TestEnvironment env;
     SQLiteDatabase &database = env.app.kvoDB();
     env.Add({u"2026-01-01"_s, u"E"_s, u"1"_s});
     env.Add({u"2026-01-02"_s, u"E"_s, u"2"_s});
     const QString second = u"SELECT * FROM cash_journal WHERE id = 2"_s;
     const auto records = database.SQLSelect(second);
-    const auto late = database.SQLSelect(second);
+    const auto stale = database.SQLSelect(second);
     records->Edit();
     records->Field("type"_L1).SetStringValue(u"A"_s);
-    records->Edit(); // Begins anew.
+    records->Edit(); // Discards the fields that were set.
     records->Field("NOTE"_L1).SetStringValue(u"it's; 'new'"_s);
     records->Field("amount"_L1).SetStringValue(u"12.50"_s);
     env.Run(u"UPDATE cash_journal SET category = 'meanwhile', note = 'old'"_s);
@@ -18,20 +18,20 @@ TEST(RecordSet, WritesOnlyTheFieldsThatWereSetAndTellsThatItsRowHasGone) {
     EXPECT_EQ(database.ErrorMessage(), QString());
     EXPECT_EQ(env.Value(u"SELECT group_concat(category || type || note || amount) FROM cash_journal"_s),
               u"meanwhileEold1.0,meanwhileEit's; 'new'12.5"_s);
-    late->Edit();
-    late->Field("fehlt"_L1).SetStringValue(u"x"_s);
-    late->Update();
+    stale->Edit();
+    stale->Field("fehlt"_L1).SetStringValue(u"x"_s);
+    stale->Update();
     EXPECT_EQ(database.ErrorMessage(), u"In der Datenbank fehlt eine Spalte."_s);
-    env.Run(u"DELETE FROM cash_journal"_s); // By another program.
-    late->Edit();
-    late->Field("note"_L1).SetStringValue(u"x"_s);
-    late->Update();
+    env.Run(u"DELETE FROM cash_journal"_s); // As by another program.
+    stale->Edit();
+    stale->Field("note"_L1).SetStringValue(u"x"_s);
+    stale->Update();
     EXPECT_EQ(database.ErrorMessage(), u"Der Datensatz ist nicht mehr vorhanden."_s);
     database.SQLSelect(second)->Edit();
     EXPECT_EQ(database.ErrorMessage(), u"Der Datensatz ist nicht mehr vorhanden."_s);
 }
 
-TEST(RecordSet, ReadsEveryKindOfValue) {
+TEST(RecordSet, ReadsEveryValueType) {
     struct Row {
         const char *values;
         QString flag;
@@ -55,7 +55,7 @@ TEST(RecordSet, ReadsEveryKindOfValue) {
         EXPECT_EQ(records->Field("fehlt"_L1).StringValue(), u""_s);
         records->MoveNext();
     }
-    records->MoveNext(); // Beyond the end there is no other beginning.
+    records->MoveNext(); // Does not restart the query.
     EXPECT_TRUE(records->AtEnd() && records->IdxField(1).StringValue().isEmpty() &&
                 !records->IdxField(2).DoubleValue());
 }

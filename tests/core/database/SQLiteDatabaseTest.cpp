@@ -13,7 +13,7 @@ static QByteArray Bytes(const QString &path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : "unreadable";
 }
 
-TEST(SQLiteDatabase, KeepsTheFormatTheDurabilityAndThePrivacyOfTheFile) {
+TEST(SQLiteDatabase, SetsThePragmasAndEncryptsTheFile) {
     struct Case {
         QString pragma, value;
     };
@@ -28,22 +28,22 @@ TEST(SQLiteDatabase, KeepsTheFormatTheDurabilityAndThePrivacyOfTheFile) {
     EXPECT_FALSE(bytes.contains("SQLite format") || bytes.contains("Kasse"));
 }
 
-TEST(SQLiteDatabase, LeavesAFileThatItCannotReadAsItIs) {
+TEST(SQLiteDatabase, LeavesUnreadableFilesUnchanged) {
     struct Case {
         QByteArray content, key;
         bool opens;
     };
     const TestEnvironment env(TestEnvironment::Storage::File);
-    const QByteArray keyed = Bytes(env.app.DefaultDatabaseFile().Path());
+    const QByteArray encrypted = Bytes(env.app.DefaultDatabaseFile().Path());
     const QByteArray text = QByteArray("Kein Kassenbuch. ").repeated(200);
-    const Case cases[] = {{keyed, fixedKey, true}, {"", fixedKey, true}, {text, fixedKey, false},
-                          {text, "", false},       {keyed, "rk", false}, {keyed, "", false}};
+    const Case cases[] = {{encrypted, fixedKey, true}, {"", fixedKey, true},     {text, fixedKey, false},
+                          {text, "", false},           {encrypted, "rk", false}, {encrypted, "", false}};
     const QDir folder(env.desktop.Path(u"files"_s));
     ASSERT_TRUE(folder.mkpath(u"."_s));
     const QString path = folder.filePath(u"Zolmark.sdb"_s);
     SQLiteDatabase database;
     database.SetDatabaseFile(FolderItem(path));
-    EXPECT_FALSE(database.Connect()) << "there is none";
+    EXPECT_FALSE(database.Connect()) << "the file does not exist";
     for (const Case &each : cases) {
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(each.content) >= 0);
@@ -56,7 +56,7 @@ TEST(SQLiteDatabase, LeavesAFileThatItCannotReadAsItIs) {
     }
 }
 
-TEST(SQLiteDatabase, RefusesAPipeInsteadOfWaitingForItsOtherEnd) {
+TEST(SQLiteDatabase, RejectsAPipeWithoutWaiting) {
     const FakeDesktop desktop;
     const FolderItem pipe(desktop.Path(u"Zolmark.sdb"_s));
     ASSERT_EQ(mkfifo(qUtf8Printable(pipe.Path()), 0600), 0);
@@ -66,20 +66,20 @@ TEST(SQLiteDatabase, RefusesAPipeInsteadOfWaitingForItsOtherEnd) {
     EXPECT_EQ(database.ErrorMessage(), u"unable to open database file"_s);
 }
 
-TEST(Transaction, RollsBackWhatWasNotCommitted) {
+TEST(Transaction, RollsBackUnlessCommitted) {
     const TestEnvironment env;
     const QString count = u"SELECT count(*) FROM cash_tax WHERE name = 'neu'"_s;
     const QString insert = u"INSERT INTO cash_tax (name) VALUES ('neu')"_s;
     {
-        const Transaction dropped(env.app.kvoDB());
+        const Transaction rolledBack(env.app.kvoDB());
         env.Run(insert);
     }
     EXPECT_EQ(env.Value(count), u"0"_s);
     {
-        Transaction kept(env.app.kvoDB());
+        Transaction committed(env.app.kvoDB());
         env.Run(insert);
-        EXPECT_TRUE(kept.Commit());
-        EXPECT_FALSE(kept.Commit()) << "it has ended";
+        EXPECT_TRUE(committed.Commit());
+        EXPECT_FALSE(committed.Commit()) << "the transaction has ended";
     }
     EXPECT_EQ(env.Value(count), u"1"_s);
 }
@@ -99,5 +99,5 @@ TEST(SQLiteDatabase, WaitsOnceForALockedFile) {
         other.SQLExecute(u"DELETE FROM cash_book"_s);
         EXPECT_EQ(other.ErrorMessage(), u"database is locked"_s);
     }
-    EXPECT_LT(timer.elapsed(), 2500) << "not each of them waits";
+    EXPECT_LT(timer.elapsed(), 2500) << "only the first statement waits";
 }

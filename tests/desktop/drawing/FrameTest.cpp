@@ -4,7 +4,7 @@
 #include "desktop/drawing/FocusRing.h"
 #include "support/MainWindowTest.h"
 
-TEST(Frame, HasItsFourEdgesAtAnyScaleOfTheScreen) {
+TEST(Frame, DrawsFourEdgesAtEveryScaleFactor) {
     for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
         for (const int left : {0, 1, 2, 3}) {
             QImage image(QSize(40, 40) * scale, QImage::Format_RGB32);
@@ -13,22 +13,22 @@ TEST(Frame, HasItsFourEdgesAtAnyScaleOfTheScreen) {
             QPainter painter(&image);
             FillFrame(painter, QRect(left, left, 20, 15), 1, Qt::red);
             painter.end();
-            QString across, down;
-            for (int at = 0; at < image.width(); ++at) {
-                across += image.pixelColor(at, image.width() / 4) == Qt::red ? u'#' : u' ';
-                down += image.pixelColor(image.width() / 4, at) == Qt::red ? u'#' : u' ';
+            QString horizontal, vertical;
+            for (int i = 0; i < image.width(); ++i) {
+                horizontal += image.pixelColor(i, image.width() / 4) == Qt::red ? u'#' : u' ';
+                vertical += image.pixelColor(image.width() / 4, i) == Qt::red ? u'#' : u' ';
             }
-            EXPECT_EQ((across + u" | "_s + down).simplified().replace(u"##"_s, u"#"_s), u"# # | # #"_s)
+            EXPECT_EQ((horizontal + u" | "_s + vertical).simplified().replace(u"##"_s, u"#"_s), u"# # | # #"_s)
                 << scale << left;
         }
     }
 }
 
-TEST_F(MainWindowTest, RingsWhateverHasTheFocus) {
+TEST_F(MainWindowTest, DrawsTheRingAroundTheFocusWidget) {
     Open();
     view.resize(1100, 900);
     const auto &ring = *view.findChild<FocusRing *>();
-    const auto looksRinged = [&](QWidget &widget) {
+    const auto hasRing = [&](QWidget &widget) {
         return ring.widget() == &widget && ring.isVisible() &&
                view.grab().toImage().pixel(widget.mapTo(&view, QPoint(9, widget.height()))) == 0xff1f6aa5;
     };
@@ -38,12 +38,12 @@ TEST_F(MainWindowTest, RingsWhateverHasTheFocus) {
         Find<QWidget>(first).setFocus();
         for (int tab = 0; tab < 22; ++tab) {
             QWidget &focus = *QApplication::focusWidget();
-            const bool ringsItself = qobject_cast<CanvasButton *>(&focus) != nullptr;
-            EXPECT_TRUE(ringsItself ? focus.grab().toImage().pixel(2, 9) == 0xff1f6aa5 : looksRinged(focus)) << tab;
+            const bool drawsItsOwnRing = qobject_cast<CanvasButton *>(&focus) != nullptr;
+            EXPECT_TRUE(drawsItsOwnRing ? focus.grab().toImage().pixel(2, 9) == 0xff1f6aa5 : hasRing(focus)) << tab;
             Type(u"\t"_s);
         }
     }
     Find<QTableView>(u"CashaccountList"_s).setFocus();
     Type(u"{Down}{F2}"_s);
-    EXPECT_TRUE(looksRinged(Find<QLineEdit>(u"CellEditor"_s)));
+    EXPECT_TRUE(hasRing(Find<QLineEdit>(u"CellEditor"_s)));
 }

@@ -18,16 +18,16 @@ class PrintJobTest : public testing::Test {
 protected:
     using SetUp = std::function<void(QPrinter &)>;
 
-    std::unique_ptr<PrintJob> Begin(const SetUp &setUp = [](QPrinter &) {}) {
+    std::unique_ptr<PrintJob> CreateJob(const SetUp &setUp = [](QPrinter &) {}) {
         auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
         printer->setOutputFileName(path);
         printer->setPageSize(QPageSize(QPageSize::A4));
         setUp(*printer);
         return std::make_unique<PrintJob>(std::move(printer), databaseFile, [this](const QString &) { ++failures; });
     }
-    /// Prints three pages into a PDF file, each with the height of its text, and reads it.
+    /// Prints three pages to a PDF file, each with the y coordinate of its text as the text, and returns its words.
     QStringList Print(const SetUp &setUp = [](QPrinter &) {}) {
-        auto job = Begin(setUp);
+        auto job = CreateJob(setUp);
         job->SetTextFont(u"Courier"_s);
         job->SetTextSize(10);
         job->DrawString(u"100"_s, 40, 100);
@@ -36,25 +36,25 @@ protected:
         job->NextPage();
         job->DrawString(u"900"_s, 40, 900);
         job.reset();
-        EXPECT_EQ(failures, told) << "not before the event loop comes round";
+        EXPECT_EQ(failures, reportedFailures) << "failures are reported through the event loop";
         QCoreApplication::processEvents();
-        told = failures;
+        reportedFailures = failures;
         return Read();
     }
-    /// What a tool of poppler's makes of the file.
-    QByteArray Ask(const QString &tool, const QStringList &arguments) const {
+    /// Returns the output of a poppler tool.
+    QByteArray RunTool(const QString &tool, const QStringList &arguments) const {
         QProcess process;
         process.start(tool, arguments);
         EXPECT_TRUE(process.waitForFinished());
         return process.readAllStandardOutput();
     }
-    /// The points of the left, the right and the bottom of each word, and the word.
+    /// Returns for each word its left, right and bottom edge in points, and its text.
     QStringList Read() const {
         static const QRegularExpression word(u"xMin=\"(\\d+).*xMax=\"(\\d+).*yMax=\"(\\d+).*>(.*)<"_s);
         QStringList found;
-        const auto xml = QString::fromUtf8(Ask(u"pdftotext"_s, {u"-bbox"_s, path, u"-"_s}));
-        for (const QRegularExpressionMatch &each : word.globalMatch(xml)) {
-            found.append(each.capturedTexts().mid(1).join(u' '));
+        const auto xml = QString::fromUtf8(RunTool(u"pdftotext"_s, {u"-bbox"_s, path, u"-"_s}));
+        for (const QRegularExpressionMatch &match : word.globalMatch(xml)) {
+            found.append(match.capturedTexts().mid(1).join(u' '));
         }
         return found;
     }
@@ -63,16 +63,16 @@ protected:
     QString path = folder.filePath(u"report.pdf"_s);
     std::optional<FolderItem> databaseFile;
     int failures = 0;
-    int told = 0;
+    int reportedFailures = 0;
 };
 
-TEST_F(PrintJobTest, PrintsTheWantedPagesInPointsAndScalesDownWhatWouldRunOffThePaper) {
+TEST_F(PrintJobTest, PrintsTheSelectedPagesAndScalesThemToThePaper) {
     struct Case {
-        const char *wanted;
+        const char *name;
         SetUp setUp;
         QStringList printed;
     };
-    // The letters of a typewriter are six tenths of their height wide.
+    // The width of a Courier character is 0.6 of the font size.
     const QString first = u"40 58 103 100"_s;
     const QString second = u"40 58 841 838"_s;
     const QString third = u"37 54 841 900"_s;
@@ -91,11 +91,11 @@ TEST_F(PrintJobTest, PrintsTheWantedPagesInPointsAndScalesDownWhatWouldRunOffThe
                           {"the last page first",
                            [](QPrinter &printer) { printer.setPageOrder(QPrinter::LastPageFirst); },
                            {third, second, first}}};
-    for (const Case &each : cases) { EXPECT_EQ(Print(each.setUp), each.printed) << each.wanted; }
+    for (const Case &each : cases) { EXPECT_EQ(Print(each.setUp), each.printed) << each.name; }
 }
 
-TEST_F(PrintJobTest, DrawsLinesInTheirColourAndTextAsOneLineInItsFace) {
-    auto job = Begin();
+TEST_F(PrintJobTest, DrawsColouredLinesAndBoldTextOnOneLine) {
+    auto job = CreateJob();
     EXPECT_EQ(QSizeF(job->Width(), job->Height()).toSize(), QSize(595, 842));
     job->SetForeColor(Color{0xff0000});
     job->DrawLine(100, 200, 150, 200);
@@ -105,13 +105,13 @@ TEST_F(PrintJobTest, DrawsLinesInTheirColourAndTextAsOneLineInItsFace) {
     EXPECT_NEAR(job->TextHeight(), 24, 6);
     job->DrawString(u"ii\ni"_s, 300, 200);
     job.reset();
-    const auto page = QImage::fromData(Ask(u"pdftoppm"_s, {u"-r"_s, u"72"_s, u"-png"_s, path}));
+    const auto page = QImage::fromData(RunTool(u"pdftoppm"_s, {u"-r"_s, u"72"_s, u"-png"_s, path}));
     EXPECT_EQ(page.pixelColor(125, 200), QColor(Qt::red));
     EXPECT_EQ(Read().replaceInStrings(QRegularExpression(u".* "_s), {}), QStringList({u"ii"_s, u"i"_s}));
-    EXPECT_TRUE(Ask(u"pdffonts"_s, {path}).contains("Bold"));
+    EXPECT_TRUE(RunTool(u"pdffonts"_s, {path}).contains("Bold"));
 }
 
-/// A print service of the test's own, with a queue that accepts jobs and one that does not.
+/// Runs its own print service, with a queue that accepts jobs and one that rejects them.
 class PrintQueueTest : public testing::Test {
 protected:
     PrintQueueTest() {
@@ -126,7 +126,7 @@ protected:
         cupsSetServer(qUtf8Printable(Path(u"socket"_s)));
     }
     ~PrintQueueTest() override {
-        EndService();
+        StopService();
         cupsSetServer(nullptr);
     }
     Q_DISABLE_COPY_MOVE(PrintQueueTest)
@@ -137,18 +137,18 @@ protected:
         EXPECT_TRUE(file.open(QIODevice::WriteOnly) &&
                     file.write(QString(text).replace(u"%1"_s, folder.path()).toUtf8()) > 0);
     }
-    void EndService() {
+    void StopService() {
         service.terminate();
         EXPECT_TRUE(service.state() == QProcess::NotRunning || service.waitForFinished());
     }
-    std::unique_ptr<PrintJob> Begin(const QString &queue) {
+    std::unique_ptr<PrintJob> CreateJob(const QString &queue) {
         auto printer = std::make_unique<QPrinter>();
         printer->setPrinterName(queue);
         return std::make_unique<PrintJob>(std::move(printer), std::nullopt,
                                           [this](const QString &failure) { message = failure; });
     }
-    /// Returns what the user is shown when the job ends.
-    QString End(std::unique_ptr<PrintJob> job) {
+    /// Ends the job and returns the message shown to the user, if any.
+    QString EndJob(std::unique_ptr<PrintJob> job) {
         message.clear();
         job.reset();
         QCoreApplication::processEvents();
@@ -160,17 +160,18 @@ protected:
     QString message;
 };
 
-TEST_F(PrintQueueTest, ShowsWhyAJobHasNotReachedItsQueue) {
-    EXPECT_EQ(End(Begin(u"Offen"_s)), QString());
-    EXPECT_EQ(End(Begin(u"Zu"_s)), u"Der Drucker Zu hat den Bericht nicht angenommen: Er nimmt keine Aufträge an."_s);
-    EXPECT_EQ(End(Begin(u"Offen"_s)), QString()) << "usable as before";
-    auto job = Begin(u"Offen"_s);
-    EndService();
-    EXPECT_EQ(End(std::move(job)), u"Der Drucker Offen hat den Bericht nicht angenommen: "
-                                   "Er ist nicht mehr eingerichtet, oder der Druckdienst läuft nicht."_s);
+TEST_F(PrintQueueTest, ReportsWhyAPrintJobFailed) {
+    EXPECT_EQ(EndJob(CreateJob(u"Offen"_s)), QString());
+    EXPECT_EQ(EndJob(CreateJob(u"Zu"_s)),
+              u"Der Drucker Zu hat den Bericht nicht angenommen: Er nimmt keine Aufträge an."_s);
+    EXPECT_EQ(EndJob(CreateJob(u"Offen"_s)), QString()) << "the other queue still accepts jobs";
+    auto job = CreateJob(u"Offen"_s);
+    StopService();
+    EXPECT_EQ(EndJob(std::move(job)), u"Der Drucker Offen hat den Bericht nicht angenommen: "
+                                      "Er ist nicht mehr eingerichtet, oder der Druckdienst läuft nicht."_s);
 }
 
-TEST_F(PrintJobTest, TellsWhatCouldNotBePrintedAndLeavesTheFileBefore) {
+TEST_F(PrintJobTest, ReportsFailuresAndKeepsThePreviousFile) {
     const QStringList before = Print([](QPrinter &printer) { printer.setFromTo(1, 1); });
     EXPECT_EQ(Print([](QPrinter &printer) { printer.setFromTo(4, 9); }), before);
     {

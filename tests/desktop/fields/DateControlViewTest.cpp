@@ -2,14 +2,14 @@
 
 #include "support/MainWindowTest.h"
 
-/// The date field of the entry row, with the focus and on 15 November 2025; today is 15 March 2026.
+/// The focused date field of the entry row, set to 15 November 2025; today is 15 March 2026.
 class DateControlViewTest : public MainWindowTest {
 protected:
     DateControlViewTest() {
         Open();
-        Begin();
+        Reset();
     }
-    void Begin() {
+    void Reset() {
         date.SetDateValue(Date(QDate(2025, 11, 15)));
         date.SetFocus();
     }
@@ -18,7 +18,7 @@ protected:
     bool Selects(const QString &text) const {
         return field.hasFocus() && field.text() == text && field.selectedText() == text;
     }
-    bool LooksRefused() const { return field.palette().color(QPalette::Base) != Qt::white; }
+    bool IsMarkedInvalid() const { return field.palette().color(QPalette::Base) != Qt::white; }
     static QCalendarWidget *Calendar() { return qobject_cast<QCalendarWidget *>(QApplication::activePopupWidget()); }
 
     DateControl &date = window.entryRow.DateField;
@@ -26,15 +26,15 @@ protected:
     QLineEdit &other = Find<QLineEdit>(u"NoteField"_s);
 };
 
-TEST_F(DateControlViewTest, TakesADayAndRefusesWhatIsNone) {
+TEST_F(DateControlViewTest, AcceptsDatesAndMarksInvalidOnes) {
     for (const auto &key : {u"\t"_s, u"{Backtab}"_s, u"\r"_s, u"{Num+Enter}"_s}) {
-        Begin();
+        Reset();
         Type(u"31.02.2026"_s + key);
-        EXPECT_TRUE(Selects(u"31.02.2026"_s) && LooksRefused());
+        EXPECT_TRUE(Selects(u"31.02.2026"_s) && IsMarkedInvalid());
         EXPECT_EQ(Day() + window.entryRow.ErrorLabel.Text(), u"2025-11-15"_s);
         EXPECT_EQ(field.accessibleDescription(), u"31.02.2026 ist kein gültiges Datum."_s);
         Type(u"2"_s);
-        EXPECT_FALSE(LooksRefused());
+        EXPECT_FALSE(IsMarkedInvalid());
         Type(key);
         EXPECT_EQ(field.text() + Day(), u"02.11.20252025-11-02"_s);
         EXPECT_EQ(field.hasFocus(), key != u"\t"_s && key != u"{Backtab}"_s);
@@ -44,15 +44,15 @@ TEST_F(DateControlViewTest, TakesADayAndRefusesWhatIsNone) {
         window.entryRow.NewSale();
     }
     for (const auto &text : {u"10000-01-01"_s, u"100000-01-01"_s, u"1-2-26"_s, u"3. okt"_s}) {
-        Begin();
+        Reset();
         Type(text + u'\r');
-        EXPECT_TRUE(LooksRefused()) << qPrintable(text);
+        EXPECT_TRUE(IsMarkedInvalid()) << qPrintable(text);
         date.SetFocus();
-        EXPECT_FALSE(LooksRefused());
+        EXPECT_FALSE(IsMarkedInvalid());
     }
 }
 
-TEST_F(DateControlViewTest, StepsByKeys) {
+TEST_F(DateControlViewTest, StepsTheDateByKeys) {
     struct Case {
         QString keys, shown;
     };
@@ -62,16 +62,16 @@ TEST_F(DateControlViewTest, StepsByKeys) {
                           {u"h"_s, u"15.03.2026"_s},       {u"t31.2{Shift+T}"_s, u"15.03.2026"_s},
                           {u"010126-"_s, u"31.12.2025"_s}, {u"2026-03-01-"_s, u"28.02.2026"_s}};
     for (const Case &each : cases) {
-        Begin();
+        Reset();
         Type(each.keys);
         EXPECT_TRUE(Selects(each.shown)) << qPrintable(each.keys + field.text());
         EXPECT_EQ(env.app.Locale().ShortDate(date.DateValue()), each.shown);
     }
 }
 
-TEST_F(DateControlViewTest, TakesADayOrDropsWhatIsNoneWhenTheFocusGoesButNotToAnotherWindow) {
-    QString heard;
-    QObject::connect(&date, &Control::LostFocus, &window, [&] { heard = Day(); });
+TEST_F(DateControlViewTest, CommitsOrRevertsWhenTheFocusMovesToAnotherField) {
+    QString dayOnLostFocus;
+    QObject::connect(&date, &Control::LostFocus, &window, [&] { dayOnLostFocus = Day(); });
     Type(u"010"_s);
     for (const QEvent::Type type : {QEvent::FocusOut, QEvent::FocusIn}) {
         QFocusEvent event(type, Qt::ActiveWindowFocusReason);
@@ -79,29 +79,29 @@ TEST_F(DateControlViewTest, TakesADayOrDropsWhatIsNoneWhenTheFocusGoesButNotToAn
     }
     Type(u"2"_s);
     other.setFocus(Qt::MouseFocusReason);
-    EXPECT_EQ(heard, u"2025-02-01"_s) << "the day is taken before the loss is told";
+    EXPECT_EQ(dayOnLostFocus, u"2025-02-01"_s) << "the date is set before LostFocus is emitted";
 
     date.SetFocus();
     Type(u"31.02.\r"_s);
     other.setFocus(Qt::MouseFocusReason);
     EXPECT_EQ(field.text(), u"01.02.2025"_s);
     EXPECT_EQ(date.Hint(), u"31.02. ist kein gültiges Datum. Es bleibt beim 01.02.2025."_s);
-    EXPECT_TRUE(LooksRefused()) << "until somebody has seen it";
-    QWheelEvent notch({5, 5}, {5, 5}, {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&field, &notch);
-    EXPECT_EQ(Day(), u"2025-02-01"_s) << "who scrolls past changes nothing";
+    EXPECT_TRUE(IsMarkedInvalid()) << "marked until the field gets the focus again";
+    QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&field, &wheel);
+    EXPECT_EQ(Day(), u"2025-02-01"_s) << "the wheel does not change a field without the focus";
     field.setFocus(Qt::TabFocusReason);
     other.setFocus(Qt::TabFocusReason);
-    EXPECT_FALSE(LooksRefused());
+    EXPECT_FALSE(IsMarkedInvalid());
 }
 
-TEST_F(DateControlViewTest, ChoosesInACalendar) {
+TEST_F(DateControlViewTest, ChoosesADateInTheCalendar) {
     other.setFocus();
     QTest::mouseClick(field.findChild<QAbstractButton *>(), Qt::LeftButton);
     ASSERT_TRUE(Calendar());
     auto *days = Calendar()->findChild<QTableView *>();
     EXPECT_EQ(days->accessibleName(), u"Tage"_s);
-    // Below the names of the weekdays; the first of November 2025 is a Saturday.
+    // Row 0 shows the names of the weekdays; 1 November 2025 is a Saturday.
     const QPoint first = days->visualRect(days->model()->index(1, 5)).center();
     QTest::mouseClick(days->viewport(), Qt::LeftButton, {}, first);
     EXPECT_TRUE(!Calendar() && Selects(u"01.11.2025"_s));

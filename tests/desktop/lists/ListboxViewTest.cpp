@@ -2,10 +2,10 @@
 
 class ListboxViewTest : public MainWindowTest {
 protected:
-    static QImage Drawn(QTableView &list, int row, int column) {
+    static QImage CellImage(QTableView &list, int row, int column) {
         return list.viewport()->grab(list.visualRect(list.model()->index(row, column))).toImage();
     }
-    /// What assistive tools tell of the columns, and how wide they are.
+    /// Returns the accessible description and the width of each column.
     static QStringList Columns(QTableView &list) {
         auto &table = *QAccessible::queryAccessibleInterface(&list)->tableInterface();
         QStringList columns;
@@ -14,13 +14,13 @@ protected:
         }
         return columns;
     }
-    /// Where a cell differs from its background.
-    static QRect Ink(const QImage &cell) {
+    /// Returns the bounding rectangle of the pixels that differ from the background of a cell.
+    static QRect DrawnArea(const QImage &cell) {
         return QRegion(QPixmap::fromImage(cell).createMaskFromColor(cell.pixelColor(0, 0))).boundingRect();
     }
 };
 
-TEST_F(ListboxViewTest, ShowsTheJournalInColumnsAndBands) {
+TEST_F(ListboxViewTest, ShowsTheJournalInColumnsAndAlternatingColours) {
     env.Add({.date = u"2026-01-02"_s,
              .type = u"E"_s,
              .amount = u"7"_s,
@@ -37,22 +37,22 @@ TEST_F(ListboxViewTest, ShowsTheJournalInColumnsAndBands) {
     for (int row = 0; row < 5; ++row) {
         EXPECT_EQ(rows.pixel(2, 18 * row + 2), row % 2 == 0 ? 0xffffffff : 0xffd2edf5);
     }
-    for (const int left : {0, 3, 4}) { EXPECT_LT(Ink(Drawn(list, 0, left)).left(), 8) << left; }
-    for (const int right : {2, 7}) {
-        EXPECT_GT(Ink(Drawn(list, 1, right)).right(), list.columnWidth(right) - 8) << right;
+    for (const int column : {0, 3, 4}) { EXPECT_LT(DrawnArea(CellImage(list, 0, column)).left(), 8) << column; }
+    for (const int column : {2, 7}) {
+        EXPECT_GT(DrawnArea(CellImage(list, 1, column)).right(), list.columnWidth(column) - 8) << column;
     }
-    EXPECT_GT(Ink(Drawn(list, 0, Journal::Input)).right(), 62);
-    EXPECT_EQ(list.grab().toImage().pixel(0, 99), 0xff6e6e6e) << "a frame that is seen";
+    EXPECT_GT(DrawnArea(CellImage(list, 0, Journal::Input)).right(), 62);
+    EXPECT_EQ(list.grab().toImage().pixel(0, 99), 0xff6e6e6e) << "the colour of the frame";
     for (const int column : {7, 4}) { // Only the account is too long for its cell.
-        QHelpEvent rest(QEvent::ToolTip, Centre(list, 0, column), QCursor::pos());
-        QApplication::sendEvent(list.viewport(), &rest);
+        QHelpEvent help(QEvent::ToolTip, Centre(list, 0, column), QCursor::pos());
+        QApplication::sendEvent(list.viewport(), &help);
         EXPECT_EQ(QToolTip::text(), column == 4 ? u"<p>Erlöse &lt;19%&gt; und noch einiges mehr</p>"_s : QString());
     }
     Click(list, 1, 4);
-    EXPECT_EQ(Drawn(list, 1, 6).pixel(5, 5), 0xff1f6aa5) << "the selected row";
+    EXPECT_EQ(CellImage(list, 1, 6).pixel(5, 5), 0xff1f6aa5) << "the selected row";
 }
 
-TEST_F(ListboxViewTest, ShowsTheAccountsWithAMarkInTheMiddleOfActiveOnes) {
+TEST_F(ListboxViewTest, CentresTheCheckMarkOfActiveAccounts) {
     env.Run(u"UPDATE cash_accounts SET active = 0 WHERE id > 1"_s);
     Open();
     window.MenuAction(u"preferences"_s);
@@ -62,9 +62,10 @@ TEST_F(ListboxViewTest, ShowsTheAccountsWithAMarkInTheMiddleOfActiveOnes) {
     EXPECT_EQ(Columns(Find<QTableView>(u"CashbookList"_s)).mid(0, 2), QStringList({u"Kassen 110"_s, u"Konto 42"_s}));
     const int row = window.bookingAccounts.CashaccountList.FindRow(u"1"_s);
     list.scrollTo(list.model()->index(row, 0));
-    const QImage box = Drawn(list, row, BookingAccounts::Active);
-    EXPECT_NEAR(2 * Ink(box).center().x(), box.width(), 4);
-    const QImage other = Drawn(list, row > 1 ? row - 2 : row + 2, BookingAccounts::Active); // In the same band.
+    const QImage box = CellImage(list, row, BookingAccounts::Active);
+    EXPECT_NEAR(2 * DrawnArea(box).center().x(), box.width(), 4);
+    const QImage other =
+        CellImage(list, row > 1 ? row - 2 : row + 2, BookingAccounts::Active); // With the same background colour.
     const auto brightness = [](const QImage &cell) {
         return qGray(cell.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixel(0, 0));
     };

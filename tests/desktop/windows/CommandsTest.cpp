@@ -10,39 +10,39 @@ protected:
     CommandsTest() { Open(); }
 
     void Choose(const QString &action) { Find<QAction>(action).trigger(); }
-    QString RowCommands() {
-        QString open;
+    QString RowCommandStates() {
+        QString states;
         for (const auto &name : {u"EditButton"_s, u"CopyItem"_s, u"CopyButton"_s, u"DeleteItem"_s, u"DeleteButton"_s}) {
-            open += Find<QAction>(name).isEnabled() ? u'+' : u'-';
+            states += Find<QAction>(name).isEnabled() ? u'+' : u'-';
         }
-        return open;
+        return states;
     }
 
     QString Opened() { return std::exchange(env.desktop.opened, {}).join(u' '); }
-    QString Shown(const QString &menu) {
-        QStringList shown;
+    QString MenuTexts(const QString &menu) {
+        QStringList texts;
         for (const QAction *each : Find<QMenu>(menu).actions()) {
             if (each->isVisible()) {
                 const QString text = each->text() + u' ' + each->shortcut().toString();
-                shown.append(each->isSeparator() ? u"-"_s : text.trimmed());
+                texts.append(each->isSeparator() ? u"-"_s : text.trimmed());
             }
         }
-        return shown.join(u", "_s);
+        return texts.join(u", "_s);
     }
 
     QTableView &list = Find<QTableView>(u"CashList"_s);
 };
 
-TEST_F(CommandsTest, StandInTheMenusAsGiven) {
-    EXPECT_EQ(Shown(u"FileMenu"_s),
+TEST_F(CommandsTest, AppearInTheMenusWithTheirShortcuts) {
+    EXPECT_EQ(MenuTexts(u"FileMenu"_s),
               u"Über Zolmark, E&xport..., -, &Drucken... Ctrl+P, &Einstellungen ..., -, &Quit Ctrl+Q"_s);
-    EXPECT_EQ(Shown(u"EditMenu"_s), u"&Undo Ctrl+Z, &Ausschneiden Ctrl+X, &Kopieren Ctrl+C, E&infügen Ctrl+V, "
-                                    "&Löschen, -, Alles &markieren Ctrl+A"_s);
-    EXPECT_EQ(Shown(u"DataMenu"_s), u"&Neu Ctrl+N, &Duplizieren Ctrl+D, &Löschen Ctrl+L"_s);
-    EXPECT_EQ(Shown(u"HilfeMenu"_s), u"Kurzanleitung, -, Support-Anfrage, Hersteller-Homepage"_s);
+    EXPECT_EQ(MenuTexts(u"EditMenu"_s), u"&Undo Ctrl+Z, &Ausschneiden Ctrl+X, &Kopieren Ctrl+C, E&infügen Ctrl+V, "
+                                        "&Löschen, -, Alles &markieren Ctrl+A"_s);
+    EXPECT_EQ(MenuTexts(u"DataMenu"_s), u"&Neu Ctrl+N, &Duplizieren Ctrl+D, &Löschen Ctrl+L"_s);
+    EXPECT_EQ(MenuTexts(u"HilfeMenu"_s), u"Kurzanleitung, -, Support-Anfrage, Hersteller-Homepage"_s);
 }
 
-TEST_F(CommandsTest, AreRunByTheEntriesOfTheMenusAndTheToolBar) {
+TEST_F(CommandsTest, RunFromTheMenusAndTheToolBar) {
     struct Case {
         QString entry;
         QString opened = {};
@@ -69,7 +69,7 @@ TEST_F(CommandsTest, AreRunByTheEntriesOfTheMenusAndTheToolBar) {
                           {.entry = u"DeleteItem"_s, .bookings = 0},
                           {.entry = u"DeleteButton"_s, .bookings = 0},
                           {.entry = u"FilePreferences"_s, .page = preferences},
-                          {u"PreferencesButton"_s}, // It leads back too.
+                          {u"PreferencesButton"_s}, // Returns to the journal.
                           {.entry = u"PreferencesButton"_s, .page = preferences}};
     const EntryRow &row = window.entryRow;
     for (const Case &each : cases) {
@@ -90,20 +90,20 @@ TEST_F(CommandsTest, AreRunByTheEntriesOfTheMenusAndTheToolBar) {
     }
 }
 
-TEST_F(CommandsTest, OnARowAreOpenFromAClickInItUntilTheFocusLeavesTheList) {
+TEST_F(CommandsTest, NeedASelectedRowAndAFocusedList) {
     Click(list.viewport(), {100, 9});
-    EXPECT_EQ(RowCommands(), u"-----"_s) << "an empty list has no row";
+    EXPECT_EQ(RowCommandStates(), u"-----"_s) << "an empty list has no row";
     env.Add({u"2026-01-02"_s, u"E"_s, u"7"_s});
     env.Add({u"2026-01-03"_s, u"A"_s, u"4"_s});
     Choose(u"NewSaleItem"_s);
     Click(list, 1, 2);
-    EXPECT_EQ(RowCommands(), u"+++++"_s);
+    EXPECT_EQ(RowCommandStates(), u"+++++"_s);
     Choose(u"CopyButton"_s);
-    EXPECT_EQ(RowCommands(), u"-----"_s);
+    EXPECT_EQ(RowCommandStates(), u"-----"_s);
     list.setFocus();
-    EXPECT_EQ(RowCommands(), u"-----"_s);
+    EXPECT_EQ(RowCommandStates(), u"-----"_s);
     Type(u"{Up}"_s);
-    EXPECT_EQ(RowCommands(), u"+++++"_s) << "of the row that the key has chosen";
+    EXPECT_EQ(RowCommandStates(), u"+++++"_s) << "enabled for the row that the key has selected";
     Type(u"{End}"_s);
     EXPECT_EQ(window.journal.CashList.ListIndex(), 1);
     window.entryRow.DateField.SetFocus();
@@ -112,7 +112,7 @@ TEST_F(CommandsTest, OnARowAreOpenFromAClickInItUntilTheFocusLeavesTheList) {
     Click(list, 0, 2);
     Type(u"{Ctrl+L}{Ctrl+L}"_s);
     EXPECT_EQ(bookings.Cell(-1, Journal::Output), u"4,00"_s);
-    EXPECT_EQ(RowCommands(), u"+++++"_s);
+    EXPECT_EQ(RowCommandStates(), u"+++++"_s);
 }
 
 TEST_F(CommandsTest, OfTheEditMenuActOnTheFocusedField) {
@@ -130,10 +130,10 @@ TEST_F(CommandsTest, OfTheEditMenuActOnTheFocusedField) {
     EXPECT_EQ(texts, u" ab  ab abab ab ab ab "_s);
     field.setFocus();
     Type(u"c{Ctrl+V}{Ctrl+Z}"_s);
-    EXPECT_EQ(field.text(), u"c"_s) << "what was typed before is a step of its own";
+    EXPECT_EQ(field.text(), u"c"_s) << "typed and pasted text are separate undo steps";
 }
 
-TEST(MainWindowView, SavesWhatIsTypedHoweverTheProgramEnds) {
+TEST(MainWindowView, SavesTypedTextHoweverTheProgramEnds) {
     struct Case {
         const char *end;
         std::function<void(MainWindowView &)> run;
@@ -142,7 +142,7 @@ TEST(MainWindowView, SavesWhatIsTypedHoweverTheProgramEnds) {
                           {"the window's button", [](auto &view) { view.close(); }},
                           {"the session, that may go on after all",
                            [](auto &view) {
-                               // There is none in a test.
+                               // There is no QSessionManager in a test.
                                QMetaObject::invokeMethod(qApp, "commitDataRequest",
                                                          QGenericArgument("QSessionManager&", &view));
                                view.hide();
@@ -169,7 +169,7 @@ TEST(MainWindowView, SavesWhatIsTypedHoweverTheProgramEnds) {
     }
 }
 
-TEST(ZolmarkApplication, TellsAnExceptionAndEndsIfItHasLeftNoWindow) {
+TEST(ZolmarkApplication, ShowsAnExceptionAndExitsIfNoWindowIsOpen) {
     const auto fail = [] { throw std::runtime_error("Meldung"); };
     QWidget window;
     window.show();
@@ -184,28 +184,28 @@ TEST(ZolmarkApplication, TellsAnExceptionAndEndsIfItHasLeftNoWindow) {
     QObject::connect(&close, &QTimer::timeout, &close, &QApplication::closeAllWindows);
     close.start(1);
     QTimer::singleShot(0, &close, fail);
-    EXPECT_EQ(RunToTheEnd(), EXIT_FAILURE);
+    EXPECT_EQ(RunEventLoop(), EXIT_FAILURE);
 }
 
-TEST(ZolmarkApplication, EndsBehindAMessageAndOpensNoOther) {
+TEST(ZolmarkApplication, ExitsDuringAMessageAndShowsNoOther) {
     auto &application = *static_cast<ZolmarkApplication *>(qApp);
     QWidget before;
     QWidget after;
     before.show();
     int messages = 0;
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &look, [&] {
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
         if (QApplication::activeModalWidget()) {
             ++messages;
             application.End();
         }
     });
-    look.start(1);
-    QTimer::singleShot(0, &look, [&] {
+    timer.start(1);
+    QTimer::singleShot(0, &timer, [&] {
         for (int i = 0; i < 3; ++i) { application.ShowException(std::runtime_error("Meldung")); }
-        after.show(); // As the main window does after the message of the sample book.
+        after.show(); // As the main window is shown after the message of the sample database.
     });
-    EXPECT_EQ(RunToTheEnd(), EXIT_SUCCESS);
+    EXPECT_EQ(RunEventLoop(), EXIT_SUCCESS);
     EXPECT_EQ(messages, 1);
     EXPECT_FALSE(before.isVisible() || after.isVisible());
 }

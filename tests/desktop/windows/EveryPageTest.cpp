@@ -7,33 +7,33 @@
 #include <set>
 #include <span>
 
-/// Looks at each page of the welcome window and of the main window, each as it shows.
-static void ForEveryPage(const std::function<void(const QMainWindow &)> &look) {
+/// Calls a function for each page of the welcome window and of the main window, while the page is shown.
+static void ForEveryPage(const std::function<void(const QMainWindow &)> &check) {
     TestEnvironment env;
     WelcomeWindow welcome(env.app);
     MainMenuBar menuBar;
-    WelcomeWindowView greeting(welcome, menuBar, env.app.Locale());
-    greeting.show();
+    WelcomeWindowView welcomeView(welcome, menuBar, env.app.Locale());
+    welcomeView.show();
     for (const int page : {0, 1, 2}) {
         welcome.PagePanel1.SetValue(page);
-        look(greeting);
+        check(welcomeView);
     }
     MainWindow window(env.app);
     MainWindowView view(window, env.app.Locale(), env.app.Resources());
     window.Event_Open();
     view.resize(1100, 900);
     view.show();
-    look(view);
+    check(view);
     window.MenuAction(u"preferences"_s);
-    look(view);
+    check(view);
 }
 
-/// Where a control stands in a window of the design size, in points; its look, which is the beginning of its text, =
-/// what it is the caption of, > at the right, ^ at the top, | in the middle, ~ for several lines, ! for bold letters;
-/// and the edges that it keeps its distance to when the window grows.
-struct Place {
+/// The geometry of a control in a window of the design size, in points; its look: the beginning of its text, = and the
+/// buddy of a label, > for right-aligned, | for centred, ^ for top-aligned, ~ for word wrap, ! for bold; and the edges
+/// to which it keeps its distance when the window is resized.
+struct ExpectedControl {
     const char *name;
-    QRect place;
+    QRect geometry;
     const char16_t *look = u"";
     Qt::Edges locks = LT;
 };
@@ -49,9 +49,9 @@ static QString Look(const QWidget &widget) {
         (alignment & Qt::AlignTop ? u"^"_s : QString()) + (widget.property("wordWrap").toBool() ? u"~"_s : QString());
     return look + (widget.font().bold() ? u"!"_s : QString());
 }
-// Two or three to a line.
+// Two or three controls per line.
 // clang-format off
-constexpr Place mainPlaces[] = {
+constexpr ExpectedControl mainControls[] = {
     {"AmountLabel(1)", {805, 707, 130, 20}, u"Anfang=OpeningBalanceLabel>", RB}, {"CategoryCombo", {370, 110, 169, 21}},
     {"AmountLabel(0)", {805, 729, 130, 20}, u"Aktuel=LastAmountLabel>", RB}, {"FaxField", {643, 87, 300, 22}, u"", LTR},
     {"Prefs(0)", {521, 246, 110, 20}, u"Konten=AccountFrameCombo>"}, {"LastAmountLabel", {947, 729, 100, 20}, u">", RB},
@@ -82,7 +82,7 @@ constexpr Place mainPlaces[] = {
     {"CurrencyCombo", {643, 212, 95, 20}}, {"CompanyField", {188, 57, 300, 22}, u"Muster"}, {"StreetField", {188, 180, 300, 22}},
     {"CityField", {247, 212, 241, 22}}, {"ZipField", {188, 212, 51, 22}}};
 
-constexpr Place welcomePlaces[] = {
+constexpr ExpectedControl welcomeControls[] = {
     {"Label19", {40, 156, 120, 20}, u"Eröffn=OpeningBalanceField>"}, {"ForwardButton", {456, 266, 80, 20}, u"Weiter"},
     {"Label20", {40, 126, 120, 20}, u"Kontob=AccountNameField>"}, {"Label17", {39, 77, 82, 20}, u"Name:=CompanyField>"},
     {"Label6", {433, 126, 45, 20}, u"Konto:=AccountField>"}, {"Label18", {19, 180, 141, 60}, u"Datum=OpeningDate>~"},
@@ -103,51 +103,52 @@ constexpr Place welcomePlaces[] = {
     {"Canvas1", {31, 102, 513, 200}}, {"ZipField", {136, 169, 51, 22}}, {"Placard1", {19, 15, 526, 41}}};
 // clang-format on
 
-TEST(EveryPage, StandsAsDesignedAndGrowsWithTheWindowAndWithItsLetters) {
-    std::set<const Place *> seen;
+TEST(EveryPage, ScalesItsLayoutWithTheWindowAndTheFont) {
+    std::set<const ExpectedControl *> seen;
     ForEveryPage([&seen](const QMainWindow &window) {
         QWidget &pages = *window.centralWidget();
         const bool isMain = window.objectName() == u"MainWindow"_s;
-        for (const int times : {1, 2}) {
-            pages.setFont(QFont(u"DejaVu Sans"_s, 11 * times)); // 11 is the largest of the design.
+        for (const int factor : {1, 2}) {
+            pages.setFont(QFont(u"DejaVu Sans"_s, 11 * factor)); // 11 is the largest font size of the design.
             QApplication::processEvents();
-            const QSize growth = isMain ? pages.size() - QSize(1080, 770) * times : QSize(0, 0);
-            for (const Place &each : isMain ? std::span<const Place>(mainPlaces) : welcomePlaces) {
+            const QSize extraSize = isMain ? pages.size() - QSize(1080, 770) * factor : QSize(0, 0);
+            for (const ExpectedControl &each :
+                 isMain ? std::span<const ExpectedControl>(mainControls) : welcomeControls) {
                 const auto *found = window.findChild<QWidget *>(QLatin1String(each.name));
-                // A page is built, and takes its size, when it shows.
+                // A page is created and resized when it is shown.
                 if (!found || !found->parentWidget()->isVisible() ||
-                    (times == 2 && (each.locks != LT || found->isHidden()))) {
+                    (factor == 2 && (each.locks != LT || found->isHidden()))) {
                     continue;
                 }
                 const QWidget &widget = *found;
-                const int right = each.locks & Qt::RightEdge ? growth.width() : 0;
-                const int bottom = each.locks & Qt::BottomEdge ? growth.height() : 0;
-                const QRect place(each.place.topLeft() * times, each.place.size() * times);
+                const int right = each.locks & Qt::RightEdge ? extraSize.width() : 0;
+                const int bottom = each.locks & Qt::BottomEdge ? extraSize.height() : 0;
+                const QRect geometry(each.geometry.topLeft() * factor, each.geometry.size() * factor);
                 EXPECT_EQ(QRect(widget.mapTo(&pages, QPoint()), widget.size()),
-                          place.adjusted(each.locks & Qt::LeftEdge ? 0 : right, each.locks & Qt::TopEdge ? 0 : bottom,
-                                         right, bottom))
-                    << each.name << times;
+                          geometry.adjusted(each.locks & Qt::LeftEdge ? 0 : right,
+                                            each.locks & Qt::TopEdge ? 0 : bottom, right, bottom))
+                    << each.name << factor;
                 EXPECT_EQ(Look(widget), QStringView(each.look)) << each.name;
                 seen.insert(&each);
             }
             for (const QTableView *list : window.findChildren<QTableView *>()) {
-                EXPECT_EQ(list->verticalHeader()->defaultSectionSize(), 18 * times);
-                EXPECT_TRUE(list->columnWidth(0) == 115 * times || list->objectName() != u"CashList"_s);
+                EXPECT_EQ(list->verticalHeader()->defaultSectionSize(), 18 * factor);
+                EXPECT_TRUE(list->columnWidth(0) == 115 * factor || list->objectName() != u"CashList"_s);
             }
         }
     });
-    EXPECT_EQ(seen.size(), std::size(mainPlaces) + std::size(welcomePlaces));
+    EXPECT_EQ(seen.size(), std::size(mainControls) + std::size(welcomeControls));
 }
 
-TEST(EveryPage, LooksTheSameWhetherTheFontIsInPixelsOrPoints) {
+TEST(EveryPage, LooksTheSameWithPixelAndPointSizes) {
     const QFont before = QApplication::font();
     QStringList looks[2];
     for (QStringList &look : looks) {
         QFont font(u"DejaVu Sans"_s, 18);
-        if (&look == &looks[1]) { font.setPixelSize(24); } // The same at 96 dots to the inch.
+        if (&look == &looks[1]) { font.setPixelSize(24); } // The same size at 96 dpi.
         QApplication::setFont(font);
         ForEveryPage([&look, &font](const QMainWindow &window) {
-            window.centralWidget()->setFont(font); // The screen of the tests is too small for it.
+            window.centralWidget()->setFont(font); // The tests' screen is too small for this size.
             QApplication::processEvents();
             for (const QWidget *each : window.centralWidget()->findChildren<QWidget *>()) {
                 look.append(u"%1 %2 %3 of %4"_s.arg(each->objectName())
@@ -161,24 +162,24 @@ TEST(EveryPage, LooksTheSameWhetherTheFontIsInPixelsOrPoints) {
     EXPECT_EQ(looks[0], looks[1]);
 }
 
-TEST(EveryPage, GrowsNoFurtherThanTheScreenLetsIt) {
+TEST(EveryPage, LimitsItsFontSizeToTheScreen) {
     struct Case {
-        QSize least, beside;
+        QSize minimum, bars;
         int pixels;
     };
     QWidget pages;
     const QFont before = QApplication::font();
-    QApplication::setFont(QFont(u"DejaVu Sans"_s, 24)); // 32 pixels, 2.18 times the largest of the design.
-    const QSize room = AvailableSize(pages), half = room / 2;
-    for (const Case &each : {Case{half / 2, {}, 32}, Case{half, {}, 29}, Case{{room.width(), 9}, {}, 14},
-                             Case{{9, half.height()}, {0, half.height()}, 14}, Case{room * 2, {}, 14}}) {
-        UseDesktopFont(pages, each.least, each.beside);
-        EXPECT_EQ(pages.fontInfo().pixelSize(), each.pixels) << each.least.width();
+    QApplication::setFont(QFont(u"DejaVu Sans"_s, 24)); // 32 pixels, 2.18 times the largest font size of the design.
+    const QSize available = AvailableSize(pages), half = available / 2;
+    for (const Case &each : {Case{half / 2, {}, 32}, Case{half, {}, 29}, Case{{available.width(), 9}, {}, 14},
+                             Case{{9, half.height()}, {0, half.height()}, 14}, Case{available * 2, {}, 14}}) {
+        UseDesktopFont(pages, each.minimum, each.bars);
+        EXPECT_EQ(pages.fontInfo().pixelSize(), each.pixels) << each.minimum.width();
     }
     QApplication::setFont(before);
 }
 
-TEST(EveryPage, ShowsItsTextsWholeInTheFontsOfTheDesktop) {
+TEST(EveryPage, ShowsUncutTextsInEveryFontSize) {
     const QFont before = QApplication::font();
     ForEveryPage([](const QMainWindow &window) {
         for (const int points : {8, 11}) {
@@ -188,10 +189,10 @@ TEST(EveryPage, ShowsItsTextsWholeInTheFontsOfTheDesktop) {
                 const QString text = each->property("text").toString();
                 const int flags = each->property("wordWrap").toBool() ? Qt::TextWordWrap : 0;
                 const QSize needed = each->fontMetrics().boundingRect(each->rect(), flags, text).size();
-                // The largest title is higher than its place by what no letter of it needs.
-                const QRect place = QRect(QPoint(), each->size()).adjusted(0, 0, 0, 2);
+                // The font of the largest title is 2 pixels higher than the label, its characters are not.
+                const QRect area = QRect(QPoint(), each->size()).adjusted(0, 0, 0, 2);
                 EXPECT_TRUE(!each->isVisible() || text.isEmpty() ||
-                            (place.contains(QRect(QPoint(), needed)) && each->fontInfo().pixelSize() >= 11 &&
+                            (area.contains(QRect(QPoint(), needed)) && each->fontInfo().pixelSize() >= 11 &&
                              (each->font().stretch() == 0 || each->font().stretch() >= 85)))
                     << qPrintable(text) << points;
             }
@@ -200,25 +201,25 @@ TEST(EveryPage, ShowsItsTextsWholeInTheFontsOfTheDesktop) {
     QApplication::setFont(before);
 }
 
-/// What assistive tools call the controls that Tab reaches, in its order.
+/// Returns the accessible names of the controls in tab order.
 static QString TabOrder(const QWidget &window) {
     QStringList order;
     for (QWidget *each = window.nextInFocusChain(); each != &window; each = each->nextInFocusChain()) {
         if (each->isVisible() && each->isEnabled() && !each->focusProxy() && (each->focusPolicy() & Qt::TabFocus)) {
             const QAccessibleInterface *item = QAccessible::queryAccessibleInterface(each);
-            // The name of a combo box is its row here, and its caption tells what it is.
+            // The accessible name of a combo box is its current row; its label describes it.
             if (item->role() == QAccessible::ComboBox) { item = item->relations(QAccessible::Label).value(0).first; }
             order.append(item->text(QAccessible::Name));
-            EXPECT_NE(item->text(QAccessible::Description), order.last()) << "told twice";
+            EXPECT_NE(item->text(QAccessible::Description), order.last()) << "the description repeats the name";
         }
     }
     return order.join(u", "_s);
 }
 
-TEST(EveryPage, TellsAssistiveToolsWhatTheKeysReach) {
+TEST(EveryPage, NamesItsControlsInTabOrder) {
     QStringList orders;
     ForEveryPage([&orders](const QWidget &window) { orders.append(TabOrder(window)); });
-    // A page is built when it shows: on the way round its controls come after all that stood before.
+    // A page is created when it is first shown: its controls come last in the focus chain.
     EXPECT_EQ(orders.join(u'\n'), u"Demo Datenbank, Neue Datenbank, Handbuch\n"
                                   "Demo Datenbank, Neue Datenbank, Handbuch, "
                                   "Name:, Name, zweite Zeile, Strasse:, Plz, Ort, Telefon:, Weiter\n"

@@ -4,7 +4,7 @@
 
 static const auto today = [] { return Date(QDate(2026, 3, 15)); };
 
-TEST(DateControl, ReadsEveryFormOfADay) {
+TEST(DateControl, ReadsEveryDateFormat) {
     struct Case {
         QString typed, day;
     };
@@ -21,14 +21,14 @@ TEST(DateControl, ReadsEveryFormOfADay) {
     }
 }
 
-TEST(DateControl, KeepsItsDayWhenTheTextIsNoDay) {
+TEST(DateControl, KeepsItsDateWhenTheTextIsInvalid) {
     DateControl field(u"DateField"_s, Date(QDate(2025, 11, 15)), today);
-    const char *const none[] = {"",          " ",     "31.02.",    "29.2.",      "0.1.",      "1.13.",
-                                "31",        "00",    "0113",      "102",        "01022",     "0102202",
-                                "010220260", "1.2.6", "1.2.026",   "1.2.12026",  "1.2.2026.", "1..2",
-                                "1.2.-26",   "-1",    "1-2-2026",  "2026-02-30", "26-02-01",  "2026-02",
-                                "1/2/2026",  "abc",   "1.2.2026x", "01.01.0000"};
-    for (const char *typed : none) {
+    const char *const invalid[] = {"",          " ",     "31.02.",    "29.2.",      "0.1.",      "1.13.",
+                                   "31",        "00",    "0113",      "102",        "01022",     "0102202",
+                                   "010220260", "1.2.6", "1.2.026",   "1.2.12026",  "1.2.2026.", "1..2",
+                                   "1.2.-26",   "-1",    "1-2-2026",  "2026-02-30", "26-02-01",  "2026-02",
+                                   "1/2/2026",  "abc",   "1.2.2026x", "01.01.0000"};
+    for (const char *typed : invalid) {
         EXPECT_FALSE(field.SetTyped(QString::fromLatin1(typed))) << typed;
         EXPECT_EQ(field.DateValue().SQLDate(), u"2025-11-15"_s) << typed;
     }

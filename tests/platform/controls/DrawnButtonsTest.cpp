@@ -4,32 +4,32 @@
 #include "support/EventLog.h"
 #include "support/GoogleTest.h"
 
-/// What a button paints, and behind that its backdrop if it has one.
+/// Returns the drawing steps of a button, followed by those of its backdrop if it has one.
 static QStringList Drawn(Canvas &button) {
     QStringList drawn;
-    DrawingRecorder paper(drawn);
-    Q_EMIT button.Paint(paper);
-    if (button.Backdrop()) { button.Backdrop()->DrawOn(paper); }
+    DrawingRecorder recorder(drawn);
+    Q_EMIT button.Paint(recorder);
+    if (button.Backdrop()) { button.Backdrop()->DrawOn(recorder); }
     return drawn;
 }
 
-TEST(TLXPlusMinusButton, DrawsBothSignsAndTheHalfThatIsHeld) {
+TEST(TLXPlusMinusButton, DrawsBothSignsAndThePressedHalf) {
     TLXPlusMinusButton button(u""_s);
-    const QStringList free = {u"cccccc rect 0 0 28 29"_s, u"rect 30 0 29 29"_s, u"333333 line 9 14 19 14"_s,
-                              u"line 14 9 14 19"_s, u"line 38 14 48 14"_s};
+    const QStringList released = {u"cccccc rect 0 0 28 29"_s, u"rect 30 0 29 29"_s, u"333333 line 9 14 19 14"_s,
+                                  u"line 14 9 14 19"_s, u"line 38 14 48 14"_s};
     button.SetSize(60, 29);
-    EXPECT_EQ(Drawn(button), free);
+    EXPECT_EQ(Drawn(button), released);
     Q_EMIT button.MouseDown(28, 5);
     EXPECT_EQ(Drawn(button).value(0), u"cccccc fill 0 0 29 29"_s);
     Q_EMIT button.MouseDown(29, 5);
     EXPECT_EQ(Drawn(button).value(0), u"cccccc fill 29 0 29 29"_s);
     Q_EMIT button.MouseUp(-1, 5);
-    EXPECT_EQ(Drawn(button), free);
-    button.SetSize(30, 29); // Two squares have their place.
+    EXPECT_EQ(Drawn(button), released);
+    button.SetSize(30, 29); // The width of two squares.
     EXPECT_EQ(Drawn(button).value(0), u"cccccc rect 0 0 14 15"_s);
 }
 
-TEST(TLXPlusMinusButton, CountsAPressInTheHalfWhereItIsReleased) {
+TEST(TLXPlusMinusButton, IsPressedInTheHalfWhereTheMouseIsReleased) {
     struct Case {
         int x, y;
         QString pressed;
@@ -51,7 +51,7 @@ TEST(TLXPlusMinusButton, CountsAPressInTheHalfWhereItIsReleased) {
     EXPECT_EQ(log.Take(), u"Updated MouseDown"_s);
 }
 
-TEST(TLXCanvasButton, IsDrawnAnewWhenThePointerComesAndGoes) {
+TEST(TLXCanvasButton, IsRedrawnWhenThePointerEntersAndLeaves) {
     TLXCanvasButton button(u""_s);
     button.SetSize(245, 100);
     const QStringList borders = {u"ffffff line 0 0 245 0"_s, u"cccccc line 0 99 245 99"_s};

@@ -16,32 +16,32 @@ protected:
             list.SetRowTag(list.LastIndex(), name.toUpper());
         }
     }
-    QString Told() { return log.Take().remove(u"CompareRows"_s).simplified(); }
+    QString TakeSignals() { return log.Take().remove(u"CompareRows"_s).simplified(); }
 
     Listbox list{u"List"_s, 2};
     EventLog log{list};
     const QAbstractItemModelTester tester{&list};
 };
 
-TEST_F(ListboxTest, TellsItsViewEveryChangeAndOnlyAChange) {
-    EXPECT_EQ(Told(), u"rowsInserted rowsInserted rowsInserted"_s);
+TEST_F(ListboxTest, EmitsSignalsOnlyForChanges) {
+    EXPECT_EQ(TakeSignals(), u"rowsInserted rowsInserted rowsInserted"_s);
     list.SetCell(0, 0, u"d"_s);
     list.SetCellCheck(0, 1, true);
     list.SetColumn(0, {u"d", u"b", u"a"});
     list.SetHeading(0, u"Name"_s);
-    EXPECT_EQ(Told(), u"dataChanged dataChanged dataChanged headerDataChanged"_s);
+    EXPECT_EQ(TakeSignals(), u"dataChanged dataChanged dataChanged headerDataChanged"_s);
     list.SetListIndex(1);
     list.SetListIndex(1);
-    list.SetListIndex(3); // None.
-    EXPECT_EQ(Told(), u"SelectionMoved SelectionMoved"_s);
+    list.SetListIndex(3); // Out of range: selects no row.
+    EXPECT_EQ(TakeSignals(), u"SelectionChanged SelectionChanged"_s);
     EXPECT_EQ(list.ListIndex(), -1);
     list.ScrollTo(2);
     list.ScrollTo(3);
-    list.Sort(); // By no column.
-    EXPECT_EQ(Told(), u"ScrollRequested"_s);
+    list.Sort(); // No column to sort by.
+    EXPECT_EQ(TakeSignals(), u"ScrollRequested"_s);
     list.PressHeading(0);
     list.Sort();
-    EXPECT_EQ(Told(), u"headerDataChanged modelReset SelectionMoved"_s);
+    EXPECT_EQ(TakeSignals(), u"headerDataChanged modelReset SelectionChanged"_s);
     list.Refill([this] {
         list.DeleteAllRows();
         list.AddRow(u"a"_s);
@@ -52,37 +52,37 @@ TEST_F(ListboxTest, TellsItsViewEveryChangeAndOnlyAChange) {
     });
     list.DeleteAllRows();
     list.SetColumn(0, {});
-    EXPECT_EQ(Told(), u"modelReset SelectionMoved modelReset SelectionMoved"_s);
+    EXPECT_EQ(TakeSignals(), u"modelReset SelectionChanged modelReset SelectionChanged"_s);
 }
 
-TEST_F(ListboxTest, TellsWhatBecomesOfAnOpenCell) {
+TEST_F(ListboxTest, EmitsSignalsForTheOpenCell) {
     log.Take();
     list.EditCell(0, 0);
     list.SetEditText(u"e"_s);
-    list.SetListIndex(0); // Its own row.
-    EXPECT_EQ(Told(), u"SelectionMoved ScrollRequested EditOpened"_s);
+    list.SetListIndex(0); // The row of the open cell.
+    EXPECT_EQ(TakeSignals(), u"SelectionChanged ScrollRequested EditOpened"_s);
     list.SetListIndex(2);
-    EXPECT_EQ(Told(), u"dataChanged EditClosed CellAction SelectionMoved"_s);
+    EXPECT_EQ(TakeSignals(), u"dataChanged EditClosed CellAction SelectionChanged"_s);
     list.EditCell(2, 0);
     list.EndEdit();
     list.EndEdit();
-    EXPECT_EQ(Told(), u"ScrollRequested EditOpened EditClosed"_s);
+    EXPECT_EQ(TakeSignals(), u"ScrollRequested EditOpened EditClosed"_s);
     list.EditCell(2, 0);
     list.SetEditText(u"x"_s);
     list.CancelEdit();
-    EXPECT_EQ(Told(), u"ScrollRequested EditOpened EditClosed"_s);
+    EXPECT_EQ(TakeSignals(), u"ScrollRequested EditOpened EditClosed"_s);
     list.EditCell(1, 1); // A check box.
     list.ToggleCheck(1, 0);
     list.ToggleCheck(1, 1);
-    EXPECT_EQ(Told(), u"dataChanged CellAction"_s);
+    EXPECT_EQ(TakeSignals(), u"dataChanged CellAction"_s);
     EXPECT_EQ(list.Cell(-1, 0), u"e\nb\na"_s);
 }
 
-TEST_F(ListboxTest, SortsWholeRowsAndKeepsTheSelectionWithItsOwn) {
+TEST_F(ListboxTest, SortsWholeRowsAndKeepsTheSelectedRow) {
     Listbox::Rows rows(2);
     rows.tags = {u"C", u"B", u"A"};
     rows.cells[0] = {u"c", u"b", u"a"};
-    rows.cellTags[1] = {u"3"_s}; // Those that come after it have none.
+    rows.cellTags[1] = {u"3"_s}; // The other rows have none.
     list.SetRows(rows);
     list.SetCellCheck(0, 1, true);
     list.SetListIndex(0);
@@ -98,13 +98,13 @@ TEST_F(ListboxTest, SortsWholeRowsAndKeepsTheSelectionWithItsOwn) {
     EXPECT_FALSE(list.CellCheck(0, 1));
 }
 
-TEST_F(ListboxTest, LeavesAllAsItIsForAPlaceOutsideTheList) {
+TEST_F(ListboxTest, IgnoresIndexesOutsideTheList) {
     const QString before = list.Cell(-1, -1);
-    for (const QPoint place : {QPoint(0, 2), {0, -1}, {3, 0}, {-1, 1}}) {
-        list.SetCell(place.x(), place.y(), u"x"_s);
-        list.SetCellCheck(place.x(), place.y(), true);
-        list.EditCell(place.x(), place.y());
-        EXPECT_FALSE(list.CellCheck(place.x(), place.y()) || list.EditedRow() >= 0);
+    for (const QPoint cell : {QPoint(0, 2), {0, -1}, {3, 0}, {-1, 1}}) {
+        list.SetCell(cell.x(), cell.y(), u"x"_s);
+        list.SetCellCheck(cell.x(), cell.y(), true);
+        list.EditCell(cell.x(), cell.y());
+        EXPECT_FALSE(list.CellCheck(cell.x(), cell.y()) || list.EditedRow() >= 0);
     }
     for (const int column : {-1, 2}) {
         list.SetHeading(column, u"x"_s);
@@ -115,5 +115,5 @@ TEST_F(ListboxTest, LeavesAllAsItIsForAPlaceOutsideTheList) {
     EXPECT_EQ(list.Heading(-1) + list.EditText() + list.Cell(-1, -1), u"\t"_s + before);
     EXPECT_EQ(list.Cell(3, 0) + list.Cell(0, 2) + list.Heading(2) + list.RowTag(3), QString());
     EXPECT_EQ(list.headerData(2, Qt::Horizontal, Qt::DisplayRole), QVariant());
-    EXPECT_EQ(list.index(0, 0).data(Qt::AccessibleTextRole), QVariant()) << "it is no check box";
+    EXPECT_EQ(list.index(0, 0).data(Qt::AccessibleTextRole), QVariant()) << "the cell has no check box";
 }

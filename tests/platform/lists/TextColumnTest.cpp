@@ -4,9 +4,9 @@
 
 #include <QStringList>
 
-TEST(TextColumn, StandWhereTheyStandWhateverBecomesOfOthers) {
+TEST(TextColumn, KeepsTheOtherTextsWhenOneChanges) {
     struct Case {
-        const char *what;
+        const char *name;
         void (*change)(TextColumn &texts);
         QStringList expected;
     };
@@ -21,8 +21,8 @@ TEST(TextColumn, StandWhereTheyStandWhateverBecomesOfOthers) {
         TextColumn texts = {u"a", u"", u"ccc"};
         each.change(texts);
         QStringList found;
-        for (int place = 0; place < texts.Count(); ++place) { found.append(texts.At(place).toString()); }
-        EXPECT_EQ(found, each.expected) << each.what;
-        EXPECT_EQ(texts.LengthOf(1, texts.Count()), each.expected.mid(1).join(u""_s).size()) << each.what;
+        for (int index = 0; index < texts.Count(); ++index) { found.append(texts.At(index).toString()); }
+        EXPECT_EQ(found, each.expected) << each.name;
+        EXPECT_EQ(texts.LengthOf(1, texts.Count()), each.expected.mid(1).join(u""_s).size()) << each.name;
     }
 }

@@ -5,7 +5,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-TEST(FolderItem, MovesToAFreePlaceReplacesNothingAndDeletesWhatBeginsSo) {
+TEST(FolderItem, MovesWithoutReplacingAndDeletesByPrefix) {
     const QTemporaryDir folder;
     const FolderItem root(folder.path());
     for (const auto &name : {u"new"_s, u"old"_s, u".a-1"_s, u".a-2"_s, u"b.a-"_s}) {
@@ -14,14 +14,14 @@ TEST(FolderItem, MovesToAFreePlaceReplacesNothingAndDeletesWhatBeginsSo) {
     }
     ASSERT_TRUE(QFile::link(folder.filePath(u"nowhere"_s), folder.filePath(u"link"_s)));
     ASSERT_TRUE(root.Child(u".a-folder"_s).Child(u"inner"_s).CreateAsFolder());
-    for (const auto &taken : {u"old"_s, u"link"_s, u"no/folder"_s}) {
-        EXPECT_FALSE(root.Child(u"new"_s).MoveTo(root.Child(taken))) << qPrintable(taken);
+    for (const auto &target : {u"old"_s, u"link"_s, u"no/folder"_s}) {
+        EXPECT_FALSE(root.Child(u"new"_s).MoveTo(root.Child(target))) << qPrintable(target);
     }
     EXPECT_EQ(QFileInfo(folder.filePath(u"old"_s)).size(), 3);
     EXPECT_TRUE(root.Child(u"new"_s).MoveTo(root.Child(u"moved.b"_s)));
-    // A folder never has a second name.
+    // A folder cannot have a hard link.
     EXPECT_TRUE(root.Child(u".a-folder"_s).MoveTo(root.Child(u".a-moved"_s)));
-    EXPECT_FALSE(root.Child(u".a-moved"_s).CreateAsFolder()) << "it is there";
+    EXPECT_FALSE(root.Child(u".a-moved"_s).CreateAsFolder()) << "the folder exists";
     root.DeleteFiles(u".a-"_s);
     const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
     EXPECT_EQ(QDir(folder.path()).entryList(all),

@@ -3,7 +3,7 @@
 #include "platform/values/Encodings.h"
 #include "support/GoogleTest.h"
 
-TEST(Text, GivesTheNumberAtItsStart) {
+TEST(Text, ReadsTheLeadingNumber) {
     struct Case {
         QString text;
         double number;
@@ -30,7 +30,7 @@ TEST(Text, GivesTheNumberAtItsStart) {
     for (const Case &each : cases) { EXPECT_EQ(Val(each.text), each.number) << qPrintable(each.text); }
 }
 
-TEST(Text, FindsFieldsAndLines) {
+TEST(Text, SplitsReplacesAndComparesTexts) {
     EXPECT_EQ(NthField(u"a--b", u'-', 1) + NthField(u"a--b", u'-', 3), u"ab"_s);
     EXPECT_EQ(Replace(u"1,2,3"_s, u',', u'.') + Replace(u",5"_s, u',', u'.'), u"1.2,3.5"_s);
     EXPECT_EQ(ReplaceLineEndings(u"a\r\nb\rc\n\rd\n"_s, u"|"_s), u"a|b|c||d|"_s);
@@ -39,7 +39,7 @@ TEST(Text, FindsFieldsAndLines) {
     EXPECT_TRUE(CompareTexts(u"öl"_s, u"Zins"_s) < 0 && CompareTexts(u"Zins"_s, u"öl"_s) > 0);
 }
 
-TEST(Encodings, WriteCodePage1252AndPlainLettersForTheRest) {
+TEST(Encodings, WriteCodePage1252AndReplaceOtherCharacters) {
     struct Case {
         QString text;
         QByteArray bytes;

@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 #include <QProcess>
 
-TEST(UserLocale, RoundsHalfAwayFromZeroOnTheShortestText) {
+TEST(UserLocale, RoundsTheShortestTextHalfAwayFromZero) {
     struct Case {
         double value;
         QString amount;
@@ -23,8 +23,8 @@ TEST(UserLocale, RoundsHalfAwayFromZeroOnTheShortestText) {
     EXPECT_EQ(german.FormatBalance(-1.005) + german.FormatBalance(10), u"-1,0110,00"_s);
 }
 
-/// What the test after this one reads, in an environment of its own.
-TEST(UserLocale, DISABLED_ShowsItself) {
+/// Run by the next test as a program with its own environment.
+TEST(UserLocale, DISABLED_PrintsItsFormats) {
     const UserLocale locale(QLocale::system());
     const Date day(QDate(2026, 1, 20));
     EXPECT_EQ(locale.ParseDate(locale.ShortDate(day)), std::optional(day));
@@ -32,7 +32,7 @@ TEST(UserLocale, DISABLED_ShowsItself) {
               << qPrintable(locale.FormatAmount(-1234.5) + u' ' + locale.ShortDate(day) + u' ' + locale.LongDate(day));
 }
 
-TEST(UserLocale, IsPlainGermanWhateverElseTheDesktopHasSet) {
+TEST(UserLocale, IsGermanWhateverTheEnvironmentSets) {
     struct Case {
         QStringList settings;
         QString shown;
@@ -49,7 +49,7 @@ TEST(UserLocale, IsPlainGermanWhateverElseTheDesktopHasSet) {
         QProcess child;
         child.setEnvironment(each.settings);
         child.start(QCoreApplication::applicationFilePath(),
-                    {u"--gtest_also_run_disabled_tests"_s, u"--gtest_filter=*ShowsItself"_s});
+                    {u"--gtest_also_run_disabled_tests"_s, u"--gtest_filter=*PrintsItsFormats"_s});
         EXPECT_TRUE(child.waitForFinished() && child.exitCode() == 0);
         const QString output = QString::fromUtf8(child.readAllStandardOutput());
         EXPECT_EQ(output.section(u"shown: "_s, 1).section(u'[', 0, 0), each.shown)
