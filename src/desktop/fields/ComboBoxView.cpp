@@ -1,8 +1,7 @@
 #include "desktop/fields/ComboBoxView.h"
 
 #include "desktop/fields/ControlBinding.h"
-#include "desktop/fields/LineEdits.h"
-#include "desktop/fields/PopupList.h"
+#include "desktop/fields/Fields.h"
 #include "desktop/look/TextFitting.h"
 #include "desktop/look/ToolTipText.h"
 #include "platform/lists/ComboBox.h"

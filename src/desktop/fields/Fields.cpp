@@ -1,23 +1,35 @@
 #include "desktop/fields/Fields.h"
 
 #include "desktop/fields/ControlBinding.h"
-#include "desktop/fields/LineEdits.h"
-#include "desktop/fields/PopupList.h"
 #include "platform/controls/Label.h"
 #include "platform/controls/PushButton.h"
 #include "platform/controls/TextField.h"
 #include "platform/lists/PopupMenu.h"
+#include "platform/values/Text.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QValidator>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+class OneLineValidator : public QValidator {
+public:
+    using QValidator::QValidator;
+
+    State validate(QString &text, int &cursor) const override {
+        cursor = static_cast<int>(OneLine(text.left(cursor)).size());
+        text = OneLine(text);
+        return Acceptable;
+    }
+};
 
 class AmountEdit : public QLineEdit {
 public:
@@ -104,4 +116,19 @@ QComboBox *CreatePopupMenu(PopupMenu &menu, QWidget *parent) {
                      [view, &menu] { view->setCurrentIndex(menu.ListIndex()); });
     QObject::connect(view, &QComboBox::activated, &menu, &PopupMenu::SetListIndex);
     return view;
+}
+
+void AcceptOneLine(QLineEdit &edit) {
+    edit.setValidator(new OneLineValidator(&edit));
+}
+
+void ShowBeginning(QLineEdit &edit) {
+    if (!edit.hasFocus()) {
+        edit.setCursorPosition(0);
+    }
+}
+
+void FitToLongestRow(QAbstractItemView &list) {
+    const int bar = list.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &list);
+    list.setMinimumWidth(list.sizeHintForColumn(0) + bar + 2 * list.frameWidth());
 }

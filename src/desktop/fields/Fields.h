@@ -5,6 +5,7 @@
 class Label;
 class PopupMenu;
 class PushButton;
+class QAbstractItemView;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -25,3 +26,13 @@ QLineEdit *CreateAmountField(TextField &field, QWidget *parent);
 QPushButton *CreatePushButton(PushButton &button, QWidget *parent);
 /// The open list is as wide as its longest row.
 QComboBox *CreatePopupMenu(PopupMenu &menu, QWidget *parent);
+
+/// Replaces line breaks and other control characters in what the user types, pastes or drops from
+/// now on; the text that the line edit already has is not changed before the next edit.
+void AcceptOneLine(QLineEdit &edit);
+
+/// Scrolls a text that the program has set back to its beginning, unless the user is editing it.
+void ShowBeginning(QLineEdit &edit);
+
+/// Makes the pop-up list of a combo box at least as wide as its longest row.
+void FitToLongestRow(QAbstractItemView &list);

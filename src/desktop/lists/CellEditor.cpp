@@ -1,8 +1,8 @@
 #include "desktop/lists/CellEditor.h"
 
+#include "desktop/fields/Fields.h"
 #include "desktop/fields/Focus.h"
 #include "desktop/fields/HintView.h"
-#include "desktop/fields/LineEdits.h"
 #include "platform/lists/Listbox.h"
 
 #include <QCoreApplication>

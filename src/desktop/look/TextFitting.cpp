@@ -14,22 +14,10 @@ namespace {
 constexpr int narrowestPercent = 85;
 constexpr int smallestPx = 9;
 
-TextBox BoxOf(const QLabel &label) {
-    return {label.text(), label.contentsRect(), label.wordWrap() ? Qt::TextWordWrap : 0};
-}
-
-TextBox BoxOf(const QPushButton &button) {
-    QStyleOptionButton option;
-    option.initFrom(&button);
-    return {button.text(),
-            button.style()->subElementRect(QStyle::SE_PushButtonContents, &option, &button)};
-}
-
-TextBox BoxOf(const QComboBox &combo) {
-    QStyleOptionComboBox option;
-    option.initFrom(&combo);
+/// Returns the longest row of a pop-up menu, empty for one whose rows are texts of the user: it
+/// ignores their width.
+QString LongestRow(const QComboBox &combo) {
     QString longest;
-    // A combo box that ignores the width of its rows shows texts of the user.
     const bool isFixed =
         combo.sizeAdjustPolicy() != QComboBox::AdjustToMinimumContentsLengthWithIcon;
     for (int row = 0; isFixed && !combo.isEditable() && row < combo.count(); ++row) {
@@ -38,31 +26,36 @@ TextBox BoxOf(const QComboBox &combo) {
             longest = combo.itemText(row);
         }
     }
-    const QRect field = combo.style()->subControlRect(QStyle::CC_ComboBox, &option,
-                                                      QStyle::SC_ComboBoxEditField, &combo);
-    // The style keeps a margin of one point on each side.
-    return {longest, field.adjusted(1, 0, -1, 0)};
+    return longest;
 }
 
-TextBox BoxOf(const QLineEdit &edit) {
-    QStyleOptionFrame option;
-    option.initFrom(&edit);
-    return {edit.placeholderText(),
-            edit.style()->subElementRect(QStyle::SE_LineEditContents, &option, &edit)};
-}
-
-TextBox BoxOf(const QWidget &widget) {
+/// Returns the fixed text of a widget and the rectangle that its style draws the text in.
+TextBox FixedText(const QWidget &widget) {
+    const QStyle &style = *widget.style();
     if (const auto *label = qobject_cast<const QLabel *>(&widget)) {
-        return BoxOf(*label);
+        return {label->text(), label->contentsRect(), label->wordWrap() ? Qt::TextWordWrap : 0};
     }
     if (const auto *button = qobject_cast<const QPushButton *>(&widget)) {
-        return BoxOf(*button);
+        QStyleOptionButton option;
+        option.initFrom(button);
+        return {button->text(),
+                style.subElementRect(QStyle::SE_PushButtonContents, &option, button)};
     }
     if (const auto *combo = qobject_cast<const QComboBox *>(&widget)) {
-        return BoxOf(*combo);
+        QStyleOptionComboBox option;
+        option.initFrom(combo);
+        const QRect field =
+            style.subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, combo);
+        // The style keeps a margin of one point on each side.
+        return {LongestRow(*combo), field.adjusted(1, 0, -1, 0)};
     }
-    const auto *edit = qobject_cast<const QLineEdit *>(&widget);
-    return edit == nullptr ? TextBox{} : BoxOf(*edit);
+    if (const auto *edit = qobject_cast<const QLineEdit *>(&widget)) {
+        QStyleOptionFrame option;
+        option.initFrom(edit);
+        return {edit->placeholderText(),
+                style.subElementRect(QStyle::SE_LineEditContents, &option, edit)};
+    }
+    return {};
 }
 
 bool Fits(const QFont &font, const TextBox &box) {
@@ -101,7 +94,7 @@ QFont FittedFont(const QFont &font, const TextBox &box) {
 
 void FitText(QWidget &widget, const QFont &font) {
     const QFont resolved = font.resolve(widget.parentWidget()->font());
-    const QFont fitted = FittedFont(resolved, BoxOf(widget));
+    const QFont fitted = FittedFont(resolved, FixedText(widget));
     // A font that fits goes on following the parent's.
     widget.setFont(fitted == resolved ? font : fitted);
     if (auto *label = qobject_cast<QLabel *>(&widget)) {

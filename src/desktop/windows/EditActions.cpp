@@ -22,25 +22,16 @@ bool HasSelection(const QLineEdit &field) {
     return field.hasSelectedText();
 }
 
-bool CanUndo(const QLineEdit &field) {
-    return field.isUndoAvailable();
-}
-
-bool CanPaste(const QLineEdit & /*field*/) {
-    return !QApplication::clipboard()->text().isEmpty();
-}
-
-bool HasText(const QLineEdit &field) {
-    return !field.text().isEmpty();
-}
-
 const StandardEdit standardEdits[] = {
-    {u"EditUndo", CanUndo, [](QLineEdit &field) { field.undo(); }},
+    {u"EditUndo", [](const QLineEdit &field) { return field.isUndoAvailable(); },
+     [](QLineEdit &field) { field.undo(); }},
     {u"EditCut", HasSelection, [](QLineEdit &field) { field.cut(); }},
     {u"EditCopy", HasSelection, [](QLineEdit &field) { field.copy(); }},
-    {u"EditPaste", CanPaste, [](QLineEdit &field) { field.paste(); }},
+    {u"EditPaste", [](const QLineEdit &) { return !QApplication::clipboard()->text().isEmpty(); },
+     [](QLineEdit &field) { field.paste(); }},
     {u"EditClear", HasSelection, [](QLineEdit &field) { field.del(); }},
-    {u"EditSelectAll", HasText, [](QLineEdit &field) { field.selectAll(); }},
+    {u"EditSelectAll", [](const QLineEdit &field) { return !field.text().isEmpty(); },
+     [](QLineEdit &field) { field.selectAll(); }},
 };
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "desktop/drawing/Frame.h"
 #include "desktop/fields/Fields.h"
+#include "desktop/look/FontScaling.h"
+#include "desktop/look/TextFitting.h"
 #include "platform/controls/PushButton.h"
 
 #include <QComboBox>
@@ -10,16 +12,25 @@
 #include <QPainter>
 #include <QPushButton>
 
-Form::Form(QSize design, QWidget *parent)
-    : QWidget(parent), layout_(new LockLayout(this, design)) {}
+#include <algorithm>
+#include <utility>
 
-void Form::SetFrame(Frame frame) {
-    frame_ = frame;
-    update();
+namespace {
+
+/// Returns position and length in one direction after the form grew by `added` points.
+std::pair<int, int> FollowLocks(int position, int length, int added, bool lockStart, bool lockEnd) {
+    if (lockStart && lockEnd) {
+        return {position, std::max(0, length + added)};
+    }
+    return {lockEnd ? position + added : position, length};
 }
 
+} // namespace
+
 QWidget *Form::Add(QWidget *widget, const QRect &rect, Qt::Edges locks) {
-    layout_->AddAt(widget, rect, locks);
+    widget->setParent(this);
+    widget->setGeometry(rect);
+    items_.push_back({widget, rect, locks});
     return widget;
 }
 
@@ -40,28 +51,55 @@ void Form::AddButton(PushButton &button, const QRect &rect, Qt::Edges locks) {
 }
 
 QLabel *Form::AddText(const QString &name, const QString &text, const QRect &rect,
-                      Qt::Alignment alignment) {
+                      Qt::Alignment alignment, int fontSize, bool isBold) {
     auto *label = new QLabel(text, this);
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);
-    const bool hasHeight = alignment & Qt::AlignVertical_Mask;
-    label->setAlignment(hasHeight ? alignment : alignment | Qt::AlignVCenter);
+    const bool isVertical = alignment & Qt::AlignVertical_Mask;
+    label->setAlignment(isVertical ? alignment : alignment | Qt::AlignVCenter);
     Add(label, rect);
+    items_.back().font.setBold(isBold);
+    items_.back().fontSize = fontSize;
     return label;
 }
 
-QLabel *Form::SetTextFont(QLabel *text, int size, bool bold) {
-    QFont font;
-    font.setBold(bold);
-    layout_->SetFont(*text, font, size);
-    return text;
+QSize Form::sizeHint() const {
+    return Scaled(QRect({}, design_), ScaleFactor(*this)).size();
 }
 
-void Form::changeEvent(QEvent *event) {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange) {
-        layout_->invalidate();
-        layout_->activate();
+bool Form::event(QEvent *event) {
+    const bool isHandled = QWidget::event(event);
+    switch (event->type()) {
+    case QEvent::FontChange:
+        updateGeometry();
+        [[fallthrough]];
+    case QEvent::Resize:
+    case QEvent::LayoutRequest:
+        LayOut();
+        break;
+    default:
+        break;
+    }
+    return isHandled;
+}
+
+void Form::LayOut() {
+    const double factor = ScaleFactor(*this);
+    const QSize added = size() - sizeHint();
+    for (const Item &each : items_) {
+        const QRect rect = Scaled(each.rect, factor);
+        const auto [left, width] =
+            FollowLocks(rect.left(), rect.width(), added.width(), each.locks.testFlag(Qt::LeftEdge),
+                        each.locks.testFlag(Qt::RightEdge));
+        const auto [top, height] =
+            FollowLocks(rect.top(), rect.height(), added.height(), each.locks.testFlag(Qt::TopEdge),
+                        each.locks.testFlag(Qt::BottomEdge));
+        each.widget->setGeometry(left, top, width, height);
+        QFont font = each.font;
+        if (each.fontSize > 0) {
+            font.setPixelSize(Scaled(each.fontSize, factor));
+        }
+        FitText(*each.widget, font);
     }
 }
 

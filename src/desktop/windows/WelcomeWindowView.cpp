@@ -13,6 +13,7 @@
 
 #include <QEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QStackedWidget>
 
@@ -80,15 +81,15 @@ Form *WelcomeWindowView::CreatePage(const QString &name, QWidget *parent) {
 
 QWidget *WelcomeWindowView::Greeting(QWidget *parent) {
     Form &page = *CreatePage(u"Rectangle1"_s, parent);
-    QLabel *welcome = page.AddText(u"Label1"_s, u"Willkomen bei Zolmark"_s, OnPage(27, 9, 510, 36),
-                                   Qt::AlignHCenter);
-    SetTextColour(*page.SetTextFont(welcome, 32, true), strongText);
+    SetTextColour(*page.AddText(u"Label1"_s, u"Willkomen bei Zolmark"_s, OnPage(27, 9, 510, 36),
+                                Qt::AlignHCenter, 32, true),
+                  strongText);
     QLabel *purpose = page.AddText(u"Label2"_s,
                                    u"Einnahmen und Ausgabenverwaltung für \n"
                                    "Selbstständige und Freiberufler"_s,
-                                   OnPage(27, 54, 510, 45), Qt::AlignHCenter);
+                                   OnPage(27, 54, 510, 45), Qt::AlignHCenter, 16);
     purpose->setWordWrap(true);
-    SetTextColour(*page.SetTextFont(purpose, 16), softText);
+    SetTextColour(*purpose, softText);
     page.AddNamed(u"Bild zur Begrüßung"_s, new CanvasView(window_.Canvas1, &page),
                   OnPage(31, 102, 513, 200));
     return &page;
@@ -99,9 +100,7 @@ QWidget *WelcomeWindowView::CompanyPage(QWidget *parent) {
     auto *title = new Form({526, 41}, &page);
     title->setObjectName(u"Placard1"_s);
     title->SetFrame(titleFrame);
-    title->SetTextFont(
-        title->AddText(u"Label13"_s, u"Firmendaten erfassen"_s, {53, 8, 406, 24}, Qt::AlignHCenter),
-        18);
+    title->AddText(u"Label13"_s, u"Firmendaten erfassen"_s, {53, 8, 406, 24}, Qt::AlignHCenter, 18);
     page.Add(title, OnPage(19, 15, 526, 41));
     // In the order of the Tab key.
     page.AddText(u"Label17"_s, u"Name:"_s, OnPage(39, 77, 82, 20), Qt::AlignRight)
@@ -189,16 +188,16 @@ QWidget *WelcomeWindowView::AddChoice(TLXCanvasButton &canvas, const Choice &cho
     form_->Add(view, rect);
     QAbstractButton *button = view->AddButton(choice.title.text, {{0, 0}, rect.size()});
     button->setAccessibleDescription(choice.description.text.trimmed());
-    const auto add = [this](const Text &text, int height) {
-        QLabel *label =
-            form_->AddText(text.name, text.text, {640, text.top, 162, height}, Qt::AlignTop);
+    const auto add = [this](const Text &text, int height, int fontSize, bool isBold) {
+        QLabel *label = form_->AddText(text.name, text.text, {640, text.top, 162, height},
+                                       Qt::AlignTop, fontSize, isBold);
         // Mouse events go to the canvas below.
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
         label->setWordWrap(true);
         return label;
     };
-    form_->SetTextFont(add(choice.title, 20), 0, true)->setBuddy(button);
-    QLabel *description = add(choice.description, choice.top + 99 - choice.description.top);
-    SetTextColour(*form_->SetTextFont(description, 12), strongText);
+    add(choice.title, 20, 0, true)->setBuddy(button);
+    const int height = choice.top + 99 - choice.description.top;
+    SetTextColour(*add(choice.description, height, 12, false), strongText);
     return button;
 }

@@ -1,5 +1,5 @@
-#include "desktop/look/LockLayout.h"
 #include "desktop/look/WindowPlacement.h"
+#include "desktop/windows/Form.h"
 #include "desktop/windows/WelcomeWindowView.h"
 #include "setup/WelcomeWindow.h"
 #include "support/MainWindowTest.h"
