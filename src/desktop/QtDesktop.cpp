@@ -2,7 +2,6 @@
 
 #include "desktop/drawing/PrintJob.h"
 #include "platform/menus/MenuItem.h"
-#include "platform/outside/SaveAsDialog.h"
 #include "platform/values/Text.h"
 
 #include <QApplication>

@@ -2,7 +2,6 @@
 
 #include "platform/lists/CellModel.h"
 #include "platform/outside/Desktop.h"
-#include "platform/outside/SaveAsDialog.h"
 #include "platform/outside/TextOutputStream.h"
 #include "platform/values/Encodings.h"
 #include "platform/values/Text.h"

@@ -1,7 +1,6 @@
 #include "desktop/QtDesktop.h"
 
 #include "platform/drawing/PrinterGraphics.h"
-#include "platform/outside/SaveAsDialog.h"
 #include "support/ModalWindows.h"
 
 #include <QDir>

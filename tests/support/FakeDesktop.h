@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/outside/Desktop.h"
-#include "platform/outside/SaveAsDialog.h"
 #include "support/DrawingRecorder.h"
 
 #include <QStringList>

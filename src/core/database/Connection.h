@@ -22,8 +22,7 @@ public:
     /// path is empty. Sets Error if the file can't be opened or its first page can't be read with
     /// the key.
     Connection(const QString &path, const QByteArray &key, std::chrono::milliseconds lockTimeout);
-    Connection(const Connection &) = delete;
-    Connection &operator=(const Connection &) = delete;
+    Q_DISABLE_COPY_MOVE(Connection)
 
     bool IsOpen() const { return open_; }
     sqlite3 *Handle() const { return handle_.get(); }

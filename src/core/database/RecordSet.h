@@ -16,8 +16,7 @@ class RecordSet {
 public:
     /// The statement is at its first row (`hasRow`), or has no rows.
     RecordSet(std::unique_ptr<Statement> statement, bool hasRow);
-    RecordSet(const RecordSet &) = delete;
-    RecordSet &operator=(const RecordSet &) = delete;
+    Q_DISABLE_COPY_MOVE(RecordSet)
 
     /// Returns true if there is no current row.
     bool AtEnd() const { return !hasRow_; }

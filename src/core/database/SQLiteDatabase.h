@@ -22,8 +22,7 @@ class SQLiteDatabase {
 public:
     SQLiteDatabase();
     ~SQLiteDatabase();
-    SQLiteDatabase(const SQLiteDatabase &) = delete;
-    SQLiteDatabase &operator=(const SQLiteDatabase &) = delete;
+    Q_DISABLE_COPY_MOVE(SQLiteDatabase)
 
     void SetDatabaseFile(const FolderItem &file) { file_ = file; }
     /// Returns nullopt for an in-memory database.

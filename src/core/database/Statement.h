@@ -13,8 +13,7 @@ struct sqlite3_stmt;
 class Statement {
 public:
     Statement(std::shared_ptr<Connection> connection, const QString &sql);
-    Statement(const Statement &) = delete;
-    Statement &operator=(const Statement &) = delete;
+    Q_DISABLE_COPY_MOVE(Statement)
 
     /// Returns false if the SQL text could not be compiled.
     bool IsValid() const { return handle_ != nullptr; }

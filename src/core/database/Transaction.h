@@ -8,8 +8,7 @@ class SQLiteDatabase;
 class [[nodiscard]] Transaction {
 public:
     explicit Transaction(SQLiteDatabase &database);
-    Transaction(const Transaction &) = delete;
-    Transaction &operator=(const Transaction &) = delete;
+    Q_DISABLE_COPY_MOVE(Transaction)
     ~Transaction();
 
     /// Makes the changes permanent. Returns false on failure, for example on a full disk; the

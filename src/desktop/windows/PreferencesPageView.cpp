@@ -31,21 +31,18 @@ QLabel *PreferencesPageView::AddCaption(int index, const QString &text, const QP
     return AddText(u"Prefs(%1)"_s.arg(index), text, {position, QSize(110, 20)}, Qt::AlignRight);
 }
 
-QWidget *PreferencesPageView::AddField(TextField &field, const QRect &rect, Qt::Edges locks) {
-    return Add(CreateTextField(field, this), rect, locks);
+void PreferencesPageView::AddField(int index, const QString &text, const QPoint &position,
+                                   TextField &field, Qt::Edges locks) {
+    const QRect rect(position + QPoint(122, 0), QSize(300, 22));
+    AddCaption(index, text, position)->setBuddy(Add(CreateTextField(field, this), rect, locks));
 }
 
 void PreferencesPageView::AddCompany(CompanyProfile &profile) {
-    AddCaption(13, u"Firma:"_s, {66, 57})
-        ->setBuddy(AddField(profile.CompanyField, {188, 57, 300, 22}));
-    AddCaption(12, u"Zusatz:"_s, {66, 87})
-        ->setBuddy(AddField(profile.DepartmentField, {188, 87, 300, 22}));
-    AddCaption(11, u"Vorname:"_s, {66, 117})
-        ->setBuddy(AddField(profile.FirstnameField, {188, 117, 300, 22}));
-    AddCaption(10, u"Nachname:"_s, {66, 148})
-        ->setBuddy(AddField(profile.LastnameField, {188, 148, 300, 22}));
-    AddCaption(9, u"Strasse:"_s, {66, 180})
-        ->setBuddy(AddField(profile.StreetField, {188, 180, 300, 22}));
+    AddField(13, u"Firma:"_s, {66, 57}, profile.CompanyField);
+    AddField(12, u"Zusatz:"_s, {66, 87}, profile.DepartmentField);
+    AddField(11, u"Vorname:"_s, {66, 117}, profile.FirstnameField);
+    AddField(10, u"Nachname:"_s, {66, 148}, profile.LastnameField);
+    AddField(9, u"Strasse:"_s, {66, 180}, profile.StreetField);
     AddCaption(8, u"Plz, Ort:"_s, {66, 212})
         ->setBuddy(AddNamed(u"Plz"_s, CreateTextField(profile.ZipField, this), {188, 212, 51, 22}));
     AddNamed(u"Ort"_s, CreateTextField(profile.CityField, this), {247, 212, 241, 22});
@@ -54,16 +51,11 @@ void PreferencesPageView::AddCompany(CompanyProfile &profile) {
 }
 
 void PreferencesPageView::AddContact(CompanyProfile &profile) {
-    AddCaption(6, u"Telefon:"_s, {521, 57})
-        ->setBuddy(AddField(profile.PhoneField, {643, 57, 300, 22}, LTR));
-    AddCaption(5, u"Fax:"_s, {521, 87})
-        ->setBuddy(AddField(profile.FaxField, {643, 87, 300, 22}, LTR));
-    AddCaption(4, u"E-Mail:"_s, {521, 117})
-        ->setBuddy(AddField(profile.EMailField, {643, 117, 300, 22}, LTR));
-    AddCaption(3, u"Homepage:"_s, {521, 148})
-        ->setBuddy(AddField(profile.HomepageField, {643, 148, 300, 22}, LTR));
-    AddCaption(2, u"Ust. Nr.:"_s, {521, 180})
-        ->setBuddy(AddField(profile.UIDField, {643, 180, 300, 22}, LTR));
+    AddField(6, u"Telefon:"_s, {521, 57}, profile.PhoneField, LTR);
+    AddField(5, u"Fax:"_s, {521, 87}, profile.FaxField, LTR);
+    AddField(4, u"E-Mail:"_s, {521, 117}, profile.EMailField, LTR);
+    AddField(3, u"Homepage:"_s, {521, 148}, profile.HomepageField, LTR);
+    AddField(2, u"Ust. Nr.:"_s, {521, 180}, profile.UIDField, LTR);
     AddCaption(0, u"Kontenrahmen:"_s, {521, 246})
         ->setBuddy(Add(new ComboBoxView(profile.AccountFrameCombo, this), {643, 246, 95, 20}));
 }

@@ -29,6 +29,8 @@ private:
     /// Returns the view of a list in which the keys Insert and Delete do what the button does.
     ListboxView *CreateList(Listbox &list, TLXPlusMinusButton &button);
     void AddPlusMinus(TLXPlusMinusButton &button, const QString &what, const QRect &rect);
-    QWidget *AddField(TextField &field, const QRect &rect, Qt::Edges locks = LT);
     QLabel *AddCaption(int index, const QString &text, const QPoint &position);
+    /// Adds a caption and the text field to the right of it.
+    void AddField(int index, const QString &text, const QPoint &position, TextField &field,
+                  Qt::Edges locks = LT);
 };

@@ -14,8 +14,7 @@ struct Color {
 class Graphics {
 public:
     Graphics() = default;
-    Graphics(const Graphics &) = delete;
-    Graphics &operator=(const Graphics &) = delete;
+    Q_DISABLE_COPY_MOVE(Graphics)
     virtual ~Graphics() = default;
 
     virtual double Width() const = 0;

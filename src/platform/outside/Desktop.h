@@ -10,15 +10,30 @@
 
 class MenuItem;
 class PrinterGraphics;
-struct SaveAsDialog;
+
+/// A file type of a file dialog: its display name, and its extension with the dot.
+struct FileType {
+    QString name;
+    QString extensions;
+};
+
+/// The properties of a dialog to save a file; Desktop::ShowModal shows it.
+struct SaveAsDialog {
+    /// The folder that is shown first.
+    FolderItem initialDirectory;
+    /// The label of the file name field.
+    QString promptText;
+    QString suggestedFileName;
+    FileType filter;
+    QString title;
+};
 
 /// Interface to the desktop: clock, standard folders, dialogs and other programs. Every modal
 /// dialog is opened through it.
 class Desktop {
 public:
     Desktop() = default;
-    Desktop(const Desktop &) = delete;
-    Desktop &operator=(const Desktop &) = delete;
+    Q_DISABLE_COPY_MOVE(Desktop)
     virtual ~Desktop() = default;
 
     /// Returns the current local date and time.
