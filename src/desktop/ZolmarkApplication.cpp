@@ -36,7 +36,7 @@ ZolmarkApplication::ZolmarkApplication(int &argc, char **argv, QtDesktop &deskto
     if (translator->load(u"qtbase_de"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         installTranslator(translator);
     } else {
-        qWarning("The German texts of the toolkit are not installed.");
+        qWarning("The German texts of Qt are not installed.");
     }
 }
 

@@ -3,6 +3,7 @@
 #include "core/App.h"
 #include "journal/BookingReader.h"
 #include "journal/Selectors.h"
+#include "platform/drawing/RowStripes.h"
 #include "platform/outside/DebugLog.h"
 
 #include <QSet>
@@ -10,9 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr Color evenRow{0xffffff};
-constexpr Color oddRow{0xd2edf5};
 
 /// Returns -1, 0 or 1. A row without a date comes first.
 int CompareDates(const Listbox::Tag &first, const Listbox::Tag &second) {
@@ -29,11 +27,6 @@ int CompareDates(const Listbox::Tag &first, const Listbox::Tag &second) {
 int CompareIds(QStringView a, QStringView b) {
     return a.size() == b.size() ? a.compare(b)
                                 : int(a.size() > b.size()) - int(a.size() < b.size());
-}
-
-void CashList_CellBackgroundPaint(Graphics &graphics, int row) {
-    graphics.SetForeColor(row % 2 == 0 ? evenRow : oddRow);
-    graphics.FillRect(0, 0, graphics.Width(), graphics.Height());
 }
 
 /// Reads bookings into list rows. Consecutive bookings often have the same date, so the last date
@@ -87,7 +80,7 @@ Journal::Journal(const App &app, const Selectors &selectors)
     : CashList(u"CashList"_s, 8), app_(app), selectors_(selectors) {
     connect(&selectors_, &Selectors::RefreshJournal, this, &Journal::Reload);
     connect(&CashList, &Listbox::CompareRows, this, &Journal::CashList_CompareRows);
-    connect(&CashList, &Listbox::CellBackgroundPaint, this, &CashList_CellBackgroundPaint);
+    connect(&CashList, &Listbox::CellBackgroundPaint, this, &Journal::CashList_CellBackgroundPaint);
     CashList_Open();
 }
 
@@ -95,6 +88,10 @@ void Journal::CashList_Open() {
     for (const int column : {Input, Output, Balance}) {
         CashList.SetColumnAlignment(column, Listbox::Alignment::Right);
     }
+}
+
+void Journal::CashList_CellBackgroundPaint(Graphics &graphics, int row) {
+    PaintRowStripe(graphics, row);
 }
 
 QString Journal::Condition() const {

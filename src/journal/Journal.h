@@ -38,6 +38,7 @@ Q_SIGNALS:
 
 private:
     void CashList_Open();
+    static void CashList_CellBackgroundPaint(Graphics &graphics, int row);
     void CashList_CompareRows(int first, int second, int column, int &result, bool &handled) const;
     QString Condition() const;
 

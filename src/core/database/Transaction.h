@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 class SQLiteDatabase;
 
 /// Transaction guard for an open database: the constructor begins the transaction, the destructor

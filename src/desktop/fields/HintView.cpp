@@ -2,6 +2,7 @@
 
 #include "desktop/drawing/Frame.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace {

@@ -95,7 +95,7 @@ QFont FittedFont(const QFont &font, const TextBox &box) {
 void FitText(QWidget &widget, const QFont &font) {
     const QFont resolved = font.resolve(widget.parentWidget()->font());
     const QFont fitted = FittedFont(resolved, FixedText(widget));
-    // A font that fits goes on following the parent's.
+    // Unfitted, the widget inherits later changes of the parent's font.
     widget.setFont(fitted == resolved ? font : fitted);
     if (auto *label = qobject_cast<QLabel *>(&widget)) {
         ShowLeftBearing(*label);

@@ -19,5 +19,5 @@ QFont CondensedFont(QFont font, const TextBox &box);
 QFont FittedFont(const QFont &font, const TextBox &box);
 
 /// Sets the font of a widget, fitted to its fixed text: that of a label or button, the longest row
-/// of a pop-up menu, the placeholder of a line edit. What the font leaves open is its parent's.
+/// of a pop-up menu, the placeholder of a line edit. Attributes that it does not set are inherited.
 void FitText(QWidget &widget, const QFont &font);

@@ -11,6 +11,7 @@
 #include "desktop/windows/Pages.h"
 #include "setup/WelcomeWindow.h"
 
+#include <QComboBox>
 #include <QEvent>
 #include <QLabel>
 #include <QLayout>
