@@ -10,7 +10,7 @@ QString DatabaseField::StringValue() const {
         return {};
     }
     const Statement &statement = *records_->statement_;
-    if (records_->IsBoolean(column_) && statement.ColumnKind(column_) != Statement::Kind::Null) {
+    if (records_->IsBoolean(column_) && !statement.IsNull(column_)) {
         return statement.Number(column_) != 0 ? u"True"_s : u"False"_s;
     }
     return statement.Text(column_);
@@ -29,9 +29,8 @@ double DatabaseField::DoubleValue() const {
         return 0;
     }
     const Statement &statement = *records_->statement_;
-    return statement.ColumnKind(column_) == Statement::Kind::Text
-               ? Val(statement.Text(column_), u',')
-               : statement.Number(column_);
+    return statement.IsText(column_) ? Val(statement.Text(column_), u',')
+                                     : statement.Number(column_);
 }
 
 std::optional<Date> DatabaseField::DateValue() const {

@@ -44,20 +44,16 @@ void SQLiteDatabase::SQLExecute(const QString &sql) {
     }
 }
 
-std::unique_ptr<Statement> SQLiteDatabase::Compile(const QString &sql) {
-    if (!connection_ || !connection_->IsOpen()) {
-        return nullptr;
-    }
-    auto statement = std::make_unique<Statement>(connection_, sql);
-    return statement->IsValid() ? std::move(statement) : nullptr;
-}
-
 std::unique_ptr<RecordSet> SQLiteDatabase::SQLSelect(const QString &sql) {
     return Prepare(sql).SQLSelect();
 }
 
 SQLitePreparedStatement SQLiteDatabase::Prepare(const QString &sql) {
-    return SQLitePreparedStatement(Compile(sql));
+    std::unique_ptr<Statement> statement;
+    if (connection_ && connection_->IsOpen()) {
+        statement = std::make_unique<Statement>(connection_, sql);
+    }
+    return SQLitePreparedStatement(std::move(statement));
 }
 
 void SQLiteDatabase::InsertRecord(const QString &table, const DatabaseRecord &record) {

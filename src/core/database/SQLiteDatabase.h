@@ -58,8 +58,6 @@ public:
     QString ErrorMessage() const;
 
 private:
-    std::unique_ptr<Statement> Compile(const QString &sql);
-
     std::optional<FolderItem> file_;
     QByteArray key_;
     std::chrono::milliseconds lockTimeout_ = std::chrono::seconds(5);

@@ -1,7 +1,7 @@
 #include "core/database/SQLitePreparedStatement.h"
 
 SQLitePreparedStatement::SQLitePreparedStatement(std::unique_ptr<Statement> statement)
-    : statement_(std::move(statement)) {}
+    : statement_(statement && statement->IsValid() ? std::move(statement) : nullptr) {}
 
 void SQLitePreparedStatement::Bind(int parameter, const QString &text) {
     if (statement_ && !statement_->Bind(parameter, text)) {

@@ -10,8 +10,8 @@
 /// A statement with ? parameters, all bound as text. Can be executed once.
 class SQLitePreparedStatement {
 public:
-    /// `statement` is null if it could not be compiled: every operation then fails, and the
-    /// database's ErrorMessage is the reason.
+    /// The statement is null if the database is not open. If it is null or could not be compiled,
+    /// every operation fails.
     explicit SQLitePreparedStatement(std::unique_ptr<Statement> statement);
 
     /// Binds a parameter, counted from 0.

@@ -51,16 +51,13 @@ QByteArray Statement::TableName(int column) const {
     return sqlite3_column_table_name(handle_.get(), column);
 }
 
-Statement::Kind Statement::ColumnKind(int column) const {
-    switch (sqlite3_column_type(handle_.get(), column)) {
-    case SQLITE_NULL:
-        return Kind::Null;
-    case SQLITE_INTEGER:
-    case SQLITE_FLOAT:
-        return Kind::Number;
-    default:
-        return Kind::Text;
-    }
+bool Statement::IsNull(int column) const {
+    return sqlite3_column_type(handle_.get(), column) == SQLITE_NULL;
+}
+
+bool Statement::IsText(int column) const {
+    const int type = sqlite3_column_type(handle_.get(), column);
+    return type == SQLITE_TEXT || type == SQLITE_BLOB;
 }
 
 QString Statement::Text(int column) const {

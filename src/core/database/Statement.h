@@ -33,8 +33,8 @@ public:
     /// Returns the table of a column, empty for an expression.
     QByteArray TableName(int column) const;
 
-    enum class Kind { Null, Number, Text };
-    Kind ColumnKind(int column) const;
+    bool IsNull(int column) const;
+    bool IsText(int column) const;
     QString Text(int column) const;
     /// Returns the character of a text of one byte, in upper case; 0 for any other text.
     char UpperCaseCharacter(int column) const;
