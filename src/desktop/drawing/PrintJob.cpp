@@ -62,7 +62,7 @@ PrintJob::PrintJob(std::unique_ptr<QPrinter> printer, std::optional<FolderItem> 
     : printer_(std::move(printer)), databaseFile_(std::move(databaseFile)),
       showFailure_(std::move(showFailure)) {
     printer_->setFullPage(true);
-    NextPage();
+    PrintJob::NextPage();
 }
 
 PrintJob::~PrintJob() {
@@ -137,7 +137,7 @@ void PrintJob::DrawString(const QString &text, double x, double y) {
 }
 
 void PrintJob::NextPage() {
-    pages_.emplace_back(Width(), Height());
+    pages_.emplace_back(PaperSize(*printer_));
 }
 
 std::vector<const PrintJob::Page *> PrintJob::PagesToPrint() const {

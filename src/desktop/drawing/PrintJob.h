@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QFont>
 #include <QPointF>
+#include <QSizeF>
 
 #include <deque>
 #include <functional>
@@ -55,7 +56,7 @@ private:
     };
     /// Texts are drawn over the shapes.
     struct Page {
-        Page(double width, double height) : shapes(width, height) {}
+        explicit Page(const QSizeF &size) : shapes(size.width(), size.height()) {}
 
         Picture shapes;
         std::vector<Text> texts;
