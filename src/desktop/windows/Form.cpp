@@ -71,8 +71,6 @@ bool Form::event(QEvent *event) {
     const bool isHandled = QWidget::event(event);
     switch (event->type()) {
     case QEvent::FontChange:
-        updateGeometry();
-        [[fallthrough]];
     case QEvent::Resize:
     case QEvent::LayoutRequest:
         LayOut();

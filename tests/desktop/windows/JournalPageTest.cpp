@@ -108,6 +108,8 @@ TEST_F(JournalPageTest, ShowsHintsOnlyBelowTheFocusedField) {
     EXPECT_EQ(hint.grab().toImage().pixel(3, 3), 0xffffffdc) << "the colour of a tool tip";
     Type(u"\r"_s);
     EXPECT_EQ(input.accessibleDescription(), u"Bitte Art der Einnahme/Ausgabe auswählen! wird als 12,35 gelesen"_s);
+    row.InputField.SetText(u"12.340"_s);
+    EXPECT_EQ(input.accessibleDescription(), u"Bitte Art der Einnahme/Ausgabe auswählen! wird als 12,34 gelesen"_s);
     const auto &bar = Find<QWidget>(u"ErrorRect"_s);
     QCoreApplication::processEvents();
     EXPECT_EQ(hint.y(), bar.mapTo(&view, QPoint(0, bar.height())).y()) << "the hint does not cover the message";
@@ -209,6 +211,8 @@ TEST_F(JournalPageTest, ConvertsPastedAndDroppedTextToOneLine) {
     row.NoteField.SetFocus();
     Type(u"{End}!"_s);
     EXPECT_EQ(row.NoteField.Text(), u"of a booking from elsewhere!"_s);
+    Type(u"{Home}{Ctrl+V}x"_s);
+    EXPECT_EQ(row.NoteField.Text(), u"a b c d  exof a booking from elsewhere!"_s) << "the cursor is after the text";
 }
 
 TEST_F(JournalPageTest, ScrollsToTheNewBookingInALongList) {
