@@ -69,14 +69,6 @@ void EntryRow::ShowButtons(bool isChanging) {
     SubmitButton.SetVisible(!isChanging);
 }
 
-void EntryRow::InputField_TextChange() {
-    HandleAmountChange(InputField, OutputField, u"E"_s);
-}
-
-void EntryRow::OutputField_TextChange() {
-    HandleAmountChange(OutputField, InputField, u"A"_s);
-}
-
 void EntryRow::HandleAmountChange(TextField &field, Control &otherField, const QString &type) {
     field.SetHint(TLXModule::AmountHint(field.Text(), app_.Locale()));
     otherField.SetEnabled(field.Text().isEmpty());

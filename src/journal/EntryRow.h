@@ -52,8 +52,12 @@ public:
 
 private:
     void SetCategoryCaption(const QString &caption);
-    void InputField_TextChange();
-    void OutputField_TextChange();
+    void InputField_TextChange() {
+        HandleAmountChange(InputField, OutputField, QStringLiteral("E"));
+    }
+    void OutputField_TextChange() {
+        HandleAmountChange(OutputField, InputField, QStringLiteral("A"));
+    }
     void CashList_ConstructContextualMenu(MenuItem &base) const;
     void CashList_ContextualMenuAction(const MenuItem &chosen);
     void SubmitButton_Action();

@@ -52,10 +52,6 @@ void BookingAccounts::CashaccountList_Open() {
     CashaccountList.SetColumnType(Active, Listbox::ColumnType::CheckBox);
 }
 
-void BookingAccounts::LoadCashAccounts() {
-    records_.Load();
-}
-
 void BookingAccounts::AddRow(RecordSet &record) {
     CashaccountList.AddRow(record.Field("name"_L1).StringValue());
     const int row = CashaccountList.LastIndex();
@@ -77,10 +73,6 @@ void BookingAccounts::CashaccountList_CellClick(int row, int column, bool &handl
         CashaccountList.EditCell(row, column);
         handled = true;
     }
-}
-
-void BookingAccounts::CashaccountList_CellAction(int row, int column) {
-    SaveAccount(row, column);
 }
 
 void BookingAccounts::CashaccountList_CellKeyDown(int row, int column, QChar key) {
@@ -131,8 +123,4 @@ void BookingAccounts::CashaccountList_CompareRows(int first, int second, int col
 
 void BookingAccounts::AccountsAdd_PlusPressed() {
     records_.Add(u"INSERT INTO cash_accounts (name,type,active) VALUES ('Neues Konto','E','1')"_s);
-}
-
-void BookingAccounts::AccountsAdd_MinusPressed() {
-    records_.RemoveSelected();
 }

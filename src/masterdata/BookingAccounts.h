@@ -27,14 +27,14 @@ public:
     /// Fills the list from the database, sorted by name. An open cell is written first. The
     /// selected account stays selected. A failure is shown in a message and leaves the list
     /// unchanged.
-    void LoadCashAccounts();
+    void LoadCashAccounts() { records_.Load(); }
     /// Writes one cell into the database. A failure is not reported.
     void SaveAccount(int row, int column);
 
 private:
     void CashaccountList_Open();
     void CashaccountList_CellClick(int row, int column, bool &handled);
-    void CashaccountList_CellAction(int row, int column);
+    void CashaccountList_CellAction(int row, int column) { SaveAccount(row, column); }
     void CashaccountList_CellKeyDown(int row, int column, QChar key);
     void CashaccountList_MouseDown(int row, int column, bool &handled) const;
     void CashaccountList_MouseUp(int row, int column);
@@ -45,7 +45,7 @@ private:
     void AppendKinds(MenuItem &base);
     void SetKind(const MenuItem &chosen);
     void AccountsAdd_PlusPressed();
-    void AccountsAdd_MinusPressed();
+    void AccountsAdd_MinusPressed() { records_.RemoveSelected(); }
     void AddRow(RecordSet &record);
     void ConnectList();
 

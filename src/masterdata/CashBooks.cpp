@@ -43,10 +43,6 @@ CashBooks::CashBooks(const App &app)
             &CashBooks::CashBookAdd_MinusPressed);
 }
 
-void CashBooks::LoadCashBook() {
-    records_.Load();
-}
-
 void CashBooks::AddRow(RecordSet &record) {
     CashbookList.AddRow(record.Field("name"_L1).StringValue());
     const int row = CashbookList.LastIndex();

@@ -23,7 +23,7 @@ public:
 
     /// Fills the list from the database. An open cell is written first. The selected cash book
     /// stays selected. A failure is shown in a message and leaves the list unchanged.
-    void LoadCashBook();
+    void LoadCashBook() { records_.Load(); }
 
 private:
     void CashbookList_CellAction(int row, int column);

@@ -85,7 +85,3 @@ void CompanyProfile::SaveFields() {
     records->Update();
     app_.ReportError();
 }
-
-void CompanyProfile::MarkChanged() {
-    recordChange_ = true;
-}

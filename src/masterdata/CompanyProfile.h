@@ -46,7 +46,7 @@ public:
     bool RecordChange() const { return recordChange_; }
 
 private:
-    void MarkChanged();
+    void MarkChanged() { recordChange_ = true; }
     /// Returns the company's row, or null. A failure is shown in a message.
     std::unique_ptr<RecordSet> SelectCompany();
 

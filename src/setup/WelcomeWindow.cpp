@@ -104,10 +104,6 @@ void WelcomeWindow::ForwardButton_Action() {
     PagePanel1.SetValue(CashBookPage);
 }
 
-void WelcomeWindow::BackButton_Action() {
-    PagePanel1.SetValue(CompanyPage);
-}
-
 void WelcomeWindow::AccountsPopup_Change() {
     AccountField.SetText(SameText(AccountsPopup.Text(), u"SKR-04"_s) ? u"1600"_s : u"1000"_s);
 }

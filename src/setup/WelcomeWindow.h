@@ -69,7 +69,7 @@ private:
     void NewCanvas_MouseDown();
     void ManualCanvas_MouseDown();
     void ForwardButton_Action();
-    void BackButton_Action();
+    void BackButton_Action() { PagePanel1.SetValue(CompanyPage); }
     void SaveButton_Action();
     void AccountsPopup_Change();
     void OpeningDate_Open();

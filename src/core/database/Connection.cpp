@@ -96,7 +96,3 @@ int Connection::WaitForLock(void *connection, int attempts) {
     QThread::msleep(lockPollMs);
     return 1;
 }
-
-void Connection::SetError(const QString &message) {
-    message_ = message;
-}

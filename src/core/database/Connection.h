@@ -36,7 +36,7 @@ public:
     /// Records the result code of a SQLite call. Returns whether the code means success.
     [[nodiscard]] bool SetResult(int resultCode);
     /// Records a result that does not come from SQLite; a null text means success.
-    void SetError(const QString &message);
+    void SetError(const QString &message) { message_ = message; }
     bool Error() const { return !message_.isNull(); }
     QString ErrorMessage() const { return message_; }
 

@@ -44,10 +44,6 @@ void SQLiteDatabase::SQLExecute(const QString &sql) {
     }
 }
 
-std::unique_ptr<RecordSet> SQLiteDatabase::SQLSelect(const QString &sql) {
-    return Prepare(sql).SQLSelect();
-}
-
 SQLitePreparedStatement SQLiteDatabase::Prepare(const QString &sql) {
     std::unique_ptr<Statement> statement;
     if (connection_ && connection_->IsOpen()) {
@@ -70,14 +66,6 @@ void SQLiteDatabase::InsertRecord(const QString &table, const DatabaseRecord &re
         insert.Bind(parameter++, column.second);
     }
     insert.SQLExecute();
-}
-
-void SQLiteDatabase::Commit() {
-    SQLExecute(u"COMMIT"_s);
-}
-
-void SQLiteDatabase::Rollback() {
-    SQLExecute(u"ROLLBACK"_s);
 }
 
 qint64 SQLiteDatabase::LastRowID() const {

@@ -44,12 +44,14 @@ public:
     /// Runs one statement or a script, up to the first failing statement.
     void SQLExecute(const QString &sql);
     /// Returns null on failure.
-    [[nodiscard]] std::unique_ptr<RecordSet> SQLSelect(const QString &sql);
+    [[nodiscard]] std::unique_ptr<RecordSet> SQLSelect(const QString &sql) {
+        return Prepare(sql).SQLSelect();
+    }
     [[nodiscard]] SQLitePreparedStatement Prepare(const QString &sql);
     void InsertRecord(const QString &table, const DatabaseRecord &record);
     /// Commit and Rollback end the current transaction, which Transaction begins.
-    void Commit();
-    void Rollback();
+    void Commit() { SQLExecute(QStringLiteral("COMMIT")); }
+    void Rollback() { SQLExecute(QStringLiteral("ROLLBACK")); }
     /// Returns the id of the row inserted last.
     qint64 LastRowID() const;
 

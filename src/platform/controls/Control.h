@@ -13,7 +13,7 @@ class Control : public QObject {
     Q_OBJECT
 
 public:
-    explicit Control(const QString &name);
+    explicit Control(const QString &name) { setObjectName(name); }
 
     bool Visible() const { return visible_; }
     void SetVisible(bool visible) { Assign(visible_, visible); }
@@ -23,7 +23,11 @@ public:
     /// A remark about the typed text, which is accepted nevertheless; empty if there is none. The
     /// view shows it below the field while the field has the focus.
     QString Hint() const { return hint_; }
-    void SetHint(const QString &hint);
+    void SetHint(const QString &hint) {
+        if (std::exchange(hint_, hint) != hint) {
+            Q_EMIT HintChanged();
+        }
+    }
 
     /// Requests the keyboard focus, which only a visible control can get. The control that loses
     /// the focus emits LostFocus.

@@ -6,18 +6,6 @@ TLXCanvasButton::TLXCanvasButton(const QString &name) : Canvas(name) {
     connect(this, &Canvas::Open, this, &TLXCanvasButton::Event_Open);
 }
 
-void TLXCanvasButton::Event_MouseExit() {
-    PaintBackdrop(FillColor);
-}
-
-void TLXCanvasButton::Event_MouseEnter() {
-    PaintBackdrop(HoverColor);
-}
-
-void TLXCanvasButton::Event_Open() {
-    PaintBackdrop(FillColor);
-}
-
 void TLXCanvasButton::PaintBackdrop(Color fill) {
     auto picture = std::make_unique<Picture>(Width(), Height());
     picture->SetForeColor(fill);

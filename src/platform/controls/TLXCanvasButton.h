@@ -19,8 +19,8 @@ public:
     Color FillColor{0xF1F1F1};
 
 private:
-    void Event_MouseExit();
-    void Event_MouseEnter();
-    void Event_Open();
+    void Event_MouseExit() { PaintBackdrop(FillColor); }
+    void Event_MouseEnter() { PaintBackdrop(HoverColor); }
+    void Event_Open() { PaintBackdrop(FillColor); }
     void PaintBackdrop(Color fill);
 };
