@@ -14,7 +14,15 @@ void Windows::Open() {
     welcomeWindow_ = std::make_unique<WelcomeWindow>(app_);
     connect(welcomeWindow_.get(), &WelcomeWindow::MainWindowRequested, this,
             &Windows::ShowMainWindow);
-    // Queued: the welcome window emits the signal and is in use until it returns.
+    welcomeWindow_->Event_Open();
+    if (mainWindow_) {
+        welcomeWindow_.reset();
+        return;
+    }
+    connect(&menuBar_.FileMenu().Child(u"AboutItem"), &MenuItem::Action, welcomeWindow_.get(),
+            &WelcomeWindow::AboutItem_Action);
+    welcomeView_ = std::make_unique<WelcomeWindowView>(*welcomeWindow_, menuBar_, app_.Locale());
+    // Queued: the welcome window emits Closed from one of its own functions.
     connect(
         welcomeWindow_.get(), &WelcomeWindow::Closed, this,
         [this] {
@@ -22,14 +30,7 @@ void Windows::Open() {
             welcomeWindow_.reset();
         },
         Qt::QueuedConnection);
-    welcomeWindow_->Event_Open();
-    if (!mainWindow_) {
-        connect(&menuBar_.FileMenu().Child(u"AboutItem"), &MenuItem::Action, welcomeWindow_.get(),
-                &WelcomeWindow::AboutItem_Action);
-        welcomeView_ =
-            std::make_unique<WelcomeWindowView>(*welcomeWindow_, menuBar_, app_.Locale());
-        welcomeView_->show();
-    }
+    welcomeView_->show();
 }
 
 void Windows::ShowMainWindow() {

@@ -142,9 +142,9 @@ void PrintJob::NextPage() {
 
 std::vector<const PrintJob::Page *> PrintJob::PagesToPrint() const {
     std::vector<const Page *> pages;
-    const QPageRanges wanted = printer_->pageRanges();
+    const QPageRanges selected = printer_->pageRanges();
     for (size_t page = 0; page < pages_.size(); ++page) {
-        if (wanted.isEmpty() || wanted.contains(static_cast<int>(page) + 1)) {
+        if (selected.isEmpty() || selected.contains(static_cast<int>(page) + 1)) {
             pages.push_back(&pages_[page]);
         }
     }
@@ -224,7 +224,7 @@ void PrintJob::PrintPage(QPainter &painter, const Page &page) const {
 void PrintJob::PrintText(QPainter &painter, const Text &text) {
     painter.save();
     painter.translate(text.baseline);
-    // A font of so many points has its size on the device already.
+    // A font size in points is converted by the device itself.
     const double toPoints = pointsPerInch / painter.device()->logicalDpiY();
     painter.scale(toPoints, toPoints);
     painter.setFont(text.font);
