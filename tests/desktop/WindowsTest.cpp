@@ -8,7 +8,9 @@
 
 static QWidget *VisibleWindow(const QString &name) {
     for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (window->objectName() == name && window->isVisible()) { return window; }
+        if (window->objectName() == name && window->isVisible()) {
+            return window;
+        }
     }
     return nullptr;
 }
@@ -18,7 +20,7 @@ class FirstStartTest : public testing::Test {
 protected:
     FirstStartTest() { windows.Open(); }
 
-    void Type(const QString &text) { ::Type(VisibleWindow(u"WelcomeWindow"_s)->windowHandle(), text); }
+    void Type(const QString &text) { ::Type(VisibleWindow("WelcomeWindow")->windowHandle(), text); }
 
     QtDesktop desktop;
     App app{desktop, UserLocale(QLocale::c())};
@@ -26,29 +28,32 @@ protected:
 };
 
 TEST_F(FirstStartTest, OpensTheSampleDatabaseFromTheWelcomeWindow) {
-    auto *welcome = static_cast<QMainWindow *>(VisibleWindow(u"WelcomeWindow"_s));
-    ASSERT_TRUE(welcome && !VisibleWindow(u"MainWindow"_s));
-    EXPECT_TRUE(welcome->findChild<QAction *>(u"AboutItem"_s)->isEnabled());
+    auto *welcome = static_cast<QMainWindow *>(VisibleWindow("WelcomeWindow"));
+    ASSERT_TRUE(welcome && !VisibleWindow("MainWindow"));
+    EXPECT_TRUE(welcome->findChild<QAction *>("AboutItem")->isEnabled());
     const QPoint title = welcome->centralWidget()->pos() + QPoint(700, 22);
-    const auto click = [=] { QTest::mouseClick(welcome->windowHandle(), Qt::LeftButton, {}, title); };
+    const auto click = [=] {
+        QTest::mouseClick(welcome->windowHandle(), Qt::LeftButton, {}, title);
+    };
     EXPECT_FALSE(Press(Qt::Key_Return, click).isEmpty());
-    const QWidget *main = VisibleWindow(u"MainWindow"_s);
-    ASSERT_TRUE(main && !VisibleWindow(u"WelcomeWindow"_s));
-    EXPECT_EQ(main->findChild<QTableView *>(u"CashList"_s)->model()->rowCount(), 5);
+    const QWidget *main = VisibleWindow("MainWindow");
+    ASSERT_TRUE(main && !VisibleWindow("WelcomeWindow"));
+    EXPECT_EQ(main->findChild<QTableView *>("CashList")->model()->rowCount(), 5);
     EXPECT_FALSE(app.DefaultDatabaseFile().Exists());
 }
 
 TEST_F(FirstStartTest, CreatesADatabaseByKeyboard) {
-    const auto pressReturn = [this] { Type(u"\r"_s); };
+    const auto pressReturn = [this] { Type("\r"); };
     pressReturn();
-    EXPECT_TRUE(Press(Qt::Key_Return, pressReturn).contains(u"Bitte geben Sie einen Firmannamen an"_s));
-    Type(u"Peter's\r\x1b\r{Down}"_s); // Escape goes back a page, and Return forward again.
+    EXPECT_TRUE(
+        Press(Qt::Key_Return, pressReturn).contains("Bitte geben Sie einen Firmannamen an"));
+    Type("Peter's\r\x1b\r{Down}"); // Escape goes back a page, and Return forward again.
     EXPECT_FALSE(Press(Qt::Key_Return, pressReturn).isEmpty()) << "the apostrophe is reported";
-    const QPointer<QWidget> welcome = VisibleWindow(u"WelcomeWindow"_s);
-    Type(u"\x1b\b\b\r\r"_s);
+    const QPointer<QWidget> welcome = VisibleWindow("WelcomeWindow");
+    Type("\x1b\b\b\r\r");
     QCoreApplication::processEvents();
     EXPECT_FALSE(welcome) << "the welcome window is deleted";
-    EXPECT_TRUE(VisibleWindow(u"MainWindow"_s) && !VisibleWindow(u"WelcomeWindow"_s));
+    EXPECT_TRUE(VisibleWindow("MainWindow") && !VisibleWindow("WelcomeWindow"));
     EXPECT_TRUE(app.DefaultDatabaseFile().Delete());
 }
 
@@ -56,7 +61,7 @@ TEST(Windows, OpensTheMainWindowIfTheDatabaseExists) {
     TestEnvironment env(TestEnvironment::Storage::File);
     Windows windows(env.app);
     windows.Open();
-    EXPECT_TRUE(VisibleWindow(u"MainWindow"_s) && !VisibleWindow(u"WelcomeWindow"_s));
+    EXPECT_TRUE(VisibleWindow("MainWindow") && !VisibleWindow("WelcomeWindow"));
 }
 
 TEST(WelcomeWindowView, HighlightsTheHoveredButtonAndOpensTheManual) {
@@ -67,10 +72,11 @@ TEST(WelcomeWindowView, HighlightsTheHoveredButtonAndOpensTheManual) {
     view.show();
     QTest::mouseMove(view.windowHandle(), {600, 200});
     QTest::mouseMove(view.windowHandle(), {700, 250});
-    EXPECT_TRUE(QTest::qWaitFor([&view] { return view.grab().toImage().pixel(575, 290) == 0xffe6e6e6; }));
-    Type(view.windowHandle(), u"\t "_s); // From the button for a new database to the manual.
-    EXPECT_EQ(env.desktop.opened, QStringList(env.desktop.Path(u"Resources/Zolmark.pdf"_s)));
-    auto *manual = view.findChild<QWidget *>(u"ManualCanvas"_s);
+    EXPECT_TRUE(
+        QTest::qWaitFor([&view] { return view.grab().toImage().pixel(575, 290) == 0xffe6e6e6; }));
+    Type(view.windowHandle(), "\t "); // From the button for a new database to the manual.
+    EXPECT_EQ(env.desktop.opened, QStringList(env.desktop.Path("Resources/Zolmark.pdf")));
+    auto *manual = view.findChild<QWidget *>("ManualCanvas");
     QTest::mouseClick(manual, Qt::LeftButton);
     QTest::mouseDClick(manual, Qt::LeftButton);
     EXPECT_EQ(env.desktop.opened.size(), 2) << "a double click opens the manual once";

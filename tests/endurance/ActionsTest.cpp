@@ -9,7 +9,7 @@ public:
     using Random = std::function<int(int)>;
     explicit RandomUser(Random random) : randomBelow(std::move(random)) {
         env.desktop.printout.emplace();
-        env.desktop.fileToSave = FolderItem(env.desktop.Path(u"export.txt"_s));
+        env.desktop.fileToSave = FolderItem(env.desktop.Path("export.txt"));
         window.Event_Open();
         view.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
@@ -44,27 +44,31 @@ public:
     /// Compares the shown journal with what the shell reads from the file.
     void Check() {
         RestoreWindow();
-        if (window.PagePanel1.Value() != MainWindow::JournalPage) { window.MenuAction(u"cashbook"_s); }
+        if (window.PagePanel1.Value() != MainWindow::JournalPage) {
+            window.MenuAction("cashbook");
+        }
         QStringList shown = {window.balances.OpeningBalanceLabel.Text()};
         for (int row = 0; row < bookings.ListCount(); ++row) {
             shown.append(bookings.RowTag(row) + u' ' + bookings.Cell(row, Journal::Balance));
         }
         EXPECT_EQ(shown, Stored());
-        EXPECT_EQ(window.balances.LastAmountLabel.Text(), bookings.Cell(bookings.LastIndex(), Journal::Balance));
-        EXPECT_EQ(env.Value(u"PRAGMA integrity_check"_s), u"ok"_s);
+        EXPECT_EQ(window.balances.LastAmountLabel.Text(),
+                  bookings.Cell(bookings.LastIndex(), Journal::Balance));
+        EXPECT_EQ(env.Value("PRAGMA integrity_check"), "ok");
         // The last one is shown if a booking was deleted while it was being changed.
-        static const QRegularExpression known(u"^(Hauptkasse kann nicht gelöscht werden!|"
-                                              "DB Error: UNIQUE constraint failed: cash_book.account|"
-                                              "DB Error: Der Datensatz ist nicht mehr vorhanden.)$"_s);
+        static const QRegularExpression known(
+            "^(Hauptkasse kann nicht gelöscht werden!|"
+            "DB Error: UNIQUE constraint failed: cash_book.account|"
+            "DB Error: Der Datensatz ist nicht mehr vorhanden.)$");
         for (const QString &message : env.desktop.TakeMessages().split(u'|', Qt::SkipEmptyParts)) {
-            EXPECT_TRUE(known.match(message).hasMatch()) << qPrintable(message);
+            EXPECT_TRUE(known.match(message).hasMatch()) << message;
         }
         env.desktop.printout->clear();
         env.desktop.opened.clear();
     }
 
     QString Count(const QString &condition) const {
-        return env.Value(u"SELECT count(*) FROM cash_journal WHERE "_s + condition);
+        return env.Value("SELECT count(*) FROM cash_journal WHERE " + condition);
     }
 
 private:
@@ -75,21 +79,25 @@ private:
 
     /// Closes all pop-ups, and shows the window again if a command has closed it.
     void RestoreWindow() {
-        while (QWidget *popup = QApplication::activePopupWidget()) { popup->close(); }
+        while (QWidget *popup = QApplication::activePopupWidget()) {
+            popup->close();
+        }
         view.show();
         view.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
     }
     void Submit() {
         RestoreWindow();
-        window.MenuAction(u"cashbook"_s);
-        window.MenuAction(u"new"_s);
+        window.MenuAction("cashbook");
+        window.MenuAction("new");
         const bool isReceipt = randomBelow(2) == 0;
-        Fill(u"DateField"_s,
-             u"%1.%2.%3"_s.arg(1 + randomBelow(31)).arg(1 + randomBelow(12)).arg(2025 + randomBelow(3)));
-        Fill(isReceipt ? u"InputField"_s : u"OutputField"_s, u"%1,%2"_s.arg(randomBelow(5000)).arg(randomBelow(1000)));
-        Fill(u"CategoryCombo"_s, Pick<QString>(texts));
-        Fill(u"NoteField"_s, Pick<QString>(texts));
+        Fill("DateField", u"%1.%2.%3"_s.arg(1 + randomBelow(31))
+                              .arg(1 + randomBelow(12))
+                              .arg(2025 + randomBelow(3)));
+        Fill(isReceipt ? "InputField" : "OutputField",
+             u"%1,%2"_s.arg(randomBelow(5000)).arg(randomBelow(1000)));
+        Fill("CategoryCombo", Pick<QString>(texts));
+        Fill("NoteField", Pick<QString>(texts));
         Press(Qt::Key_Return, {});
     }
     void Fill(const QString &name, const QString &text) {
@@ -99,10 +107,12 @@ private:
         TypeText(text);
     }
     void ChangeRow() {
-        view.findChild<QTableView *>(u"CashList"_s)->setFocus();
+        view.findChild<QTableView *>("CashList")->setFocus();
         Press(Qt::Key_Home, {});
-        for (int times = randomBelow(9); times > 0; --times) { Press(Qt::Key_Down, {}); }
-        window.MenuAction(Pick<QString>(QStringList{u"edit"_s, u"copy"_s, u"delete"_s}));
+        for (int times = randomBelow(9); times > 0; --times) {
+            Press(Qt::Key_Down, {});
+        }
+        window.MenuAction(Pick<QString>(QStringList{"edit", "copy", "delete"}));
     }
     void Choose(QComboBox *box) {
         box->setFocus();
@@ -111,9 +121,12 @@ private:
         }
     }
     void Click(QWidget &widget) {
-        if (!widget.isVisible() || widget.size().isEmpty()) { return; }
-        const QPoint position = widget.mapTo(
-            &view, QPoint(randomBelow(widget.width()), randomBelow(widget.height() / (1 + randomBelow(9)) + 1)));
+        if (!widget.isVisible() || widget.size().isEmpty()) {
+            return;
+        }
+        const QPoint position =
+            widget.mapTo(&view, QPoint(randomBelow(widget.width()),
+                                       randomBelow(widget.height() / (1 + randomBelow(9)) + 1)));
         const auto button = randomBelow(8) == 0 ? Qt::RightButton : Qt::LeftButton;
         QTest::mouseClick(view.windowHandle(), button, {}, position);
         QWidget *hit = view.childAt(position);
@@ -121,11 +134,15 @@ private:
             QTest::mouseDClick(hit, button, {}, hit->mapFrom(&view, position));
         }
     }
-    void Press(Qt::Key key, Qt::KeyboardModifiers heldKeys) { QTest::keyClick(view.windowHandle(), key, heldKeys); }
+    void Press(Qt::Key key, Qt::KeyboardModifiers heldKeys) {
+        QTest::keyClick(view.windowHandle(), key, heldKeys);
+    }
     static void TypeText(const QString &text) {
         for (const QChar each : text) {
             QKeyEvent press(QEvent::KeyPress, 0, {}, each);
-            if (QWidget *field = QApplication::focusWidget()) { QApplication::sendEvent(field, &press); }
+            if (QWidget *field = QApplication::focusWidget()) {
+                QApplication::sendEvent(field, &press);
+            }
         }
     }
 
@@ -134,18 +151,24 @@ private:
         const Selectors &selectors = window.selectors;
         const QString month = selectors.MonthPopup.RowTag(selectors.MonthPopup.ListIndex());
         return selectors.CashbookCondition() +
-               u" AND vdate LIKE '%1%'"_s.arg(selectors.YearPopup.Text() + (month.isEmpty() ? month : u'-' + month));
+               u" AND vdate LIKE '%1%'"_s.arg(selectors.YearPopup.Text() +
+                                              (month.isEmpty() ? month : u'-' + month));
     }
-    /// Returns what the list must show: the opening balance, and the id and the balance of each booking.
+    /// Returns what the list must show: the opening balance, and the id and the balance of each
+    /// booking.
     QStringList Stored() const {
         const Selectors &selectors = window.selectors;
         const QString lines = ReadWithShell(
-            env.app, u"SELECT id || '|E|' || ifnull(opening_balance, 0) FROM cash_book WHERE id = %1;"
-                     "SELECT id || '|' || type || '|' || amount FROM cash_journal WHERE vdate < '%2' AND %3;"
-                     "SELECT 'rows';"
-                     "SELECT id || '|' || type || '|' || amount FROM cash_journal WHERE %4 ORDER BY vdate, id"_s
-                         .arg(selectors.SelectedCashbookID())
-                         .arg(selectors.PeriodStartSQL(), selectors.CashbookCondition(), Condition()));
+            env.app,
+            QString("SELECT id || '|E|' || ifnull(opening_balance, 0) FROM cash_book WHERE id = %1;"
+                    "SELECT id || '|' || type || '|' || amount FROM cash_journal WHERE vdate < "
+                    "'%2' AND %3;"
+                    "SELECT 'rows';"
+                    "SELECT id || '|' || type || '|' || amount FROM cash_journal WHERE %4 ORDER BY "
+                    "vdate, "
+                    "id")
+                .arg(selectors.SelectedCashbookID())
+                .arg(selectors.PeriodStartSQL(), selectors.CashbookCondition(), Condition()));
         const UserLocale &locale = env.app.Locale();
         Currency balance;
         QStringList stored;
@@ -153,7 +176,9 @@ private:
             const QStringList fields = line.split(u'|');
             const double amount = TLXModule::AmountText2Value(fields.value(2));
             // The balance includes a booking with its amount as shown, rounded to cents.
-            const double counted = stored.isEmpty() ? amount : TLXModule::AmountText2Value(locale.FormatAmount(amount));
+            const double counted = stored.isEmpty()
+                                       ? amount
+                                       : TLXModule::AmountText2Value(locale.FormatAmount(amount));
             balance = balance + Currency::FromDouble(fields.value(1) == u'A' ? -counted : counted);
             const QString text = locale.FormatBalance(balance.ToDouble());
             if (line == u"rows" || !stored.isEmpty()) {
@@ -163,16 +188,17 @@ private:
         return stored;
     }
 
-    const QStringList commands = {u"new"_s,    u"edit"_s,        u"copy"_s,     u"delete"_s, u"print"_s,
-                                  u"export"_s, u"preferences"_s, u"cashbook"_s, u"about"_s};
-    const QStringList texts = {u"Erlöse 19% USt"_s, u"12,50"_s,   u"1.250,00"_s, u"7"_s, u"-3"_s,
-                               u"Bürobedarf"_s,     u"O'Neill"_s, u"31.12."_s,   u"e"_s, u"ÄÖ ß€"_s};
-    const std::vector<Qt::Key> keys = {Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Return,    Qt::Key_Escape, Qt::Key_Up,
-                                       Qt::Key_Down,   Qt::Key_PageUp,  Qt::Key_PageDown,  Qt::Key_Home,   Qt::Key_End,
-                                       Qt::Key_Insert, Qt::Key_Delete,  Qt::Key_Backspace, Qt::Key_F2,     Qt::Key_F4,
-                                       Qt::Key_F10,    Qt::Key_Space,   Qt::Key_Plus,      Qt::Key_Minus,  Qt::Key_X,
-                                       Qt::Key_V,      Qt::Key_Z,       Qt::Key_D,         Qt::Key_E,      Qt::Key_L,
-                                       Qt::Key_N};
+    const QStringList commands = {"new",    "edit",        "copy",     "delete", "print",
+                                  "export", "preferences", "cashbook", "about"};
+    const QStringList texts = {"Erlöse 19% USt", "12,50",   "1.250,00", "7", "-3",
+                               "Bürobedarf",     "O'Neill", "31.12.",   "e", "ÄÖ ß€"};
+    const std::vector<Qt::Key> keys = {
+        Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Return,    Qt::Key_Escape, Qt::Key_Up,
+        Qt::Key_Down,   Qt::Key_PageUp,  Qt::Key_PageDown,  Qt::Key_Home,   Qt::Key_End,
+        Qt::Key_Insert, Qt::Key_Delete,  Qt::Key_Backspace, Qt::Key_F2,     Qt::Key_F4,
+        Qt::Key_F10,    Qt::Key_Space,   Qt::Key_Plus,      Qt::Key_Minus,  Qt::Key_X,
+        Qt::Key_V,      Qt::Key_Z,       Qt::Key_D,         Qt::Key_E,      Qt::Key_L,
+        Qt::Key_N};
     const std::vector<Qt::KeyboardModifiers> modifiers = {{},
                                                           {},
                                                           {},
@@ -200,8 +226,10 @@ TEST_F(Actions, KeepTheListTheBalancesAndTheFileConsistent) {
             SCOPED_TRACE(i);
             user.Act();
             ++counts["actions"];
-            if (i % 100 == 0) { user.Check(); }
+            if (i % 100 == 0) {
+                user.Check();
+            }
         }
-        counts["bookings at the end"] += user.Count(u"1"_s).toInt();
+        counts["bookings at the end"] += user.Count("1").toInt();
     });
 }

@@ -17,7 +17,8 @@ protected:
         case 0:
             return bytes.left(RandomBelow(2) == 0 ? position : position / 1024 * 1024);
         case 1:
-            return bytes.replace(position, 1000, QByteArray(1 + RandomBelow(3000), char(RandomBelow(256))));
+            return bytes.replace(position, 1000,
+                                 QByteArray(1 + RandomBelow(3000), char(RandomBelow(256))));
         default:
             bytes[position] = char(bytes[position] ^ (1 << RandomBelow(8)));
             return bytes;
@@ -26,17 +27,20 @@ protected:
     struct Page {
         QString shown, messages;
     };
-    /// Opens the file, shows every page, prints and exports, and returns the contents and messages of each step.
+    /// Opens the file, shows every page, prints and exports, and returns the contents and messages
+    /// of each step.
     std::vector<Page> ShowPages() {
         Program program(desktop);
         MainWindow &window = *program.window;
         desktop.printout.emplace();
         std::vector<Page> pages;
-        for (const auto &command : {u""_s, u"print"_s, u"export"_s, u"preferences"_s, u"cashbook"_s}) {
+        for (const QString command : {"", "print", "export", "preferences", "cashbook"}) {
             window.MenuAction(command);
-            QString shown = desktop.printout->join(u'\n') + window.companyProfile.CompanyField.Text();
-            for (const Listbox *list : {&window.journal.CashList, &window.accountingExport.ExportList,
-                                        &window.cashBooks.CashbookList, &window.bookingAccounts.CashaccountList}) {
+            QString shown =
+                desktop.printout->join(u'\n') + window.companyProfile.CompanyField.Text();
+            for (const Listbox *list :
+                 {&window.journal.CashList, &window.accountingExport.ExportList,
+                  &window.cashBooks.CashbookList, &window.bookingAccounts.CashaccountList}) {
                 shown += list->Cell(-1, -1);
             }
             pages.push_back({shown, desktop.TakeMessages()});
@@ -66,7 +70,7 @@ TEST_F(Damage, IsReportedAndLeftUnchanged) {
             messages += pages[page].messages.split(u'|', Qt::SkipEmptyParts);
             EXPECT_TRUE(!messages.empty() || pages[page].shown == before[page].shown) << page;
         }
-        EXPECT_EQ(messages.filter(QRegularExpression(u"^DB (Connection )?Error: ."_s)), messages);
+        EXPECT_EQ(messages.filter(QRegularExpression("^DB (Connection )?Error: .")), messages);
         EXPECT_EQ(Bytes(), damaged);
         EXPECT_EQ(QDir(QFileInfo(path).path()).entryList(QDir::Files).size(), 1);
         ++counts[messages.empty() ? "unaffected" : "reported"];

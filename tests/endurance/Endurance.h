@@ -8,9 +8,10 @@
 #include <map>
 #include <random>
 
-/// A randomized test. ENDURANCE_TIMES multiplies the number of rounds. Each round has its own random seed; a failure
-/// shows it, and ENDURANCE_SEED repeats the round as the first one. Run() prints a line at its end: the name of the
-/// test, the rounds, the counts, and the number of rounds with a failure.
+/// A randomized test. ENDURANCE_TIMES multiplies the number of rounds. Each round has its own
+/// random seed; a failure shows it, and ENDURANCE_SEED repeats the round as the first one. Run()
+/// prints a line at its end: the name of the test, the rounds, the counts, and the number of rounds
+/// with a failure.
 class Endurance : public testing::Test {
 protected:
     template <typename Round>
@@ -26,7 +27,8 @@ protected:
             round();
             findings += int(test.result()->total_part_count() > before);
         }
-        std::cout << "endurance\t" << test.test_suite_name() << '.' << test.name() << '\t' << rounds;
+        std::cout << "endurance\t" << test.test_suite_name() << '.' << test.name() << '\t'
+                  << rounds;
         for (const char *separator = "\t"; const auto &[name, count] : counts) {
             std::cout << std::exchange(separator, ", ") << count << ' ' << name;
         }

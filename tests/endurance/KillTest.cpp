@@ -20,26 +20,29 @@ protected:
         }
         return id;
     }
-    /// Adds, changes and deletes bookings until a message is shown. Logs each step with the number of the booking and
-    /// its expected line, empty for none: after "?" when the step begins, and after "!" when it is done.
+    /// Adds, changes and deletes bookings until a message is shown. Logs each step with the number
+    /// of the booking and its expected line, empty for none: after "?" when the step begins, and
+    /// after "!" when it is done.
     void Work(const QString &path) {
         Program program(desktop);
         QFile log(path);
         EXPECT_TRUE(log.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
         const Listbox &list = program.window->journal.CashList;
         const auto step = [&](const QString &number, const QString &line, const auto &run) {
-            log.write((u"? "_s + number + u' ' + line + u'\n').toUtf8());
+            log.write(("? " + number + u' ' + line + u'\n').toUtf8());
             run();
-            log.write((u"! "_s + number + u' ' + line + u'\n').toUtf8());
+            log.write(("! " + number + u' ' + line + u'\n').toUtf8());
         };
         while (desktop.TakeMessages().isEmpty()) {
             const QString number = QString::number(random());
             // Some notes fill many pages of the file, which takes longer to write.
             const int times = 1 + RandomBelow(4) / 3 * RandomBelow(10'000);
-            step(number, Program::Line(number, u"1.50"_s, times), [&] { program.Submit(number, u"1.50"_s, times); });
+            step(number, Program::Line(number, "1.50", times),
+                 [&] { program.Submit(number, "1.50", times); });
             const auto row = int(list.Cell(-1, Journal::SaleNumber).split(u'\n').indexOf(number));
             if (RandomBelow(2) == 0) {
-                step(number, Program::Line(number, u"2.50"_s, times), [&] { program.Change(row, u"2.50"_s); });
+                step(number, Program::Line(number, "2.50", times),
+                     [&] { program.Change(row, "2.50"); });
             } else if (RandomBelow(2) == 0) {
                 step(number, {}, [&] { program.Delete(row); });
             }
@@ -55,7 +58,8 @@ protected:
         while (hasLog && !log.atEnd()) {
             const QStringList entry = QString::fromUtf8(log.readLine()).chopped(1).split(u' ');
             // A step that was not logged as done may or may not be stored.
-            allowed[entry[1]] = {entry[0] == u"?" ? allowed[entry[1]].value(0) : entry[2], entry[2]};
+            allowed[entry[1]] = {entry[0] == u"?" ? allowed[entry[1]].value(0) : entry[2],
+                                 entry[2]};
         }
         EXPECT_TRUE(!hasLog || log.remove());
     }
@@ -73,20 +77,24 @@ TEST_F(Kill, NeitherLosesNorDuplicatesBookings) {
             allowed.clear();
         }
         const bool alone = !file.Exists() || RandomBelow(2) == 0;
-        const QStringList logs = {desktop.Path(u"first"_s), desktop.Path(u"second"_s)};
+        const QStringList logs = {desktop.Path("first"), desktop.Path("second")};
         const pid_t first = Start(logs[0]);
         const pid_t second = alone ? 0 : Start(logs[1]);
         usleep(useconds_t(RandomBelow(150'000)));
         End(first, logs[0]);
-        if (second != 0) { End(second, logs[1]); }
+        if (second != 0) {
+            End(second, logs[1]);
+        }
         const Program program(desktop);
         EXPECT_EQ(desktop.TakeMessages(), QString());
         EXPECT_TRUE(program.IsIntact());
-        EXPECT_TRUE(QDir(file.Parent().Path()).entryList({u"Zolmark.neu*"_s}).isEmpty());
+        EXPECT_TRUE(QDir(file.Parent().Path()).entryList({"Zolmark.neu*"}).isEmpty());
         QMap<QString, QStringList> found;
-        for (const QString &line : program.Stored()) { found[line.section(u'|', 0, 0)].append(line); }
+        for (const QString &line : program.Stored()) {
+            found[line.section(u'|', 0, 0)].append(line);
+        }
         for (const auto &[number, lines] : allowed.asKeyValueRange()) {
-            EXPECT_TRUE(lines.contains(found[number].join(u' '))) << qPrintable(number);
+            EXPECT_TRUE(lines.contains(found[number].join(u' '))) << number;
             lines = {found[number].join(u' ')};
         }
         EXPECT_EQ(found.keys(), allowed.keys());

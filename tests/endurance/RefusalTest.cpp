@@ -12,7 +12,7 @@ protected:
     FakeDesktop desktop;
     const QString root = desktop.Path({});
     const FolderItem databaseFile = App(desktop, UserLocale(QLocale())).DefaultDatabaseFile();
-    QFile exported{root + u"/export.txt"_s};
+    QFile exported{root + "/export.txt"};
     std::optional<Program> program;
 };
 
@@ -23,32 +23,37 @@ TEST_F(Refusal, IsReportedAndLeavesTheFilesUnchanged) {
     };
     desktop.fileToSave = FolderItem(exported.fileName());
     const Step steps[] = {
-        {u""_s, [&](auto &target) { target.Submit(QString::number(random()), u"1.50"_s, 1 + RandomBelow(500)); }},
-        {u"DB Error: "_s, [&](auto &target) { target.Change(0, u"%1.50"_s.arg(random())); }},
-        {u"Die Datei "_s, [](auto &target) { target.window->MenuAction(u"export"_s); }},
-        {u"no message"_s, [](auto &target) { target.Delete(0); }}};
+        {"",
+         [&](auto &target) {
+             target.Submit(QString::number(random()), "1.50", 1 + RandomBelow(500));
+         }},
+        {"DB Error: ", [&](auto &target) { target.Change(0, u"%1.50"_s.arg(random())); }},
+        {"Die Datei ", [](auto &target) { target.window->MenuAction("export"); }},
+        {"no message", [](auto &target) { target.Delete(0); }}};
     Run(60, [&] {
         static_cast<void>(databaseFile.Delete());
         program.emplace(desktop);
-        program->Submit(QString::number(random()), u"2.50"_s);
+        program->Submit(QString::number(random()), "2.50");
         EXPECT_TRUE(exported.open(QIODevice::WriteOnly) && exported.write("before") > 0);
         exported.close();
         const QString before = Contents();
         const Step &step = steps[RandomBelow(4)];
         {
-            // Existing bytes can be overwritten: the rollback journal or the database becomes too long.
+            // Existing bytes can be overwritten: the rollback journal or the database becomes too
+            // long.
             const int bytes = RandomBelow(40'000);
-            const FullDisk disk(bytes < 10'000 ? bytes / 10 : QFile(databaseFile.Path()).size() + bytes / 2);
+            const FullDisk disk(bytes < 10'000 ? bytes / 10
+                                               : QFile(databaseFile.Path()).size() + bytes / 2);
             program.emplace(desktop);
             step.run(*program);
         }
         const QString message = desktop.TakeMessages();
-        EXPECT_FALSE(message.contains(u'|')) << qPrintable(message);
+        EXPECT_FALSE(message.contains(u'|')) << message;
         const bool isWritten = Contents() != before;
-        EXPECT_EQ(message.isEmpty(), isWritten || step.message == u"no message"_s);
-        EXPECT_TRUE(message.isEmpty() || message.startsWith(step.message)) << qPrintable(message);
+        EXPECT_EQ(message.isEmpty(), isWritten || step.message == "no message");
+        EXPECT_TRUE(message.isEmpty() || message.startsWith(step.message)) << message;
         EXPECT_EQ(program->window->journal.CashList.ListCount(), program->Stored().size());
-        EXPECT_EQ(QDir(root).entryList(QDir::Files), QStringList(u"export.txt"_s));
+        EXPECT_EQ(QDir(root).entryList(QDir::Files), QStringList("export.txt"));
         EXPECT_TRUE(program->IsIntact());
         ++counts[isWritten ? "written" : "refused"];
     });

@@ -5,9 +5,10 @@
 
 #include <QStringList>
 
-/// Records each drawing step as a text: "line 0 0 10 0", or a position and the text, "40 270 Endbestand". A step whose
-/// colour or font differs from that of the step before begins with them: "333333 Courier 10 bold 40 270 Endbestand".
-/// The height of a text is the font size and two points, or four in bold.
+/// Records each drawing step as a text: "line 0 0 10 0", or a position and the text, "40 270
+/// Endbestand". A step whose colour or font differs from that of the step before begins with them:
+/// "333333 Courier 10 bold 40 270 Endbestand". The height of a text is the font size and two
+/// points, or four in bold.
 class DrawingRecorder : public PrinterGraphics {
 public:
     explicit DrawingRecorder(QStringList &drawn) : drawn_(drawn) {}
@@ -33,10 +34,11 @@ public:
     void SetUnderline(bool underline) override { underline_ = underline; }
     double TextHeight() const override { return size_ + (bold_ ? 4 : 2); }
     void DrawString(const QString &text, double x, double y) override {
-        const QString face = (bold_ ? u" bold"_s : u""_s) + (underline_ ? u" underlined"_s : u""_s);
-        Append(u"%1 %2 %3%4"_s.arg(color_, font_, QString::number(size_), face), u"%1 %2 %3"_s.arg(x).arg(y).arg(text));
+        const QString face = QString(bold_ ? " bold" : "") + (underline_ ? " underlined" : "");
+        Append(u"%1 %2 %3%4"_s.arg(color_, font_, QString::number(size_), face),
+               u"%1 %2 %3"_s.arg(x).arg(y).arg(text));
     }
-    void NextPage() override { drawn_.append(u"next page"_s); }
+    void NextPage() override { drawn_.append("next page"); }
 
 private:
     void Append(const QString &look, const QString &step) {

@@ -6,8 +6,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// A desktop for tests: records the messages, returns preset results of dialogs, and has its own clock and folders.
-/// A message that the test does not take is a failure.
+/// A desktop for tests: records the messages, returns preset results of dialogs, and has its own
+/// clock and folders. A message that the test does not take is a failure.
 class FakeDesktop : public Desktop {
 public:
     FakeDesktop() = default;
@@ -23,27 +23,29 @@ public:
     std::optional<QStringList> printout;
     /// The database file passed to the print dialog, which the print job must not overwrite.
     std::optional<FolderItem> protectedFile;
-    /// Everything that was opened: "about", documents to print, suggested file names, paths, addresses.
+    /// Everything that was opened: "about", documents to print, suggested file names, paths,
+    /// addresses.
     QStringList opened;
 
     Date Now() const override { return now; }
-    FolderItem ApplicationData() const override { return FolderItem(Path(u"data"_s)); }
-    FolderItem DesktopFolder() const override { return FolderItem(Path(u"desk"_s)); }
+    FolderItem ApplicationData() const override { return FolderItem(Path("data")); }
+    FolderItem DesktopFolder() const override { return FolderItem(Path("desk")); }
     void MsgBox(const QString &message) override { messages_.append(message); }
-    FolderItem ExecutableFile() const override { return FolderItem(Path(u"bin/zolmark"_s)); }
+    FolderItem ExecutableFile() const override { return FolderItem(Path("bin/zolmark")); }
     std::optional<FolderItem> GetOpenFolderItem() override { return fileToOpen; }
     std::optional<FolderItem> ShowModal(const SaveAsDialog &dialog) override {
         opened.append(dialog.suggestedFileName);
         return fileToSave;
     }
-    std::unique_ptr<PrinterGraphics> OpenPrinterDialog(const QString &document,
-                                                       const std::optional<FolderItem> &databaseFile) override {
+    std::unique_ptr<PrinterGraphics>
+    OpenPrinterDialog(const QString &document,
+                      const std::optional<FolderItem> &databaseFile) override {
         protectedFile = databaseFile;
         opened.append(document);
         return printout ? std::make_unique<DrawingRecorder>(*printout) : nullptr;
     }
     std::optional<int> PopUp(const MenuItem & /*base*/) override { return menuChoice; }
-    void ShowAboutPanel() override { opened.append(u"about"_s); }
+    void ShowAboutPanel() override { opened.append("about"); }
     void ShowURL(const QString &address) override { opened.append(address); }
     void Launch(const FolderItem &file) override { opened.append(file.Path()); }
 

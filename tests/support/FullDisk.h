@@ -5,7 +5,8 @@
 #include <csignal>
 #include <sys/resource.h>
 
-/// Simulates a full disk: during the object's lifetime, this process cannot write to a file beyond this size.
+/// Simulates a full disk: during the object's lifetime, this process cannot write to a file beyond
+/// this size.
 class FullDisk {
 public:
     explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {

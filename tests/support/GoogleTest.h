@@ -5,6 +5,9 @@
 
 using namespace Qt::StringLiterals;
 
+inline std::ostream &operator<<(std::ostream &out, const QString &text) {
+    return out << '"' << qUtf8Printable(text) << '"';
+}
 inline void PrintTo(const QString &text, std::ostream *out) {
-    *out << '"' << qUtf8Printable(text) << '"';
+    *out << text;
 }

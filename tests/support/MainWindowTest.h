@@ -7,11 +7,13 @@
 #include <QTest>
 #include <QtWidgets> // The tests use many Qt classes.
 
-/// Presses the keys of a text: \t, \r and \x1b are Tab, Return and Escape, a name in braces is any key, as in
-/// "{Ctrl+N}". The target is a widget, or a window, which passes the keys to its focus widget or to its pop-up.
+/// Presses the keys of a text: \t, \r and \x1b are Tab, Return and Escape, a name in braces is any
+/// key, as in
+/// "{Ctrl+N}". The target is a widget, or a window, which passes the keys to its focus widget or to
+/// its pop-up.
 template <class Target>
 void Type(Target *target, const QString &text) {
-    static const QRegularExpression token(u"\\{([^}]+)\\}|[^{]"_s);
+    static const QRegularExpression token("\\{([^}]+)\\}|[^{]");
     for (const QRegularExpressionMatch &match : token.globalMatch(text)) {
         if (match.hasCaptured(1)) {
             const QKeyCombination key = QKeySequence(match.captured(1))[0];
@@ -22,7 +24,8 @@ void Type(Target *target, const QString &text) {
     }
 }
 
-/// The real main window on a test database, operated by keys and clicks. A test adds records and calls Open().
+/// The real main window on a test database, operated by keys and clicks. A test adds records and
+/// calls Open().
 class MainWindowTest : public EnvironmentTest {
 protected:
     void Open() {
@@ -41,7 +44,9 @@ protected:
     void Click(const QWidget *widget, QPoint position) {
         QTest::mouseClick(view.windowHandle(), Qt::LeftButton, {}, widget->mapTo(&view, position));
     }
-    void Click(const QTableView &list, int row, int column) { Click(list.viewport(), Centre(list, row, column)); }
+    void Click(const QTableView &list, int row, int column) {
+        Click(list.viewport(), Centre(list, row, column));
+    }
     void DoubleClick(const QTableView &list, int row, int column) {
         Click(list, row, column);
         QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, Centre(list, row, column));
@@ -50,7 +55,8 @@ protected:
     void Choose(const QString &name, int row) {
         auto &box = Find<QComboBox>(name);
         Click(&box, box.rect().center() + QPoint(box.width() / 2 - 8, 0));
-        QApplication::processEvents(); // Otherwise the mouse release could be taken for the end of a drag.
+        QApplication::processEvents(); // Otherwise the mouse release could be taken for the end of
+                                       // a drag.
         const QAbstractItemView &rows = *box.view();
         const QPoint position = rows.visualRect(box.model()->index(row, 0)).center();
         QTest::mouseMove(rows.viewport(), position);

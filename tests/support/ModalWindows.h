@@ -18,8 +18,9 @@ inline QStringList VisibleTexts(const QWidget *window = nullptr) {
     return texts;
 }
 
-/// Runs an action that opens `expected` modal windows, one after the other, presses a key in each to close it, and
-/// returns their texts. A window that does not open or does not close is a failure.
+/// Runs an action that opens `expected` modal windows, one after the other, presses a key in each
+/// to close it, and returns their texts. A window that does not open or does not close is a
+/// failure.
 inline QStringList Press(Qt::Key key, const std::function<void()> &action, int expected = 1) {
     QStringList texts;
     QPointer<QWidget> pressed;
@@ -43,7 +44,8 @@ inline QStringList Press(Qt::Key key, const std::function<void()> &action, int e
     return texts;
 }
 
-/// Runs the event loop and returns its exit code. It is a failure if the loop does not exit within 5 seconds.
+/// Runs the event loop and returns its exit code. It is a failure if the loop does not exit within
+/// 5 seconds.
 inline int RunEventLoop() {
     QTimer timeout;
     QObject::connect(&timeout, &QTimer::timeout, qApp, [] {

@@ -17,12 +17,12 @@ TEST(SQLiteDatabase, SetsThePragmasAndEncryptsTheFile) {
     struct Case {
         QString pragma, value;
     };
-    const Case cases[] = {{u"cipher_page_size"_s, u"1024"_s}, {u"kdf_iter"_s, u"64000"_s},
-                          {u"journal_mode"_s, u"delete"_s},   {u"synchronous"_s, u"2"_s},
-                          {u"temp_store"_s, u"2"_s},          {u"cache_size"_s, u"-65536"_s}};
+    const Case cases[] = {{"cipher_page_size", "1024"}, {"kdf_iter", "64000"},
+                          {"journal_mode", "delete"},   {"synchronous", "2"},
+                          {"temp_store", "2"},          {"cache_size", "-65536"}};
     const TestEnvironment env(TestEnvironment::Storage::File);
     for (const Case &each : cases) {
-        EXPECT_EQ(env.Value(u"PRAGMA "_s + each.pragma), each.value) << qPrintable(each.pragma);
+        EXPECT_EQ(env.Value("PRAGMA " + each.pragma), each.value) << each.pragma;
     }
     const QByteArray bytes = Bytes(env.app.DefaultDatabaseFile().Path());
     EXPECT_FALSE(bytes.contains("SQLite format") || bytes.contains("Kasse"));
@@ -36,11 +36,12 @@ TEST(SQLiteDatabase, LeavesUnreadableFilesUnchanged) {
     const TestEnvironment env(TestEnvironment::Storage::File);
     const QByteArray encrypted = Bytes(env.app.DefaultDatabaseFile().Path());
     const QByteArray text = QByteArray("Kein Kassenbuch. ").repeated(200);
-    const Case cases[] = {{encrypted, fixedKey, true}, {"", fixedKey, true},     {text, fixedKey, false},
-                          {text, "", false},           {encrypted, "rk", false}, {encrypted, "", false}};
-    const QDir folder(env.desktop.Path(u"files"_s));
-    ASSERT_TRUE(folder.mkpath(u"."_s));
-    const QString path = folder.filePath(u"Zolmark.sdb"_s);
+    const Case cases[] = {{encrypted, fixedKey, true}, {"", fixedKey, true},
+                          {text, fixedKey, false},     {text, "", false},
+                          {encrypted, "rk", false},    {encrypted, "", false}};
+    const QDir folder(env.desktop.Path("files"));
+    ASSERT_TRUE(folder.mkpath("."));
+    const QString path = folder.filePath("Zolmark.sdb");
     SQLiteDatabase database;
     database.SetDatabaseFile(FolderItem(path));
     EXPECT_FALSE(database.Connect()) << "the file does not exist";
@@ -58,30 +59,30 @@ TEST(SQLiteDatabase, LeavesUnreadableFilesUnchanged) {
 
 TEST(SQLiteDatabase, RejectsAPipeWithoutWaiting) {
     const FakeDesktop desktop;
-    const FolderItem pipe(desktop.Path(u"Zolmark.sdb"_s));
+    const FolderItem pipe(desktop.Path("Zolmark.sdb"));
     ASSERT_EQ(mkfifo(qUtf8Printable(pipe.Path()), 0600), 0);
     SQLiteDatabase database;
     App::UseFile(database, pipe);
     EXPECT_FALSE(database.Connect());
-    EXPECT_EQ(database.ErrorMessage(), u"unable to open database file"_s);
+    EXPECT_EQ(database.ErrorMessage(), "unable to open database file");
 }
 
 TEST(Transaction, RollsBackUnlessCommitted) {
     const TestEnvironment env;
-    const QString count = u"SELECT count(*) FROM cash_tax WHERE name = 'neu'"_s;
-    const QString insert = u"INSERT INTO cash_tax (name) VALUES ('neu')"_s;
+    const QString count = "SELECT count(*) FROM cash_tax WHERE name = 'neu'";
+    const QString insert = "INSERT INTO cash_tax (name) VALUES ('neu')";
     {
         const Transaction rolledBack(env.app.kvoDB());
         env.Run(insert);
     }
-    EXPECT_EQ(env.Value(count), u"0"_s);
+    EXPECT_EQ(env.Value(count), "0");
     {
         Transaction committed(env.app.kvoDB());
         env.Run(insert);
         EXPECT_TRUE(committed.Commit());
         EXPECT_FALSE(committed.Commit()) << "the transaction has ended";
     }
-    EXPECT_EQ(env.Value(count), u"1"_s);
+    EXPECT_EQ(env.Value(count), "1");
 }
 
 TEST(SQLiteDatabase, WaitsOnceForALockedFile) {
@@ -90,14 +91,14 @@ TEST(SQLiteDatabase, WaitsOnceForALockedFile) {
     App::UseFile(other, env.app.DefaultDatabaseFile());
     other.SetLockTimeout(100ms);
     ASSERT_TRUE(other.Connect());
-    env.Run(u"BEGIN EXCLUSIVE"_s);
+    env.Run("BEGIN EXCLUSIVE");
     QElapsedTimer timer;
     timer.start();
-    other.SQLExecute(u"DELETE FROM cash_book"_s);
+    other.SQLExecute("DELETE FROM cash_book");
     EXPECT_GE(timer.elapsed(), 100);
     for (int i = 0; i < 50; ++i) {
-        other.SQLExecute(u"DELETE FROM cash_book"_s);
-        EXPECT_EQ(other.ErrorMessage(), u"database is locked"_s);
+        other.SQLExecute("DELETE FROM cash_book");
+        EXPECT_EQ(other.ErrorMessage(), "database is locked");
     }
     EXPECT_LT(timer.elapsed(), 2500) << "only the first statement waits";
 }

@@ -18,7 +18,7 @@ TEST(Frame, DrawsFourEdgesAtEveryScaleFactor) {
                 horizontal += image.pixelColor(i, image.width() / 4) == Qt::red ? u'#' : u' ';
                 vertical += image.pixelColor(image.width() / 4, i) == Qt::red ? u'#' : u' ';
             }
-            EXPECT_EQ((horizontal + u" | "_s + vertical).simplified().replace(u"##"_s, u"#"_s), u"# # | # #"_s)
+            EXPECT_EQ((horizontal + " | " + vertical).simplified().replace("##", "#"), "# # | # #")
                 << scale << left;
         }
     }
@@ -30,20 +30,23 @@ TEST_F(MainWindowTest, DrawsTheRingAroundTheFocusWidget) {
     const auto &ring = *view.findChild<FocusRing *>();
     const auto hasRing = [&](QWidget &widget) {
         return ring.widget() == &widget && ring.isVisible() &&
-               view.grab().toImage().pixel(widget.mapTo(&view, QPoint(9, widget.height()))) == 0xff1f6aa5;
+               view.grab().toImage().pixel(widget.mapTo(&view, QPoint(9, widget.height()))) ==
+                   0xff1f6aa5;
     };
     for (const auto &[command, first] :
-         {std::pair(u"cashbook"_s, u"DateField"_s), {u"preferences"_s, u"CompanyField"_s}}) {
+         {std::pair("cashbook", "DateField"), {"preferences", "CompanyField"}}) {
         window.MenuAction(command);
         Find<QWidget>(first).setFocus();
         for (int tab = 0; tab < 22; ++tab) {
             QWidget &focus = *QApplication::focusWidget();
             const bool drawsItsOwnRing = qobject_cast<CanvasButton *>(&focus) != nullptr;
-            EXPECT_TRUE(drawsItsOwnRing ? focus.grab().toImage().pixel(2, 9) == 0xff1f6aa5 : hasRing(focus)) << tab;
-            Type(u"\t"_s);
+            EXPECT_TRUE(drawsItsOwnRing ? focus.grab().toImage().pixel(2, 9) == 0xff1f6aa5
+                                        : hasRing(focus))
+                << tab;
+            Type("\t");
         }
     }
-    Find<QTableView>(u"CashaccountList"_s).setFocus();
-    Type(u"{Down}{F2}"_s);
-    EXPECT_TRUE(hasRing(Find<QLineEdit>(u"CellEditor"_s)));
+    Find<QTableView>("CashaccountList").setFocus();
+    Type("{Down}{F2}");
+    EXPECT_TRUE(hasRing(Find<QLineEdit>("CellEditor")));
 }

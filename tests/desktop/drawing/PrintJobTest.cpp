@@ -23,18 +23,20 @@ protected:
         printer->setOutputFileName(path);
         printer->setPageSize(QPageSize(QPageSize::A4));
         setUp(*printer);
-        return std::make_unique<PrintJob>(std::move(printer), databaseFile, [this](const QString &) { ++failures; });
+        return std::make_unique<PrintJob>(std::move(printer), databaseFile,
+                                          [this](const QString &) { ++failures; });
     }
-    /// Prints three pages to a PDF file, each with the y coordinate of its text as the text, and returns its words.
+    /// Prints three pages to a PDF file, each with the y coordinate of its text as the text, and
+    /// returns its words.
     QStringList Print(const SetUp &setUp = [](QPrinter &) {}) {
         auto job = CreateJob(setUp);
-        job->SetTextFont(u"Courier"_s);
+        job->SetTextFont("Courier");
         job->SetTextSize(10);
-        job->DrawString(u"100"_s, 40, 100);
+        job->DrawString("100", 40, 100);
         job->NextPage();
-        job->DrawString(u"838"_s, 40, 838);
+        job->DrawString("838", 40, 838);
         job->NextPage();
-        job->DrawString(u"900"_s, 40, 900);
+        job->DrawString("900", 40, 900);
         job.reset();
         EXPECT_EQ(failures, reportedFailures) << "failures are reported through the event loop";
         QCoreApplication::processEvents();
@@ -50,9 +52,9 @@ protected:
     }
     /// Returns for each word its left, right and bottom edge in points, and its text.
     QStringList Read() const {
-        static const QRegularExpression word(u"xMin=\"(\\d+).*xMax=\"(\\d+).*yMax=\"(\\d+).*>(.*)<"_s);
+        static const QRegularExpression word("xMin=\"(\\d+).*xMax=\"(\\d+).*yMax=\"(\\d+).*>(.*)<");
         QStringList found;
-        const auto xml = QString::fromUtf8(RunTool(u"pdftotext"_s, {u"-bbox"_s, path, u"-"_s}));
+        const auto xml = QString::fromUtf8(RunTool("pdftotext", {"-bbox", path, "-"}));
         for (const QRegularExpressionMatch &match : word.globalMatch(xml)) {
             found.append(match.capturedTexts().mid(1).join(u' '));
         }
@@ -60,7 +62,7 @@ protected:
     }
 
     QTemporaryDir folder;
-    QString path = folder.filePath(u"report.pdf"_s);
+    QString path = folder.filePath("report.pdf");
     std::optional<FolderItem> databaseFile;
     int failures = 0;
     int reportedFailures = 0;
@@ -73,9 +75,9 @@ TEST_F(PrintJobTest, PrintsTheSelectedPagesAndScalesThemToThePaper) {
         QStringList printed;
     };
     // The width of a Courier character is 0.6 of the font size.
-    const QString first = u"40 58 103 100"_s;
-    const QString second = u"40 58 841 838"_s;
-    const QString third = u"37 54 841 900"_s;
+    const QString first = "40 58 103 100";
+    const QString second = "40 58 841 838";
+    const QString third = "37 54 841 900";
     const auto twice = [](QPrinter &printer) {
         printer.setFromTo(1, 2);
         printer.setCopyCount(2);
@@ -91,7 +93,9 @@ TEST_F(PrintJobTest, PrintsTheSelectedPagesAndScalesThemToThePaper) {
                           {"the last page first",
                            [](QPrinter &printer) { printer.setPageOrder(QPrinter::LastPageFirst); },
                            {third, second, first}}};
-    for (const Case &each : cases) { EXPECT_EQ(Print(each.setUp), each.printed) << each.name; }
+    for (const Case &each : cases) {
+        EXPECT_EQ(Print(each.setUp), each.printed) << each.name;
+    }
 }
 
 TEST_F(PrintJobTest, DrawsColouredLinesAndBoldTextOnOneLine) {
@@ -99,31 +103,33 @@ TEST_F(PrintJobTest, DrawsColouredLinesAndBoldTextOnOneLine) {
     EXPECT_EQ(QSizeF(job->Width(), job->Height()).toSize(), QSize(595, 842));
     job->SetForeColor(Color{0xff0000});
     job->DrawLine(100, 200, 150, 200);
-    job->SetTextFont(u"Courier"_s);
+    job->SetTextFont("Courier");
     job->SetTextSize(20);
     job->SetBold(true);
     EXPECT_NEAR(job->TextHeight(), 24, 6);
-    job->DrawString(u"ii\ni"_s, 300, 200);
+    job->DrawString("ii\ni", 300, 200);
     job.reset();
-    const auto page = QImage::fromData(RunTool(u"pdftoppm"_s, {u"-r"_s, u"72"_s, u"-png"_s, path}));
+    const auto page = QImage::fromData(RunTool("pdftoppm", {"-r", "72", "-png", path}));
     EXPECT_EQ(page.pixelColor(125, 200), QColor(Qt::red));
-    EXPECT_EQ(Read().replaceInStrings(QRegularExpression(u".* "_s), {}), QStringList({u"ii"_s, u"i"_s}));
-    EXPECT_TRUE(RunTool(u"pdffonts"_s, {path}).contains("Bold"));
+    EXPECT_EQ(Read().replaceInStrings(QRegularExpression(".* "), {}), QStringList({"ii", "i"}));
+    EXPECT_TRUE(RunTool("pdffonts", {path}).contains("Bold"));
 }
 
 /// Runs its own print service, with a queue that accepts jobs and one that rejects them.
 class PrintQueueTest : public testing::Test {
 protected:
     PrintQueueTest() {
-        Write(u"cupsd.conf"_s, u"Listen %1/socket\n<Location />\nAllow all\n</Location>\n"_s);
-        Write(u"cups-files.conf"_s, u"ServerRoot %1\nStateDir %1\nCacheDir %1\nRequestRoot %1/spool\n"
-                                    "AccessLog %1/log\nErrorLog %1/log\nPageLog %1/log\nFileDevice Yes\n"_s);
-        Write(u"printers.conf"_s, u"<Printer Offen>\nDeviceURI file:///dev/null\nAccepting Yes\n</Printer>\n"
-                                  "<Printer Zu>\nDeviceURI file:///dev/null\nAccepting No\n</Printer>\n"_s);
-        service.start(QStandardPaths::findExecutable(u"cupsd"_s, {u"/usr/sbin"_s}),
-                      {u"-f"_s, u"-c"_s, Path(u"cupsd.conf"_s), u"-s"_s, Path(u"cups-files.conf"_s)});
-        EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(Path(u"socket"_s)); }));
-        cupsSetServer(qUtf8Printable(Path(u"socket"_s)));
+        Write("cupsd.conf", "Listen %1/socket\n<Location />\nAllow all\n</Location>\n");
+        Write("cups-files.conf",
+              "ServerRoot %1\nStateDir %1\nCacheDir %1\nRequestRoot %1/spool\n"
+              "AccessLog %1/log\nErrorLog %1/log\nPageLog %1/log\nFileDevice Yes\n");
+        Write("printers.conf",
+              "<Printer Offen>\nDeviceURI file:///dev/null\nAccepting Yes\n</Printer>\n"
+              "<Printer Zu>\nDeviceURI file:///dev/null\nAccepting No\n</Printer>\n");
+        service.start(QStandardPaths::findExecutable("cupsd", {"/usr/sbin"}),
+                      {"-f", "-c", Path("cupsd.conf"), "-s", Path("cups-files.conf")});
+        EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(Path("socket")); }));
+        cupsSetServer(qUtf8Printable(Path("socket")));
     }
     ~PrintQueueTest() override {
         StopService();
@@ -135,7 +141,7 @@ protected:
     void Write(const QString &name, const QString &text) const {
         QFile file(Path(name));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly) &&
-                    file.write(QString(text).replace(u"%1"_s, folder.path()).toUtf8()) > 0);
+                    file.write(QString(text).replace("%1", folder.path()).toUtf8()) > 0);
     }
     void StopService() {
         service.terminate();
@@ -161,14 +167,15 @@ protected:
 };
 
 TEST_F(PrintQueueTest, ReportsWhyAPrintJobFailed) {
-    EXPECT_EQ(EndJob(CreateJob(u"Offen"_s)), QString());
-    EXPECT_EQ(EndJob(CreateJob(u"Zu"_s)),
-              u"Der Drucker Zu hat den Bericht nicht angenommen: Er nimmt keine Aufträge an."_s);
-    EXPECT_EQ(EndJob(CreateJob(u"Offen"_s)), QString()) << "the other queue still accepts jobs";
-    auto job = CreateJob(u"Offen"_s);
+    EXPECT_EQ(EndJob(CreateJob("Offen")), QString());
+    EXPECT_EQ(EndJob(CreateJob("Zu")),
+              "Der Drucker Zu hat den Bericht nicht angenommen: Er nimmt keine Aufträge an.");
+    EXPECT_EQ(EndJob(CreateJob("Offen")), QString()) << "the other queue still accepts jobs";
+    auto job = CreateJob("Offen");
     StopService();
-    EXPECT_EQ(EndJob(std::move(job)), u"Der Drucker Offen hat den Bericht nicht angenommen: "
-                                      "Er ist nicht mehr eingerichtet, oder der Druckdienst läuft nicht."_s);
+    EXPECT_EQ(EndJob(std::move(job)),
+              "Der Drucker Offen hat den Bericht nicht angenommen: "
+              "Er ist nicht mehr eingerichtet, oder der Druckdienst läuft nicht.");
 }
 
 TEST_F(PrintJobTest, ReportsFailuresAndKeepsThePreviousFile) {
@@ -178,7 +185,7 @@ TEST_F(PrintJobTest, ReportsFailuresAndKeepsThePreviousFile) {
         const FullDisk disk(2000);
         Print();
     }
-    databaseFile = FolderItem(folder.path() + u"/./report.pdf"_s);
+    databaseFile = FolderItem(folder.path() + "/./report.pdf");
     Print();
     EXPECT_EQ(failures, 3);
     EXPECT_EQ(Read(), before);

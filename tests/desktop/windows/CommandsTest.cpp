@@ -12,7 +12,8 @@ protected:
     void Choose(const QString &action) { Find<QAction>(action).trigger(); }
     QString RowCommandStates() {
         QString states;
-        for (const auto &name : {u"EditButton"_s, u"CopyItem"_s, u"CopyButton"_s, u"DeleteItem"_s, u"DeleteButton"_s}) {
+        for (const auto &name :
+             {"EditButton", "CopyItem", "CopyButton", "DeleteItem", "DeleteButton"}) {
             states += Find<QAction>(name).isEnabled() ? u'+' : u'-';
         }
         return states;
@@ -24,113 +25,115 @@ protected:
         for (const QAction *each : Find<QMenu>(menu).actions()) {
             if (each->isVisible()) {
                 const QString text = each->text() + u' ' + each->shortcut().toString();
-                texts.append(each->isSeparator() ? u"-"_s : text.trimmed());
+                texts.append(each->isSeparator() ? "-" : text.trimmed());
             }
         }
-        return texts.join(u", "_s);
+        return texts.join(", ");
     }
 
-    QTableView &list = Find<QTableView>(u"CashList"_s);
+    QTableView &list = Find<QTableView>("CashList");
 };
 
 TEST_F(CommandsTest, AppearInTheMenusWithTheirShortcuts) {
-    EXPECT_EQ(MenuTexts(u"FileMenu"_s),
-              u"Über Zolmark, E&xport..., -, &Drucken... Ctrl+P, &Einstellungen ..., -, &Quit Ctrl+Q"_s);
-    EXPECT_EQ(MenuTexts(u"EditMenu"_s), u"&Undo Ctrl+Z, &Ausschneiden Ctrl+X, &Kopieren Ctrl+C, E&infügen Ctrl+V, "
-                                        "&Löschen, -, Alles &markieren Ctrl+A"_s);
-    EXPECT_EQ(MenuTexts(u"DataMenu"_s), u"&Neu Ctrl+N, &Duplizieren Ctrl+D, &Löschen Ctrl+L"_s);
-    EXPECT_EQ(MenuTexts(u"HilfeMenu"_s), u"Kurzanleitung, -, Support-Anfrage, Hersteller-Homepage"_s);
+    EXPECT_EQ(
+        MenuTexts("FileMenu"),
+        "Über Zolmark, E&xport..., -, &Drucken... Ctrl+P, &Einstellungen ..., -, &Quit Ctrl+Q");
+    EXPECT_EQ(MenuTexts("EditMenu"),
+              "&Undo Ctrl+Z, &Ausschneiden Ctrl+X, &Kopieren Ctrl+C, E&infügen Ctrl+V, "
+              "&Löschen, -, Alles &markieren Ctrl+A");
+    EXPECT_EQ(MenuTexts("DataMenu"), "&Neu Ctrl+N, &Duplizieren Ctrl+D, &Löschen Ctrl+L");
+    EXPECT_EQ(MenuTexts("HilfeMenu"), "Kurzanleitung, -, Support-Anfrage, Hersteller-Homepage");
 }
 
 TEST_F(CommandsTest, RunFromTheMenusAndTheToolBar) {
     struct Case {
         QString entry;
         QString opened = {};
-        QString row = u"typed"_s;
+        QString row = "typed";
         bool changes = false;
         int bookings = 1;
         int page = MainWindow::JournalPage;
     };
     const QString homepage = QStringLiteral(ZOLMARK_HOMEPAGE);
     const int preferences = MainWindow::PreferencesPage;
-    const Case cases[] = {{u"AboutItem"_s, u"about"_s},
-                          {u"FileExport"_s, u"export.txt"_s},
-                          {u"FilePrint"_s, u"Kassenbericht"_s},
-                          {u"PrintButton"_s, u"Kassenbericht"_s},
-                          {u"QuickReferenceItem"_s, env.app.Resources().Child(u"Zolmark.pdf"_s).Path()},
-                          {u"SupportItem"_s, homepage + u"service-support/"_s},
-                          {u"HomepageItem"_s, homepage},
-                          {u"NewSaleItem"_s, {}, u""_s},
-                          {u"NewButton"_s, {}, u""_s},
-                          {u"EditItem"_s, {}, u"7,00"_s, true},
-                          {u"EditButton"_s, {}, u"7,00"_s, true},
-                          {u"CopyItem"_s, {}, u"7,00"_s},
-                          {u"CopyButton"_s, {}, u"7,00"_s},
-                          {.entry = u"DeleteItem"_s, .bookings = 0},
-                          {.entry = u"DeleteButton"_s, .bookings = 0},
-                          {.entry = u"FilePreferences"_s, .page = preferences},
-                          {u"PreferencesButton"_s}, // Returns to the journal.
-                          {.entry = u"PreferencesButton"_s, .page = preferences}};
+    const Case cases[] = {{"AboutItem", "about"},
+                          {"FileExport", "export.txt"},
+                          {"FilePrint", "Kassenbericht"},
+                          {"PrintButton", "Kassenbericht"},
+                          {"QuickReferenceItem", env.app.Resources().Child("Zolmark.pdf").Path()},
+                          {"SupportItem", homepage + "service-support/"},
+                          {"HomepageItem", homepage},
+                          {"NewSaleItem", {}, ""},
+                          {"NewButton", {}, ""},
+                          {"EditItem", {}, "7,00", true},
+                          {"EditButton", {}, "7,00", true},
+                          {"CopyItem", {}, "7,00"},
+                          {"CopyButton", {}, "7,00"},
+                          {.entry = "DeleteItem", .bookings = 0},
+                          {.entry = "DeleteButton", .bookings = 0},
+                          {.entry = "FilePreferences", .page = preferences},
+                          {"PreferencesButton"}, // Returns to the journal.
+                          {.entry = "PreferencesButton", .page = preferences}};
     const EntryRow &row = window.entryRow;
     for (const Case &each : cases) {
-        env.Run(u"DELETE FROM cash_journal"_s);
-        env.Add({u"2026-01-02"_s, u"E"_s, u"7"_s});
-        window.MenuAction(u"new"_s);
+        env.Run("DELETE FROM cash_journal");
+        env.Add({"2026-01-02", "E", "7"});
+        window.MenuAction("new");
         bookings.SetListIndex(0);
         Q_EMIT bookings.KeyDown();
-        window.entryRow.NoteField.SetText(u"typed"_s);
+        window.entryRow.NoteField.SetText("typed");
         Choose(each.entry);
-        EXPECT_EQ(Opened(), each.opened) << qPrintable(each.entry);
-        EXPECT_EQ(row.InputField.Text() + row.NoteField.Text(), each.row) << qPrintable(each.entry);
-        EXPECT_EQ(row.ChangeButton.Visible(), each.changes) << qPrintable(each.entry);
-        EXPECT_EQ(bookings.ListCount(), each.bookings) << qPrintable(each.entry);
-        EXPECT_EQ(window.PagePanel1.Value(), each.page) << qPrintable(each.entry);
-        EXPECT_EQ(Find<QAction>(u"PreferencesButton"_s).text(),
-                  each.page == preferences ? u"Kassenbuch"_s : u"Einstellungen"_s);
+        EXPECT_EQ(Opened(), each.opened) << each.entry;
+        EXPECT_EQ(row.InputField.Text() + row.NoteField.Text(), each.row) << each.entry;
+        EXPECT_EQ(row.ChangeButton.Visible(), each.changes) << each.entry;
+        EXPECT_EQ(bookings.ListCount(), each.bookings) << each.entry;
+        EXPECT_EQ(window.PagePanel1.Value(), each.page) << each.entry;
+        EXPECT_EQ(Find<QAction>("PreferencesButton").text(),
+                  each.page == preferences ? "Kassenbuch" : "Einstellungen");
     }
 }
 
 TEST_F(CommandsTest, NeedASelectedRowAndAFocusedList) {
     Click(list.viewport(), {100, 9});
-    EXPECT_EQ(RowCommandStates(), u"-----"_s) << "an empty list has no row";
-    env.Add({u"2026-01-02"_s, u"E"_s, u"7"_s});
-    env.Add({u"2026-01-03"_s, u"A"_s, u"4"_s});
-    Choose(u"NewSaleItem"_s);
+    EXPECT_EQ(RowCommandStates(), "-----") << "an empty list has no row";
+    env.Add({"2026-01-02", "E", "7"});
+    env.Add({"2026-01-03", "A", "4"});
+    Choose("NewSaleItem");
     Click(list, 1, 2);
-    EXPECT_EQ(RowCommandStates(), u"+++++"_s);
-    Choose(u"CopyButton"_s);
-    EXPECT_EQ(RowCommandStates(), u"-----"_s);
+    EXPECT_EQ(RowCommandStates(), "+++++");
+    Choose("CopyButton");
+    EXPECT_EQ(RowCommandStates(), "-----");
     list.setFocus();
-    EXPECT_EQ(RowCommandStates(), u"-----"_s);
-    Type(u"{Up}"_s);
-    EXPECT_EQ(RowCommandStates(), u"+++++"_s) << "enabled for the row that the key has selected";
-    Type(u"{End}"_s);
+    EXPECT_EQ(RowCommandStates(), "-----");
+    Type("{Up}");
+    EXPECT_EQ(RowCommandStates(), "+++++") << "enabled for the row that the key has selected";
+    Type("{End}");
     EXPECT_EQ(window.journal.CashList.ListIndex(), 1);
     window.entryRow.DateField.SetFocus();
-    Type(u"{Ctrl+L}"_s);
+    Type("{Ctrl+L}");
     EXPECT_EQ(bookings.ListCount(), 2);
     Click(list, 0, 2);
-    Type(u"{Ctrl+L}{Ctrl+L}"_s);
-    EXPECT_EQ(bookings.Cell(-1, Journal::Output), u"4,00"_s);
-    EXPECT_EQ(RowCommandStates(), u"+++++"_s);
+    Type("{Ctrl+L}{Ctrl+L}");
+    EXPECT_EQ(bookings.Cell(-1, Journal::Output), "4,00");
+    EXPECT_EQ(RowCommandStates(), "+++++");
 }
 
 TEST_F(CommandsTest, OfTheEditMenuActOnTheFocusedField) {
-    auto &field = Find<QLineEdit>(u"SaleNumberField"_s);
+    auto &field = Find<QLineEdit>("SaleNumberField");
     Click(&field, {5, 5});
-    Type(u"ab"_s);
+    Type("ab");
     QString texts;
-    for (const auto &entry : {u"EditSelectAll"_s, u"EditCut"_s, u"EditPaste"_s, u"EditPaste"_s, u"EditUndo"_s,
-                              u"EditSelectAll"_s, u"EditCopy"_s, u"EditClear"_s}) {
-        Type(u"{Alt+B}"_s);
+    for (const QString entry : {"EditSelectAll", "EditCut", "EditPaste", "EditPaste", "EditUndo",
+                                "EditSelectAll", "EditCopy", "EditClear"}) {
+        Type("{Alt+B}");
         Choose(entry); // Does nothing while it is disabled.
         QApplication::activePopupWidget()->close();
         texts += u' ' + field.text();
     }
-    EXPECT_EQ(texts, u" ab  ab abab ab ab ab "_s);
+    EXPECT_EQ(texts, " ab  ab abab ab ab ab ");
     field.setFocus();
-    Type(u"c{Ctrl+V}{Ctrl+Z}"_s);
-    EXPECT_EQ(field.text(), u"c"_s) << "typed and pasted text are separate undo steps";
+    Type("c{Ctrl+V}{Ctrl+Z}");
+    EXPECT_EQ(field.text(), "c") << "typed and pasted text are separate undo steps";
 }
 
 TEST(MainWindowView, SavesTypedTextHoweverTheProgramEnds) {
@@ -138,20 +141,22 @@ TEST(MainWindowView, SavesTypedTextHoweverTheProgramEnds) {
         const char *end;
         std::function<void(MainWindowView &)> run;
     };
-    const Case cases[] = {{"the menu", [](auto &view) { Type(view.windowHandle(), u"{Ctrl+Q}"_s); }},
+    const Case cases[] = {{"the menu", [](auto &view) { Type(view.windowHandle(), "{Ctrl+Q}"); }},
                           {"the window's button", [](auto &view) { view.close(); }},
                           {"the session, that may go on after all",
                            [](auto &view) {
                                // There is no QSessionManager in a test.
-                               QMetaObject::invokeMethod(qApp, "commitDataRequest",
-                                                         QGenericArgument("QSessionManager&", &view));
+                               QMetaObject::invokeMethod(
+                                   qApp, "commitDataRequest",
+                                   QGenericArgument("QSessionManager&", &view));
                                view.hide();
                            }},
                           {"SIGTERM", [](auto & /*view*/) { std::raise(SIGTERM); }},
                           {"SIGINT", [](auto & /*view*/) { std::raise(SIGINT); }},
                           {"SIGHUP", [](auto & /*view*/) { std::raise(SIGHUP); }}};
     const TerminationSignals endOfSession;
-    QObject::connect(&endOfSession, &TerminationSignals::Raised, qApp, &QApplication::closeAllWindows);
+    QObject::connect(&endOfSession, &TerminationSignals::Raised, qApp,
+                     &QApplication::closeAllWindows);
     for (const Case &each : cases) {
         TestEnvironment env;
         MainWindow window(env.app);
@@ -159,13 +164,14 @@ TEST(MainWindowView, SavesTypedTextHoweverTheProgramEnds) {
         window.Event_Open();
         view.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&view));
-        window.MenuAction(u"preferences"_s);
-        window.companyProfile.CompanyField.SetText(u"Neu"_s);
+        window.MenuAction("preferences");
+        window.companyProfile.CompanyField.SetText("Neu");
         window.cashBooks.CashbookList.EditCell(0, CashBooks::Name);
-        window.cashBooks.CashbookList.SetEditText(u"Laden"_s);
+        window.cashBooks.CashbookList.SetEditText("Laden");
         each.run(view);
         EXPECT_TRUE(QTest::qWaitFor([&] { return !view.isVisible(); })) << each.end;
-        EXPECT_EQ(env.Value(u"SELECT company || name FROM core_company, cash_book"_s), u"NeuLaden"_s) << each.end;
+        EXPECT_EQ(env.Value("SELECT company || name FROM core_company, cash_book"), "NeuLaden")
+            << each.end;
     }
 }
 
@@ -178,7 +184,7 @@ TEST(ZolmarkApplication, ShowsAnExceptionAndExitsIfNoWindowIsOpen) {
         QMetaObject::invokeMethod(&window, fail, Qt::QueuedConnection);
         QApplication::processEvents();
     });
-    EXPECT_TRUE(texts.contains(u"Meldung"_s) && window.isVisible());
+    EXPECT_TRUE(texts.contains("Meldung") && window.isVisible());
     window.close();
     QTimer close;
     QObject::connect(&close, &QTimer::timeout, &close, &QApplication::closeAllWindows);
@@ -202,7 +208,9 @@ TEST(ZolmarkApplication, ExitsDuringAMessageAndShowsNoOther) {
     });
     timer.start(1);
     QTimer::singleShot(0, &timer, [&] {
-        for (int i = 0; i < 3; ++i) { application.ShowException(std::runtime_error("Meldung")); }
+        for (int i = 0; i < 3; ++i) {
+            application.ShowException(std::runtime_error("Meldung"));
+        }
         after.show(); // As the main window is shown after the message of the sample database.
     });
     EXPECT_EQ(RunEventLoop(), EXIT_SUCCESS);

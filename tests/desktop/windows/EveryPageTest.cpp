@@ -7,7 +7,8 @@
 #include <set>
 #include <span>
 
-/// Calls a function for each page of the welcome window and of the main window, while the page is shown.
+/// Calls a function for each page of the welcome window and of the main window, while the page is
+/// shown.
 static void ForEveryPage(const std::function<void(const QMainWindow &)> &check) {
     TestEnvironment env;
     WelcomeWindow welcome(env.app);
@@ -24,13 +25,14 @@ static void ForEveryPage(const std::function<void(const QMainWindow &)> &check) 
     view.resize(1100, 900);
     view.show();
     check(view);
-    window.MenuAction(u"preferences"_s);
+    window.MenuAction("preferences");
     check(view);
 }
 
-/// The geometry of a control in a window of the design size, in points; its look: the beginning of its text, = and the
-/// buddy of a label, > for right-aligned, | for centred, ^ for top-aligned, ~ for word wrap, ! for bold; and the edges
-/// to which it keeps its distance when the window is resized.
+/// The geometry of a control in a window of the design size, in points; its look: the beginning of
+/// its text, = and the buddy of a label, > for right-aligned, | for centred, ^ for top-aligned, ~
+/// for word wrap, ! for bold; and the edges to which it keeps its distance when the window is
+/// resized.
 struct ExpectedControl {
     const char *name;
     QRect geometry;
@@ -42,12 +44,14 @@ static QString Look(const QWidget &widget) {
     QString look = widget.property("text").toString().left(6).trimmed();
     look += widget.property("placeholderText").toString();
     const auto *label = qobject_cast<const QLabel *>(&widget);
-    if (label && label->buddy()) { look += u'=' + label->buddy()->objectName(); }
+    if (label && label->buddy()) {
+        look += u'=' + label->buddy()->objectName();
+    }
     const auto alignment = Qt::Alignment::fromInt(widget.property("alignment").toInt());
-    look += alignment & Qt::AlignRight ? u">"_s : alignment & Qt::AlignHCenter ? u"|"_s : QString();
-    look +=
-        (alignment & Qt::AlignTop ? u"^"_s : QString()) + (widget.property("wordWrap").toBool() ? u"~"_s : QString());
-    return look + (widget.font().bold() ? u"!"_s : QString());
+    look += alignment & Qt::AlignRight ? ">" : alignment & Qt::AlignHCenter ? "|" : QString();
+    look += (alignment & Qt::AlignTop ? "^" : QString()) +
+            (widget.property("wordWrap").toBool() ? "~" : QString());
+    return look + (widget.font().bold() ? "!" : QString());
 }
 // Two or three controls per line.
 // clang-format off
@@ -107,9 +111,10 @@ TEST(EveryPage, ScalesItsLayoutWithTheWindowAndTheFont) {
     std::set<const ExpectedControl *> seen;
     ForEveryPage([&seen](const QMainWindow &window) {
         QWidget &pages = *window.centralWidget();
-        const bool isMain = window.objectName() == u"MainWindow"_s;
+        const bool isMain = window.objectName() == "MainWindow";
         for (const int factor : {1, 2}) {
-            pages.setFont(QFont(u"DejaVu Sans"_s, 11 * factor)); // 11 is the largest font size of the design.
+            pages.setFont(
+                QFont("DejaVu Sans", 11 * factor)); // 11 is the largest font size of the design.
             QApplication::processEvents();
             const QSize extraSize = isMain ? pages.size() - QSize(1080, 770) * factor : QSize(0, 0);
             for (const ExpectedControl &each :
@@ -123,7 +128,8 @@ TEST(EveryPage, ScalesItsLayoutWithTheWindowAndTheFont) {
                 const QWidget &widget = *found;
                 const int right = each.locks & Qt::RightEdge ? extraSize.width() : 0;
                 const int bottom = each.locks & Qt::BottomEdge ? extraSize.height() : 0;
-                const QRect geometry(each.geometry.topLeft() * factor, each.geometry.size() * factor);
+                const QRect geometry(each.geometry.topLeft() * factor,
+                                     each.geometry.size() * factor);
                 EXPECT_EQ(QRect(widget.mapTo(&pages, QPoint()), widget.size()),
                           geometry.adjusted(each.locks & Qt::LeftEdge ? 0 : right,
                                             each.locks & Qt::TopEdge ? 0 : bottom, right, bottom))
@@ -133,7 +139,8 @@ TEST(EveryPage, ScalesItsLayoutWithTheWindowAndTheFont) {
             }
             for (const QTableView *list : window.findChildren<QTableView *>()) {
                 EXPECT_EQ(list->verticalHeader()->defaultSectionSize(), 18 * factor);
-                EXPECT_TRUE(list->columnWidth(0) == 115 * factor || list->objectName() != u"CashList"_s);
+                EXPECT_TRUE(list->columnWidth(0) == 115 * factor ||
+                            list->objectName() != "CashList");
             }
         }
     });
@@ -144,8 +151,10 @@ TEST(EveryPage, LooksTheSameWithPixelAndPointSizes) {
     const QFont before = QApplication::font();
     QStringList looks[2];
     for (QStringList &look : looks) {
-        QFont font(u"DejaVu Sans"_s, 18);
-        if (&look == &looks[1]) { font.setPixelSize(24); } // The same size at 96 dpi.
+        QFont font("DejaVu Sans", 18);
+        if (&look == &looks[1]) {
+            font.setPixelSize(24);
+        } // The same size at 96 dpi.
         QApplication::setFont(font);
         ForEveryPage([&look, &font](const QMainWindow &window) {
             window.centralWidget()->setFont(font); // The tests' screen is too small for this size.
@@ -169,10 +178,12 @@ TEST(EveryPage, LimitsItsFontSizeToTheScreen) {
     };
     QWidget pages;
     const QFont before = QApplication::font();
-    QApplication::setFont(QFont(u"DejaVu Sans"_s, 24)); // 32 pixels, 2.18 times the largest font size of the design.
+    QApplication::setFont(
+        QFont("DejaVu Sans", 24)); // 32 pixels, 2.18 times the largest font size of the design.
     const QSize available = AvailableSize(pages), half = available / 2;
-    for (const Case &each : {Case{half / 2, {}, 32}, Case{half, {}, 29}, Case{{available.width(), 9}, {}, 14},
-                             Case{{9, half.height()}, {0, half.height()}, 14}, Case{available * 2, {}, 14}}) {
+    for (const Case &each :
+         {Case{half / 2, {}, 32}, Case{half, {}, 29}, Case{{available.width(), 9}, {}, 14},
+          Case{{9, half.height()}, {0, half.height()}, 14}, Case{available * 2, {}, 14}}) {
         UseDesktopFont(pages, each.minimum, each.bars);
         EXPECT_EQ(pages.fontInfo().pixelSize(), each.pixels) << each.minimum.width();
     }
@@ -183,18 +194,21 @@ TEST(EveryPage, ShowsUncutTextsInEveryFontSize) {
     const QFont before = QApplication::font();
     ForEveryPage([](const QMainWindow &window) {
         for (const int points : {8, 11}) {
-            QApplication::setFont(QFont(u"DejaVu Sans"_s, points));
+            QApplication::setFont(QFont("DejaVu Sans", points));
             QApplication::processEvents();
             for (const QWidget *each : window.centralWidget()->findChildren<QWidget *>()) {
                 const QString text = each->property("text").toString();
                 const int flags = each->property("wordWrap").toBool() ? Qt::TextWordWrap : 0;
-                const QSize needed = each->fontMetrics().boundingRect(each->rect(), flags, text).size();
-                // The font of the largest title is 2 pixels higher than the label, its characters are not.
+                const QSize needed =
+                    each->fontMetrics().boundingRect(each->rect(), flags, text).size();
+                // The font of the largest title is 2 pixels higher than the label, its characters
+                // are not.
                 const QRect area = QRect(QPoint(), each->size()).adjusted(0, 0, 0, 2);
                 EXPECT_TRUE(!each->isVisible() || text.isEmpty() ||
-                            (area.contains(QRect(QPoint(), needed)) && each->fontInfo().pixelSize() >= 11 &&
+                            (area.contains(QRect(QPoint(), needed)) &&
+                             each->fontInfo().pixelSize() >= 11 &&
                              (each->font().stretch() == 0 || each->font().stretch() >= 85)))
-                    << qPrintable(text) << points;
+                    << text << points;
             }
         }
     });
@@ -204,33 +218,39 @@ TEST(EveryPage, ShowsUncutTextsInEveryFontSize) {
 /// Returns the accessible names of the controls in tab order.
 static QString TabOrder(const QWidget &window) {
     QStringList order;
-    for (QWidget *each = window.nextInFocusChain(); each != &window; each = each->nextInFocusChain()) {
-        if (each->isVisible() && each->isEnabled() && !each->focusProxy() && (each->focusPolicy() & Qt::TabFocus)) {
+    for (QWidget *each = window.nextInFocusChain(); each != &window;
+         each = each->nextInFocusChain()) {
+        if (each->isVisible() && each->isEnabled() && !each->focusProxy() &&
+            (each->focusPolicy() & Qt::TabFocus)) {
             const QAccessibleInterface *item = QAccessible::queryAccessibleInterface(each);
             // The accessible name of a combo box is its current row; its label describes it.
-            if (item->role() == QAccessible::ComboBox) { item = item->relations(QAccessible::Label).value(0).first; }
+            if (item->role() == QAccessible::ComboBox) {
+                item = item->relations(QAccessible::Label).value(0).first;
+            }
             order.append(item->text(QAccessible::Name));
-            EXPECT_NE(item->text(QAccessible::Description), order.last()) << "the description repeats the name";
+            EXPECT_NE(item->text(QAccessible::Description), order.last())
+                << "the description repeats the name";
         }
     }
-    return order.join(u", "_s);
+    return order.join(", ");
 }
 
 TEST(EveryPage, NamesItsControlsInTabOrder) {
     QStringList orders;
     ForEveryPage([&orders](const QWidget &window) { orders.append(TabOrder(window)); });
     // A page is created when it is first shown: its controls come last in the focus chain.
-    EXPECT_EQ(orders.join(u'\n'), u"Demo Datenbank, Neue Datenbank, Handbuch\n"
-                                  "Demo Datenbank, Neue Datenbank, Handbuch, "
-                                  "Name:, Name, zweite Zeile, Strasse:, Plz, Ort, Telefon:, Weiter\n"
-                                  "Demo Datenbank, Neue Datenbank, Handbuch, "
-                                  "Kontorahmen, Kontobezeichnung:, Konto:, Eröffnungsbestand:, Währung, "
-                                  "Datum des Eröffnungsbestandes:, Zurück, Übernehmen\n"
-                                  "Datum, Einnahme, Ausgabe, Steuer, Art der Einnahme, Beleg-Nr., Notiz, "
-                                  "Eintragen, Buchungen, Jahr/Monat, Monat, Kasse, Neu, Drucken, Einstellungen\n"
-                                  "Neu, Drucken, Kassenbuch, "
-                                  "Firma:, Zusatz:, Vorname:, Nachname:, Strasse:, Plz, Ort, Telefon:, "
-                                  "Fax:, E-Mail:, Homepage:, Ust. Nr.:, Kassen, Buchungskonten, "
-                                  "Kasse hinzufügen, Kasse entfernen, Buchungskonto hinzufügen, "
-                                  "Buchungskonto entfernen"_s);
+    EXPECT_EQ(orders.join(u'\n'),
+              "Demo Datenbank, Neue Datenbank, Handbuch\n"
+              "Demo Datenbank, Neue Datenbank, Handbuch, "
+              "Name:, Name, zweite Zeile, Strasse:, Plz, Ort, Telefon:, Weiter\n"
+              "Demo Datenbank, Neue Datenbank, Handbuch, "
+              "Kontorahmen, Kontobezeichnung:, Konto:, Eröffnungsbestand:, Währung, "
+              "Datum des Eröffnungsbestandes:, Zurück, Übernehmen\n"
+              "Datum, Einnahme, Ausgabe, Steuer, Art der Einnahme, Beleg-Nr., Notiz, "
+              "Eintragen, Buchungen, Jahr/Monat, Monat, Kasse, Neu, Drucken, Einstellungen\n"
+              "Neu, Drucken, Kassenbuch, "
+              "Firma:, Zusatz:, Vorname:, Nachname:, Strasse:, Plz, Ort, Telefon:, "
+              "Fax:, E-Mail:, Homepage:, Ust. Nr.:, Kassen, Buchungskonten, "
+              "Kasse hinzufügen, Kasse entfernen, Buchungskonto hinzufügen, "
+              "Buchungskonto entfernen");
 }

@@ -8,7 +8,7 @@
 #include <QLabel>
 
 static QFont DesignFont(int scale) {
-    QFont font(u"DejaVu Sans"_s);
+    QFont font("DejaVu Sans");
     font.setPointSize(11 * scale); // The largest size that is not scaled.
     return font;
 }
@@ -21,10 +21,10 @@ protected:
         QCoreApplication::processEvents();
     }
 
-    Label caption{u"Caption"_s, u"kurz"_s};
+    Label caption{"Caption", "kurz"};
     Form form{{200, 100}, nullptr};
     QWidget &label = *form.Add(CreateLabel(caption, &form), {10, 10, 60, 20}, LTR);
-    QLabel &title = *form.AddText(u"Title"_s, u"T"_s, {10, 50, 60, 40}, Qt::AlignLeft, 20);
+    QLabel &title = *form.AddText("Title", "T", {10, 50, 60, 40}, Qt::AlignLeft, 20);
 };
 
 TEST_F(FormTest, MovesAndStretchesLockedWidgetsWhenItIsResized) {
@@ -45,10 +45,10 @@ TEST_F(FormTest, ScalesRectanglesAndFontSizesWithItsFont) {
 
 TEST_F(FormTest, FitsATextThatChangesToItsRectangle) {
     const QFont font = label.font();
-    caption.SetText(u"zu lang für 60"_s);
+    caption.SetText("zu lang für 60");
     QCoreApplication::processEvents();
     EXPECT_LE(label.fontMetrics().horizontalAdvance(caption.Text()), 60);
-    caption.SetText(u"kurz"_s);
+    caption.SetText("kurz");
     QCoreApplication::processEvents();
     EXPECT_EQ(label.font(), font);
 }

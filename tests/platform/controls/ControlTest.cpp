@@ -3,12 +3,12 @@
 #include "support/GoogleTest.h"
 
 TEST(Control, EmitsSignalsOnlyForChanges) {
-    TextField field(u"Field"_s, u"a"_s);
+    TextField field("Field", "a");
     EventLog log(field);
-    field.SetText(u"a"_s);
+    field.SetText("a");
     field.SetVisible(true);
     field.SetHint({});
     EXPECT_EQ(log.Take(), QString());
-    field.SetText(u"b"_s);
-    EXPECT_EQ(log.Take(), u"Updated TextChange"_s);
+    field.SetText("b");
+    EXPECT_EQ(log.Take(), "Updated TextChange");
 }

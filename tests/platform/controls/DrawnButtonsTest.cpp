@@ -9,24 +9,26 @@ static QStringList Drawn(Canvas &button) {
     QStringList drawn;
     DrawingRecorder recorder(drawn);
     Q_EMIT button.Paint(recorder);
-    if (button.Backdrop()) { button.Backdrop()->DrawOn(recorder); }
+    if (button.Backdrop()) {
+        button.Backdrop()->DrawOn(recorder);
+    }
     return drawn;
 }
 
 TEST(TLXPlusMinusButton, DrawsBothSignsAndThePressedHalf) {
-    TLXPlusMinusButton button(u""_s);
-    const QStringList released = {u"cccccc rect 0 0 28 29"_s, u"rect 30 0 29 29"_s, u"333333 line 9 14 19 14"_s,
-                                  u"line 14 9 14 19"_s, u"line 38 14 48 14"_s};
+    TLXPlusMinusButton button("");
+    const QStringList released = {"cccccc rect 0 0 28 29", "rect 30 0 29 29",
+                                  "333333 line 9 14 19 14", "line 14 9 14 19", "line 38 14 48 14"};
     button.SetSize(60, 29);
     EXPECT_EQ(Drawn(button), released);
     Q_EMIT button.MouseDown(28, 5);
-    EXPECT_EQ(Drawn(button).value(0), u"cccccc fill 0 0 29 29"_s);
+    EXPECT_EQ(Drawn(button).value(0), "cccccc fill 0 0 29 29");
     Q_EMIT button.MouseDown(29, 5);
-    EXPECT_EQ(Drawn(button).value(0), u"cccccc fill 29 0 29 29"_s);
+    EXPECT_EQ(Drawn(button).value(0), "cccccc fill 29 0 29 29");
     Q_EMIT button.MouseUp(-1, 5);
     EXPECT_EQ(Drawn(button), released);
     button.SetSize(30, 29); // The width of two squares.
-    EXPECT_EQ(Drawn(button).value(0), u"cccccc rect 0 0 14 15"_s);
+    EXPECT_EQ(Drawn(button).value(0), "cccccc rect 0 0 14 15");
 }
 
 TEST(TLXPlusMinusButton, IsPressedInTheHalfWhereTheMouseIsReleased) {
@@ -34,12 +36,13 @@ TEST(TLXPlusMinusButton, IsPressedInTheHalfWhereTheMouseIsReleased) {
         int x, y;
         QString pressed;
     };
-    const QString plus = u"PlusPressed Updated MouseUp"_s;
-    const QString minus = u"MinusPressed Updated MouseUp"_s;
-    const QString none = u"Updated MouseUp"_s;
-    const Case cases[] = {{0, 0, plus},  {28, 29, plus}, {29, 5, none}, {30, 5, minus}, {58, 29, minus},
-                          {59, 5, none}, {-1, 5, none},  {5, -1, none}, {5, 30, none}};
-    TLXPlusMinusButton button(u""_s);
+    const QString plus = "PlusPressed Updated MouseUp";
+    const QString minus = "MinusPressed Updated MouseUp";
+    const QString none = "Updated MouseUp";
+    const Case cases[] = {{0, 0, plus},   {28, 29, plus},  {29, 5, none},
+                          {30, 5, minus}, {58, 29, minus}, {59, 5, none},
+                          {-1, 5, none},  {5, -1, none},   {5, 30, none}};
+    TLXPlusMinusButton button("");
     button.SetSize(60, 29);
     Drawn(button);
     EventLog log(button);
@@ -48,19 +51,19 @@ TEST(TLXPlusMinusButton, IsPressedInTheHalfWhereTheMouseIsReleased) {
         EXPECT_EQ(log.Take(), each.pressed) << each.x << ' ' << each.y;
     }
     Q_EMIT button.MouseDown(1, 1);
-    EXPECT_EQ(log.Take(), u"Updated MouseDown"_s);
+    EXPECT_EQ(log.Take(), "Updated MouseDown");
 }
 
 TEST(TLXCanvasButton, IsRedrawnWhenThePointerEntersAndLeaves) {
-    TLXCanvasButton button(u""_s);
+    TLXCanvasButton button("");
     button.SetSize(245, 100);
-    const QStringList borders = {u"ffffff line 0 0 245 0"_s, u"cccccc line 0 99 245 99"_s};
+    const QStringList borders = {"ffffff line 0 0 245 0", "cccccc line 0 99 245 99"};
     EventLog log(button);
     Q_EMIT button.Open();
-    EXPECT_EQ(Drawn(button), QStringList(u"f1f1f1 fill 0 1 245 99"_s) + borders);
+    EXPECT_EQ(Drawn(button), QStringList("f1f1f1 fill 0 1 245 99") + borders);
     Q_EMIT button.MouseEnter();
-    EXPECT_EQ(Drawn(button), QStringList(u"e6e6e6 fill 0 1 245 99"_s) + borders);
+    EXPECT_EQ(Drawn(button), QStringList("e6e6e6 fill 0 1 245 99") + borders);
     Q_EMIT button.MouseExit();
-    EXPECT_EQ(Drawn(button), QStringList(u"f1f1f1 fill 0 1 245 99"_s) + borders);
-    EXPECT_EQ(log.Take().count(u"Updated"_s), 3);
+    EXPECT_EQ(Drawn(button), QStringList("f1f1f1 fill 0 1 245 99") + borders);
+    EXPECT_EQ(log.Take().count("Updated"), 3);
 }

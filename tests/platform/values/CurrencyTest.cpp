@@ -25,7 +25,8 @@ TEST(Currency, AddsExactlyAndSaturates) {
     EXPECT_EQ(money(0.1) - money(0.2), money(-0.1));
     EXPECT_EQ(maximum + unit, maximum);
     EXPECT_EQ(maximum - minimum, maximum);
-    EXPECT_EQ(Currency() - minimum, maximum) << "the minimum is one unit further from 0 than the maximum";
+    EXPECT_EQ(Currency() - minimum, maximum)
+        << "the minimum is one unit further from 0 than the maximum";
     EXPECT_EQ(minimum - unit, minimum);
     EXPECT_EQ(minimum + minimum, minimum);
     EXPECT_EQ(minimum + unit + maximum, Currency());
