@@ -1,24 +1,22 @@
 #include "support/TestEnvironment.h"
 
-TEST(App, OpensTheDefaultFileAndChosenUnencryptedFiles) {
+#include <QFile>
+
+TEST(App, OpensOnlyAnExistingFileAndWithoutAKey) {
     TestEnvironment env(TestEnvironment::Storage::File);
     MainWindow window(env.app);
-    const QString name = "SELECT name FROM cash_book";
-    const auto open = [&](const QString &file) {
-        env.desktop.fileToOpen = FolderItem(file);
+    const QString encrypted = env.desktop.Path("data/Brevant/Zolmark.sdb");
+    const QString plain = env.desktop.Path("plain");
+    const auto open = [&](const QString &path) {
+        env.desktop.fileToOpen = FolderItem(path);
         Q_EMIT window.menuBar.FileMenu().Child(u"FileOpen").Action();
-        return env.desktop.TakeMessages();
+        return env.app.kvoDB().DatabaseFile()->Path();
     };
-    EXPECT_EQ(env.app.DefaultDatabaseFile().Path(), env.desktop.Path("data/Brevant/Zolmark.sdb"));
-    EXPECT_FALSE(env.app.DBLoad1()) << "no file was chosen";
-    EXPECT_EQ(open(env.desktop.Path("nowhere")), QString());
-    EXPECT_EQ(env.Value(name), "Kasse");
-    SQLiteDatabase plain;
-    plain.SetDatabaseFile(FolderItem(env.desktop.Path("plain")));
-    ASSERT_TRUE(plain.CreateDatabaseFile());
-    plain.SQLExecute("CREATE TABLE cash_book AS SELECT 'offen' AS name");
-    EXPECT_EQ(open(env.desktop.Path("plain")), QString());
-    EXPECT_EQ(env.Value(name), "offen");
-    EXPECT_EQ(open(env.app.DefaultDatabaseFile().Path()).section(u':', 0, 0),
-              "DB Connection Error");
+    EXPECT_FALSE(env.app.DBLoad1());
+    EXPECT_EQ(open(plain), encrypted);
+    ASSERT_TRUE(QFile(plain).open(QIODevice::WriteOnly));
+    EXPECT_EQ(open(plain), plain);
+    EXPECT_FALSE(env.app.kvoDB().Error());
+    EXPECT_EQ(open(encrypted), encrypted);
+    EXPECT_TRUE(env.desktop.TakeMessages().startsWith("DB Connection Error: "));
 }

@@ -1,99 +1,133 @@
 #include "desktop/QtDesktop.h"
 
-#include "platform/drawing/PrinterGraphics.h"
+#include "desktop/TerminationSignals.h"
+#include "desktop/ZolmarkApplication.h"
+#include "platform/menus/MenuItem.h"
+#include "support/MainWindowTest.h"
 #include "support/ModalWindows.h"
 
 #include <QDir>
-#include <QTemporaryDir>
 
+#include <csignal>
+
+/// Tests with a window that is shown but not active.
 class QtDesktopTest : public testing::Test {
 protected:
     QtDesktopTest() {
+        window.setAttribute(Qt::WA_ShowWithoutActivating);
         window.show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
     QWidget window;
     QtDesktop desktop;
+    const QDir home = QDir::home();
 };
 
-TEST_F(QtDesktopTest, ClosesDialogsWithReturnAndEscape) {
+TEST_F(QtDesktopTest, ShowsPlainMessagesAndTheAboutPanel) {
+    QTimer::singleShot(0, [] {
+        const QWidget &box = *QApplication::activeModalWidget();
+        EXPECT_EQ(box.property("textFormat").toInt(), Qt::PlainText);
+        EXPECT_EQ(box.windowModality(), Qt::WindowModal);
+    });
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
         EXPECT_TRUE(Press(key, [this] { desktop.MsgBox("<b>\r\nfehlt"); }).contains("<b>\nfehlt"));
         EXPECT_TRUE(Press(key, [this] { desktop.ShowAboutPanel(); }).contains("Über Zolmark"));
     }
 }
 
-TEST_F(QtDesktopTest, ShowsTheSaveDialogInGerman) {
-    const SaveAsDialog dialog = {
-        FolderItem(QDir::homePath()), "Speichern als", "export", {"TXT-Datei", ".txt"}, "Text"};
+TEST_F(QtDesktopTest, ShowsFileDialogsInGerman) {
     std::optional<FolderItem> chosen;
-    const auto showDialog = [&] { chosen = desktop.ShowModal(dialog); };
-    const QStringList texts = Press(Qt::Key_Return, showDialog);
-    EXPECT_TRUE(texts.contains("Speichern als") && texts.contains("S&peichern"));
-    EXPECT_TRUE(chosen && chosen->Path() == QDir::home().filePath("export.txt"));
-    Press(Qt::Key_Escape, showDialog);
+    const auto save = [&] {
+        chosen = desktop.ShowModal(
+            {FolderItem(home.path()), "Titel", "export", {"TXT-Datei", ".txt"}, "Text"});
+    };
+    const QStringList texts = Press(Qt::Key_Return, save);
+    for (const QString text : {"Titel", "S&peichern", "Text"}) {
+        EXPECT_TRUE(texts.contains(text)) << text;
+    }
+    EXPECT_EQ(chosen->Path(), home.filePath("export.txt"));
+    Press(Qt::Key_Escape, save);
     EXPECT_FALSE(chosen);
+    Press(Qt::Key_Escape, [this] { EXPECT_FALSE(desktop.GetOpenFolderItem()); });
 }
 
 TEST_F(QtDesktopTest, PrintsToAFileWithoutAPrinter) {
-    const FolderItem file(QDir::home().filePath("Bericht.pdf"));
     Press(Qt::Key_Escape, [this] { EXPECT_FALSE(desktop.OpenPrinterDialog("Bericht", {})); });
     Press(Qt::Key_Return, [this] { EXPECT_TRUE(desktop.OpenPrinterDialog("Bericht", {})); });
-    EXPECT_TRUE(file.Delete());
+    QFile file(home.filePath("Bericht.pdf"));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("\0B\0e\0r\0i\0c\0h\0t"_ba)) << "the title";
+    EXPECT_TRUE(file.remove());
+}
+
+TEST_F(QtDesktopTest, ReturnsTheChosenItemOfAMenu) {
+    MenuItem base;
+    base.Append("Einnahme");
+    base.Append("Ausgabe");
+    const auto chosen = [&](const QString &keys) {
+        QTimer::singleShot(0, [keys] { Type(QApplication::activePopupWidget(), keys); });
+        return desktop.PopUp(base).value_or(-1);
+    };
+    EXPECT_EQ(chosen("{Down}\r"), 0);
+    EXPECT_EQ(chosen("{Up}\r"), 1);
+    EXPECT_EQ(chosen("\x1b"), -1);
 }
 
 TEST_F(QtDesktopTest, IgnoresARelativeDataFolder) {
-    const QByteArray before = qgetenv("XDG_DATA_HOME");
-    EXPECT_EQ(desktop.ApplicationData().Path(), QString::fromUtf8(before));
+    EXPECT_EQ(desktop.ApplicationData().Path(), home.path());
     qputenv("XDG_DATA_HOME", "data");
-    EXPECT_EQ(desktop.ApplicationData().Path(), QDir::home().filePath(".local/share"));
-    qputenv("XDG_DATA_HOME", before);
+    EXPECT_EQ(desktop.ApplicationData().Path(), home.filePath(".local/share"));
+    qputenv("XDG_DATA_HOME", home.path().toUtf8());
 }
 
-/// Tests with their own xdg-open.
-class ViewerTest : public QtDesktopTest {
-protected:
-    ViewerTest() { qputenv("PATH", tools.path().toUtf8()); }
-    ~ViewerTest() override { qputenv("PATH", before); }
-    Q_DISABLE_COPY_MOVE(ViewerTest)
-
-    void Install(const QByteArray &opener) const {
-        QFile file(tools.filePath("xdg-open"));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(opener) == opener.size());
-        ASSERT_TRUE(file.setPermissions(QFile::Permissions(0x7700)));
-    }
-
+TEST_F(QtDesktopTest, OpensFilesByTheViewerOrReportsThem) {
     const QByteArray before = qgetenv("PATH");
-    const QTemporaryDir tools;
-};
-
-TEST_F(ViewerTest, ReportsFilesAndAddressesThatCannotBeOpened) {
-    for (const QByteArray &opener : {""_ba, "\1no program"_ba, "#!/no/such/interpreter\n"_ba}) {
-        if (!opener.isEmpty()) {
-            Install(opener);
-        }
-        const auto open = [this] {
-            desktop.ShowURL("https://zolmark.example/");
-            desktop.Launch(FolderItem(tools.path()));
-            desktop.Launch(FolderItem("/no/manual.pdf")); // No message for a missing file.
-        };
-        const QStringList texts =
-            Press(Qt::Key_Return, open, 2).filter(" kann nicht geöffnet werden");
-        EXPECT_EQ(texts.size(), 2) << opener.data();
-        EXPECT_EQ(texts.filter("https://zolmark.example/").size(), 1) << opener.data();
-        EXPECT_EQ(texts.filter(tools.path()).size(), 1) << opener.data();
-    }
+    qputenv("PATH", home.path().toUtf8());
+    const auto open = [this] {
+        desktop.ShowURL("https://zolmark.example/");
+        desktop.Launch(FolderItem(home.path()));
+        desktop.Launch(FolderItem("/no/manual.pdf")); // No message for a missing file.
+    };
+    const QString failures = Press(Qt::Key_Return, open, 2).join(' ');
+    EXPECT_TRUE(failures.contains("https://zolmark.example/ kann nicht geöffnet werden: "));
+    EXPECT_TRUE(failures.contains(home.path() + " kann nicht geöffnet werden: "));
+    EXPECT_TRUE(QFile::link("/usr/bin/touch", home.filePath("xdg-open")));
+    desktop.ShowURL(home.filePath("opened"));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return home.exists("opened"); }));
+    qputenv("PATH", before);
 }
 
-TEST_F(ViewerTest, StartsTheViewerDetached) {
-    Install("#!/bin/sh\necho $PPID \"$1\" > \"$0.log\"\n");
-    desktop.Launch(FolderItem(tools.path()));
-    QFile log(tools.filePath("xdg-open.log"));
-    ASSERT_TRUE(QTest::qWaitFor([&log] { return log.size() > 0; }));
-    ASSERT_TRUE(log.open(QIODevice::ReadOnly));
-    const QStringList line = QString::fromUtf8(log.readAll()).trimmed().split(u' ');
-    EXPECT_EQ(line.value(1), "file://" + tools.path());
-    EXPECT_NE(line.value(0), QString::number(QCoreApplication::applicationPid()))
-        << "a child process would end with the program";
+TEST_F(QtDesktopTest, ShowsAnExceptionInAMessage) {
+    QTimer::singleShot(0, [] { throw std::runtime_error("Meldung"); });
+    const QStringList texts = Press(Qt::Key_Return, [] { QApplication::processEvents(); });
+    EXPECT_TRUE(texts.contains("Meldung"));
+}
+
+TEST_F(QtDesktopTest, ShowsNothingAfterTheEndOfTheApplication) {
+    auto &application = *static_cast<ZolmarkApplication *>(qApp);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QWidget later;
+    QTimer::singleShot(0, [&] {
+        QTimer::singleShot(0, &application, &ZolmarkApplication::End);
+        application.ShowException(std::runtime_error("shown"));
+        QTimer::singleShot(0, [] { EXPECT_FALSE(QApplication::activeModalWidget()); });
+        application.ShowException(std::runtime_error("not shown"));
+        later.show(); // As the main window after the message of the sample database.
+    });
+    EXPECT_EQ(RunEventLoop(), EXIT_SUCCESS);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_FALSE(later.isVisible());
+    QTimer::singleShot(0, [] { throw std::runtime_error("not shown"); });
+    EXPECT_EQ(RunEventLoop(), EXIT_FAILURE) << "no window is open";
+}
+
+TEST(TerminationSignals, AreRaisedOnceEach) {
+    int raised = 0;
+    const TerminationSignals signals;
+    QObject::connect(&signals, &TerminationSignals::Raised, [&raised] { ++raised; });
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        std::raise(signal);
+        QTest::qWait(1);
+    }
+    EXPECT_EQ(raised, 3);
 }

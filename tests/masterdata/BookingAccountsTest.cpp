@@ -1,81 +1,63 @@
-#include "masterdata/BookingAccounts.h"
-
 #include "support/TestEnvironment.h"
 
-class BookingAccountsTest : public testing::Test {
+class AccountsTest : public EnvironmentTest {
 protected:
-    BookingAccountsTest() {
+    using enum BookingAccounts::Column;
+
+    AccountsTest() {
         env.Run("DELETE FROM cash_accounts");
-        env.Run("INSERT INTO cash_accounts (id, name, account, type, active, taxID) VALUES "
-                "(1, 'ölig', '0815', 'A', '1', 9), (2, 'b', '4711', 'E', '0', 9), (3, 'A', NULL, "
-                "'E', NULL, 9)");
+        env.Run("INSERT INTO cash_accounts (name, account, type, active) VALUES ('ölig', '0815', "
+                "'A', '1'), ('b', '4711', 'E', '0'), ('A', NULL, 'E', NULL)");
         accounts.LoadCashAccounts();
     }
 
-    /// Returns columns of all stored accounts, in the order of their ids.
-    QString Stored(const QString &columns) const {
-        return env.Value(
-            u"SELECT group_concat(ifnull(%1, 'NULL'), ' ') FROM cash_accounts"_s.arg(columns));
+    /// Returns a column of all stored accounts, in the order of their ids.
+    QString Stored(const QString &column) const {
+        return env.Value(u"SELECT group_concat(%1, ' ') FROM cash_accounts"_s.arg(column));
     }
 
-    TestEnvironment env;
-    BookingAccounts accounts{env.app};
+    BookingAccounts &accounts = window.bookingAccounts;
     Listbox &list = accounts.CashaccountList;
-    TLXPlusMinusButton &button = accounts.AccountsAdd;
 };
 
-TEST_F(BookingAccountsTest, ListsByNameAndSortsByTheCheckBox) {
+TEST_F(AccountsTest, AreListedByNameAndSortedByTheCheckBox) {
+    EXPECT_EQ(list.Heading(-1), "Bezeichnung\tKontonummer\tArt\tAktiv");
     EXPECT_EQ(list.Cell(-1, -1), "A\t\tE\t\nb\t4711\tE\t\nölig\t0815\tA\t");
-    list.SetListIndex(2);
-    for (const QString names : {"A\nb\nölig", "ölig\nA\nb"}) {
-        list.PressHeading(BookingAccounts::Active);
-        EXPECT_EQ(list.Cell(-1, BookingAccounts::Name), names);
-        EXPECT_EQ(list.RowTag(list.ListIndex()), "1");
-    }
+    list.PressHeading(Active);
+    EXPECT_EQ(list.Cell(-1, Name), "A\nb\nölig");
+    list.PressHeading(Active);
+    EXPECT_EQ(list.Cell(-1, Name), "ölig\nA\nb");
 }
 
-TEST_F(BookingAccountsTest, SavesTheOpenCellToItsRowBeforeRowsChange) {
-    const std::function<void()> changes[] = {
-        [this] { accounts.LoadCashAccounts(); }, [this] { list.SetListIndex(0); },
-        [this] { list.SetListIndex(-1); },       [this] { list.EditCell(0, 0); },
-        [this] { list.ToggleCheck(0, 3); },      [this] { list.PressHeading(0); }};
-    QString typed;
-    for (const auto &change : changes) {
-        typed += u'7';
-        list.EditCell(list.FindRow("1"), BookingAccounts::Account);
-        list.SetEditText(typed);
-        change();
-        EXPECT_EQ(Stored("account"), typed + " 4711 NULL");
-    }
+TEST_F(AccountsTest, KeepTypedTextAndTheSelectionWhenReloaded) {
+    list.EditCell(2, Account);
+    list.SetEditText("7");
+    accounts.LoadCashAccounts();
+    EXPECT_EQ(list.Cell(2, Account), "7");
+    EXPECT_EQ(list.ListIndex(), 2);
 }
 
-TEST_F(BookingAccountsTest, ChoosesTheTypeFromAMenu) {
-    const auto choose = [this](int row, std::optional<int> choice,
-                               int column = BookingAccounts::Kind) {
-        bool handled = false;
-        env.desktop.menuChoice = choice;
-        Q_EMIT list.MouseDown(row, column, handled);
-        Q_EMIT list.MouseUp(row, column);
-        EXPECT_EQ(handled, column == BookingAccounts::Kind);
-        return Stored("type");
-    };
-    EXPECT_EQ(choose(1, std::nullopt), "A E E");
-    EXPECT_EQ(choose(0, 1), "A E A");
-    EXPECT_EQ(choose(2, 0), "E E A");
-    EXPECT_EQ(choose(-1, 1), "E E A") << "below the rows";
-    EXPECT_EQ(choose(0, 0, BookingAccounts::Account), "E E A");
-    EXPECT_EQ(list.Cell(-1, BookingAccounts::Kind), "A\nE\nE");
+TEST_F(AccountsTest, StoreTheKindChosenFromAMenu) {
+    bool handled = false;
+    Q_EMIT list.MouseDown(0, Kind, handled);
+    EXPECT_TRUE(handled);
+    list.EditCell(0, Account);
+    list.SetEditText("7");
+    Q_EMIT list.MouseUp(0, Kind); // No item is chosen.
+    EXPECT_EQ(Stored("account"), "0815 4711 7");
+    env.desktop.menuChoice = 1;
+    Q_EMIT list.MouseUp(0, Kind);
+    Q_EMIT list.MouseUp(1, Account);
+    Q_EMIT list.MouseUp(-1, Kind); // Below the rows.
+    EXPECT_EQ(Stored("type"), "A E A");
 }
 
-TEST_F(BookingAccountsTest, AddsWithPlusAndRemovesWithMinus) {
-    list.EditCell(0, BookingAccounts::Name);
-    list.SetEditText("Zins");
-    Q_EMIT button.PlusPressed();
+TEST_F(AccountsTest, AreAddedAndRemovedOneByOne) {
+    Q_EMIT accounts.AccountsAdd.PlusPressed();
     EXPECT_EQ(list.Cell(list.EditedRow(), list.EditedColumn()), "Neues Konto");
-    EXPECT_EQ(list.Cell(-1, BookingAccounts::Name), "b\nNeues Konto\nölig\nZins");
-    EXPECT_EQ(Stored("name || type || active"), "öligA1 bE0 NULL Neues KontoE1");
-    list.SetListIndex(3);
-    Q_EMIT button.MinusPressed();
-    Q_EMIT button.MinusPressed(); // No row is selected now.
+    EXPECT_EQ(Stored("name || type || active"), "öligA1 bE0 Neues KontoE1");
+    list.SetListIndex(0);
+    Q_EMIT accounts.AccountsAdd.MinusPressed();
+    Q_EMIT accounts.AccountsAdd.MinusPressed(); // No row is selected now.
     EXPECT_EQ(Stored("name"), "ölig b Neues Konto");
 }

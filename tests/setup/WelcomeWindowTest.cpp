@@ -12,20 +12,22 @@ class WelcomeWindowTest : public testing::Test {
 protected:
     WelcomeWindowTest() { welcome.Event_Open(); }
 
-    QString Read(const QString &sql) const { return ReadWithShell(app, sql); }
-    QString Files() const {
-        return QDir(databaseFile.Parent().Path()).entryList(QDir::Files | QDir::Hidden).join(u' ');
-    }
     /// Returns the signals and messages since the last call.
     QString TakeEvents() { return log.Take() + desktop.TakeMessages(); }
+    QString Create(const QString &company) {
+        welcome.CompanyField.SetText(company);
+        welcome.SaveButton.Press();
+        return TakeEvents();
+    }
+    QString Files() const { return QDir(folder.Path()).entryList(QDir::Files).join(' '); }
 
     FakeDesktop desktop;
     App app{desktop, UserLocale(QLocale::c())};
     WelcomeWindow welcome{app};
     EventLog log{welcome};
-    const FolderItem databaseFile = app.DefaultDatabaseFile();
+    const FolderItem file = app.DefaultDatabaseFile();
+    const FolderItem folder = file.Parent();
     const QString success = "MainWindowRequested Closed";
-    const QString failure = "Die Datenbank konnte nicht erstellt werden: ";
 };
 
 TEST_F(WelcomeWindowTest, ShowsAPictureOnEachButton) {
@@ -45,104 +47,75 @@ TEST_F(WelcomeWindowTest, CreatesTheSampleDatabaseInMemory) {
     EXPECT_TRUE(TakeEvents().startsWith(success + "In der Demo werden "));
     MainWindow window(app);
     window.Event_Open();
-    const Listbox &bookings = window.journal.CashList;
-    EXPECT_EQ(bookings.Cell(-1, Journal::DateColumn),
-              "07.01.2031\n12.01.2031\n14.01.2031\n14.01.2031\n15.01.2031");
-    EXPECT_EQ(bookings.Cell(-1, Journal::Balance), "238,89\n234,39\n167,94\n180,84\n280,84");
-    EXPECT_FALSE(desktop.ApplicationData().Exists());
+    window.MenuAction("preferences");
+    EXPECT_EQ(window.bookingAccounts.CashaccountList.ListCount(), 31);
+    EXPECT_EQ(window.selectors.YearPopup.Text(), "2031");
+    EXPECT_EQ(window.balances.LastAmountLabel.Text(), "280,84");
+    EXPECT_FALSE(folder.Exists());
 }
 
-TEST_F(WelcomeWindowTest, CreatesADatabaseWithTheSelectedChart) {
-    struct Case {
-        int row;
-        QString account, chart, accounts;
-    };
-    const Case cases[] = {{0, "1000", "Leeren Kontorahmen verwenden", "0|"},
-                          {1, "1000", "SKR-03", "31|1"},
-                          {2, "1600", "SKR-04", "31|2"}};
-    welcome.CompanyField.SetText("Müller & Söhne \"Holz\"");
+TEST_F(WelcomeWindowTest, StoresTheEnteredDataAndTheSelectedChart) {
     welcome.DepartmendField.SetText("Werkstatt");
-    welcome.OpeningBalanceField.SetText("12,5");
-    for (const Case &each : cases) {
-        welcome.AccountsPopup.SetListIndex(each.row);
-        welcome.SaveButton.Press();
-        EXPECT_EQ(TakeEvents(), success);
-        EXPECT_EQ(Read("SELECT company, department, lastname, street FROM core_company"),
-                  "Müller & Söhne \"Holz\"||Werkstatt|");
-        EXPECT_EQ(Read("SELECT cb.*, account_frame FROM cash_book cb, core_company"),
-                  u"1|Kasse|%1|12.5|2026-01-01||%2"_s.arg(each.account, each.chart));
-        EXPECT_EQ(Read("SELECT count(*), max(frameID) FROM cash_accounts"), each.accounts);
-        app.NewDatabase();
-        EXPECT_TRUE(databaseFile.Delete());
-    }
+    welcome.StreetField.SetText("Am Markt 1");
+    welcome.ZipField.SetText("50667");
+    welcome.CityField.SetText("Köln");
+    welcome.PhoneField.SetText("0221");
+    welcome.OpeningBalanceField.SetText("12,000");
+    EXPECT_EQ(welcome.OpeningBalanceField.Hint(), "wird als 12,00 gelesen");
+    welcome.AccountsPopup.SetListIndex(1);
+    EXPECT_EQ(welcome.AccountsPopup.Text(), "SKR-03");
+    EXPECT_EQ(welcome.AccountField.Text(), "1000");
+    welcome.AccountsPopup.SetListIndex(2);
+    EXPECT_EQ(welcome.CurrencyPopup.Text(), "EUR");
+    EXPECT_EQ(Create("\"Holz\""), success);
+    EXPECT_FALSE(app.kvoDB().Error());
+    EXPECT_EQ(ReadWithShell(app, "SELECT * FROM cash_book"), "1|Kasse|1600|12.0|2026-01-01|");
+    EXPECT_EQ(ReadWithShell(app, "SELECT * FROM core_company"),
+              "1|\"Holz\"|||Werkstatt|Am Markt 1|50667|Köln|||0221||||||||SKR-04|||");
+    EXPECT_EQ(ReadWithShell(app, "SELECT frameID, count(*) FROM cash_accounts"), "2|31");
 }
 
-TEST_F(WelcomeWindowTest, KeepsThePageUntilTheInputIsComplete) {
-    EventLog nameLog(welcome.CompanyField);
-    Q_EMIT welcome.NewCanvas.MouseDown(1, 1);
-    EXPECT_EQ(nameLog.Take(), "FocusRequested");
-    welcome.ForwardButton.Press();
-    EXPECT_EQ(TakeEvents(), "Bitte geben Sie einen Firmannamen an");
-    welcome.CompanyField.SetText(" ");
-    welcome.ForwardButton.Press();
+TEST_F(WelcomeWindowTest, RequiresACompleteCashBook) {
     for (TextField *field :
          {&welcome.AccountNameField, &welcome.AccountField, &welcome.OpeningBalanceField}) {
         const QString text = field->Text();
         field->SetText("");
-        welcome.SaveButton.Press();
-        EXPECT_EQ(
-            TakeEvents(),
-            "Bitte füllen Sie alle Felder aus: \r\r- Kassenbezeichnung\r- Konto\r- Anfangsbestand");
+        EXPECT_TRUE(Create("Muster").startsWith("Bitte füllen Sie alle Felder aus: "));
         field->SetText(text);
     }
     EXPECT_FALSE(welcome.OpeningDate.SetTyped("31.02."));
     EventLog dateLog(welcome.OpeningDate);
-    welcome.SaveButton.Press();
-    EXPECT_EQ(TakeEvents() + dateLog.Take(), "Bitte das Datum prüfen!FocusRequested");
-    EXPECT_EQ(welcome.PagePanel1.Value(), 2);
-    EXPECT_FALSE(databaseFile.Parent().Exists());
-}
-
-TEST_F(WelcomeWindowTest, DoesNotReplaceAnExistingFileOrLink) {
-    const FolderItem elsewhere(desktop.Path("elsewhere"));
-    ASSERT_TRUE(databaseFile.Parent().CreateAsFolder() &&
-                QFile::link(elsewhere.Path(), databaseFile.Path()));
-    welcome.CreateDatabase();
-    EXPECT_TRUE(TakeEvents().startsWith(failure + databaseFile.Path())) << "a dangling link";
-    EXPECT_TRUE(!elsewhere.Exists() && databaseFile.Delete());
-    welcome.CompanyField.SetText("Muster");
-    welcome.SaveButton.Press();
-    EXPECT_EQ(TakeEvents(), success);
-    welcome.CompanyField.SetText("Andere");
-    welcome.CreateDatabase();
-    EXPECT_TRUE(TakeEvents().startsWith(failure + databaseFile.Path()));
-    EXPECT_EQ(Read("SELECT company FROM core_company") + Files(), "MusterZolmark.sdb");
+    EXPECT_EQ(Create("Muster"), "Bitte das Datum prüfen!");
+    EXPECT_EQ(dateLog.Take(), "FocusRequested");
 }
 
 TEST_F(WelcomeWindowTest, RemovesTheFilesOfFailedAttempts) {
-    QFile leftover(databaseFile.Parent().Child("Zolmark.neu-1-journal").Path());
-    ASSERT_TRUE(databaseFile.Parent().CreateAsFolder() && leftover.open(QIODevice::WriteOnly));
-    welcome.CompanyField.SetText("O'Neill");
-    welcome.SaveButton.Press();
-    EXPECT_EQ(TakeEvents(), "Error: near \"Neill\": syntax error");
-    EXPECT_EQ(Files(), QString());
-    welcome.CompanyField.SetText("Muster");
-    welcome.SaveButton.Press();
-    leftover.close();
-    ASSERT_TRUE(leftover.open(QIODevice::WriteOnly));
-    EXPECT_EQ(TakeEvents(), success);
+    const QString leftover = folder.Child("Zolmark.neu-1-journal").Path();
+    ASSERT_TRUE(folder.CreateAsFolder());
+    ASSERT_TRUE(QFile(leftover).open(QIODevice::WriteOnly));
+    EXPECT_EQ(Create("O'Neill"), "Error: near \"Neill\": syntax error");
+    EXPECT_EQ(Files(), "");
+    EXPECT_FALSE(app.kvoDB().DatabaseFile());
+    EXPECT_EQ(Create("Muster"), success);
+    ASSERT_TRUE(QFile(leftover).open(QIODevice::WriteOnly));
     welcome.Event_Open();
     EXPECT_EQ(TakeEvents(), "Closed MainWindowRequested");
     EXPECT_EQ(Files(), "Zolmark.sdb");
 }
 
-TEST_F(WelcomeWindowTest, SetsPrivatePermissionsWhateverTheUmask) {
+TEST_F(WelcomeWindowTest, ReportsAFolderThatCannotBeCreated) {
+    ASSERT_TRUE(QFile(desktop.Path("data")).open(QIODevice::WriteOnly));
+    EXPECT_EQ(Create("Muster"),
+              "Die Datenbank konnte nicht erstellt werden: unable to open database file");
+}
+
+TEST_F(WelcomeWindowTest, CreatesAPrivateFileAndDoesNotReplaceIt) {
     const auto before = umask(0277);
-    welcome.CreateDatabase();
+    EXPECT_EQ(Create("Muster"), success);
     umask(before);
-    EXPECT_EQ(TakeEvents(), success);
-    EXPECT_EQ(QFileInfo(databaseFile.Path()).permissions(), QFile::Permissions(0x6600));
-    for (const FolderItem &folder : {databaseFile.Parent(), databaseFile.Parent().Parent()}) {
-        EXPECT_EQ(QFileInfo(folder.Path()).permissions(), QFile::Permissions(0x7700));
-    }
+    EXPECT_EQ(QFileInfo(file.Path()).permissions(), QFile::Permissions(0x6600));
+    EXPECT_EQ(QFileInfo(folder.Path()).permissions(), QFile::Permissions(0x7700));
+    EXPECT_TRUE(Create("Andere").contains(file.Path()));
+    EXPECT_EQ(ReadWithShell(app, "SELECT company FROM core_company"), "Muster");
+    EXPECT_EQ(Files(), "Zolmark.sdb");
 }

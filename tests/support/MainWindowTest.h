@@ -3,9 +3,13 @@
 #include "desktop/windows/MainWindowView.h"
 #include "support/TestEnvironment.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QRegularExpression>
+#include <QTableView>
 #include <QTest>
-#include <QtWidgets> // The tests use many Qt classes.
 
 /// Presses the keys of a text: \t, \r and \x1b are Tab, Return and Escape, a name in braces is any
 /// key, as in

@@ -7,7 +7,7 @@
 /// A booking to insert, with amount and date as the database stores them. The texts must not
 /// contain apostrophes.
 struct Booking {
-    QString date, type, amount;
+    QString date = "2026-01-02", type = "E", amount = "1";
     QString tax = "3";
     QString category = "Erlöse 19% USt";
     QString cashbook = "1";

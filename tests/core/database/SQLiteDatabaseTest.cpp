@@ -1,104 +1,94 @@
+#include "core/database/DeriveKey.h"
 #include "core/database/Transaction.h"
 #include "support/TestEnvironment.h"
 
-#include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 
 #include <sys/stat.h>
 
-using namespace std::chrono_literals;
-
-static QByteArray Bytes(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : "unreadable";
-}
-
-TEST(SQLiteDatabase, SetsThePragmasAndEncryptsTheFile) {
-    struct Case {
-        QString pragma, value;
-    };
-    const Case cases[] = {{"cipher_page_size", "1024"}, {"kdf_iter", "64000"},
-                          {"journal_mode", "delete"},   {"synchronous", "2"},
-                          {"temp_store", "2"},          {"cache_size", "-65536"}};
-    const TestEnvironment env(TestEnvironment::Storage::File);
-    for (const Case &each : cases) {
-        EXPECT_EQ(env.Value("PRAGMA " + each.pragma), each.value) << each.pragma;
+/// An encrypted file that another connection uses too, as another program does.
+class FileTest : public testing::Test {
+protected:
+    FileTest() {
+        App::UseFile(other, file);
+        other.SetLockTimeout(std::chrono::milliseconds(100));
+        EXPECT_TRUE(other.Connect());
     }
-    const QByteArray bytes = Bytes(env.app.DefaultDatabaseFile().Path());
-    EXPECT_FALSE(bytes.contains("SQLite format") || bytes.contains("Kasse"));
-}
 
-TEST(SQLiteDatabase, LeavesUnreadableFilesUnchanged) {
-    struct Case {
-        QByteArray content, key;
-        bool opens;
-    };
-    const TestEnvironment env(TestEnvironment::Storage::File);
-    const QByteArray encrypted = Bytes(env.app.DefaultDatabaseFile().Path());
-    const QByteArray text = QByteArray("Kein Kassenbuch. ").repeated(200);
-    const Case cases[] = {{encrypted, fixedKey, true}, {"", fixedKey, true},
-                          {text, fixedKey, false},     {text, "", false},
-                          {encrypted, "rk", false},    {encrypted, "", false}};
-    const QDir folder(env.desktop.Path("files"));
-    ASSERT_TRUE(folder.mkpath("."));
-    const QString path = folder.filePath("Zolmark.sdb");
-    SQLiteDatabase database;
-    database.SetDatabaseFile(FolderItem(path));
-    EXPECT_FALSE(database.Connect()) << "the file does not exist";
-    for (const Case &each : cases) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(each.content) >= 0);
-        file.close();
-        database.SetEncryptionKey(each.key);
-        EXPECT_EQ(database.Connect(), each.opens) << each.content.left(9).data();
-        EXPECT_EQ(database.ErrorMessage().isEmpty(), each.opens);
-        EXPECT_EQ(Bytes(path), each.content);
-        EXPECT_EQ(folder.entryList(QDir::Files).size(), 1);
+    /// Writes with the other connection and returns the error message.
+    QString Write() {
+        other.SQLExecute("DELETE FROM cash_book");
+        return other.ErrorMessage();
     }
+
+    TestEnvironment env{TestEnvironment::Storage::File};
+    const FolderItem file = env.app.DefaultDatabaseFile();
+    SQLiteDatabase other;
+};
+
+TEST_F(FileTest, IsEncryptedWithARandomSalt) {
+    QFile bytes(file.Path());
+    ASSERT_TRUE(bytes.open(QIODevice::ReadOnly));
+    EXPECT_NE(bytes.read(16), QByteArray(16, '\0'));
+    EXPECT_EQ(DeriveKey(fixedKey, file.Path()).size(), 99); // x'...' with 96 digits
+    EXPECT_EQ(env.Value("PRAGMA temp_store"), "2") << "temporary files are not encrypted";
+    other.SetEncryptionKey("rk");
+    EXPECT_FALSE(other.Connect());
 }
 
-TEST(SQLiteDatabase, RejectsAPipeWithoutWaiting) {
+TEST_F(FileTest, IsWaitedForOnceWhileItIsLocked) {
+    env.Run("BEGIN EXCLUSIVE");
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_EQ(Write(), "database is locked");
+    EXPECT_GE(timer.elapsed(), 100);
+    for (int i = 0; i < 50; ++i) {
+        Write();
+    }
+    EXPECT_LT(timer.elapsed(), 2500) << "only the first statement waits";
+    env.app.NewDatabase(); // Closes the connection with the lock.
+    EXPECT_EQ(Write(), "");
+}
+
+TEST_F(FileTest, IsUnlockedByQueriesThatEndEarly) {
+    SQLiteDatabase &database = env.app.kvoDB();
+    const QString query = "SELECT * FROM cash_tax";
+    EXPECT_FALSE(database.SQLSelect(query)->AtEnd());
+    EXPECT_EQ(Write(), "");
+    auto executed = database.Prepare(query);
+    executed.SQLExecute();
+    EXPECT_EQ(Write(), "");
+    const auto updated = database.SQLSelect(query);
+    updated->Field("name"_L1).SetStringValue("neu");
+    updated->Update();
+    EXPECT_EQ(Write(), "");
+}
+
+TEST(SQLiteDatabase, FailsWhileItIsNotOpen) {
     const FakeDesktop desktop;
-    const FolderItem pipe(desktop.Path("Zolmark.sdb"));
+    const FolderItem pipe(desktop.Path("pipe"));
     ASSERT_EQ(mkfifo(qUtf8Printable(pipe.Path()), 0600), 0);
     SQLiteDatabase database;
-    App::UseFile(database, pipe);
+    EXPECT_EQ(database.ErrorMessage(), "Es ist keine Datenbank geöffnet.");
+    database.SQLExecute("SELECT 1");
+    EXPECT_FALSE(database.SQLSelect("SELECT 1"));
+    EXPECT_EQ(database.LastRowID(), 0);
+    EXPECT_TRUE(database.Error());
+    database.SetDatabaseFile(pipe);
     EXPECT_FALSE(database.Connect());
     EXPECT_EQ(database.ErrorMessage(), "unable to open database file");
 }
 
 TEST(Transaction, RollsBackUnlessCommitted) {
     const TestEnvironment env;
-    const QString count = "SELECT count(*) FROM cash_tax WHERE name = 'neu'";
-    const QString insert = "INSERT INTO cash_tax (name) VALUES ('neu')";
     {
         const Transaction rolledBack(env.app.kvoDB());
-        env.Run(insert);
+        env.Run("UPDATE cash_book SET id = 2");
     }
-    EXPECT_EQ(env.Value(count), "0");
-    {
-        Transaction committed(env.app.kvoDB());
-        env.Run(insert);
-        EXPECT_TRUE(committed.Commit());
-        EXPECT_FALSE(committed.Commit()) << "the transaction has ended";
-    }
-    EXPECT_EQ(env.Value(count), "1");
-}
-
-TEST(SQLiteDatabase, WaitsOnceForALockedFile) {
-    const TestEnvironment env(TestEnvironment::Storage::File);
-    SQLiteDatabase other;
-    App::UseFile(other, env.app.DefaultDatabaseFile());
-    other.SetLockTimeout(100ms);
-    ASSERT_TRUE(other.Connect());
-    env.Run("BEGIN EXCLUSIVE");
-    QElapsedTimer timer;
-    timer.start();
-    other.SQLExecute("DELETE FROM cash_book");
-    EXPECT_GE(timer.elapsed(), 100);
-    for (int i = 0; i < 50; ++i) {
-        other.SQLExecute("DELETE FROM cash_book");
-        EXPECT_EQ(other.ErrorMessage(), "database is locked");
-    }
-    EXPECT_LT(timer.elapsed(), 2500) << "only the first statement waits";
+    Transaction committed(env.app.kvoDB());
+    env.Run("UPDATE cash_book SET id = id + 2");
+    EXPECT_TRUE(committed.Commit());
+    EXPECT_EQ(env.Value("SELECT id FROM cash_book"), "3");
+    EXPECT_FALSE(committed.Commit());
 }

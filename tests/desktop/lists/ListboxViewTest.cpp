@@ -1,82 +1,96 @@
 #include "support/MainWindowTest.h"
 
+#include <QBitmap>
+#include <QHeaderView>
+#include <QToolTip>
+
 class ListboxViewTest : public MainWindowTest {
 protected:
-    static QImage CellImage(QTableView &list, int row, int column) {
-        return list.viewport()->grab(list.visualRect(list.model()->index(row, column))).toImage();
+    /// Opens the preferences with three accounts; the first is active.
+    QTableView &OpenAccounts() {
+        env.Run("DELETE FROM cash_accounts WHERE id > 3");
+        env.Run("UPDATE cash_accounts SET active = id = 1");
+        Open();
+        window.MenuAction("preferences");
+        return Find<QTableView>("CashaccountList");
     }
-    /// Returns the accessible description and the width of each column.
-    static QStringList Columns(QTableView &list) {
-        auto &table = *QAccessible::queryAccessibleInterface(&list)->tableInterface();
-        QStringList columns;
-        for (int column = 0; column < table.columnCount(); ++column) {
-            columns.append(
-                u"%1 %2"_s.arg(table.columnDescription(column)).arg(list.columnWidth(column)));
-        }
-        return columns;
+    static QPixmap Cell(const QTableView &list, int row, int column) {
+        return list.viewport()->grab(list.visualRect(list.model()->index(row, column)));
     }
     /// Returns the bounding rectangle of the pixels that differ from the background of a cell.
-    static QRect DrawnArea(const QImage &cell) {
-        return QRegion(QPixmap::fromImage(cell).createMaskFromColor(cell.pixelColor(0, 0)))
-            .boundingRect();
+    static QRect Drawn(const QPixmap &cell) {
+        return QRegion(cell.createMaskFromColor(cell.toImage().pixel(0, 0))).boundingRect();
     }
+
+    QTableView &list = Find<QTableView>("CashList");
+    Listbox &accounts = window.bookingAccounts.CashaccountList;
 };
 
-TEST_F(ListboxViewTest, ShowsTheJournalInColumnsAndAlternatingColours) {
-    env.Add({.date = "2026-01-02",
-             .type = "E",
-             .amount = "7",
-             .category = "Erlöse <19%> und noch einiges mehr"});
-    env.Add({"2026-01-03", "A", "4"});
+TEST_F(ListboxViewTest, PaintsStripesAFrameAndTheSelectedRow) {
+    env.Add({});
+    env.Add({});
     Open();
-    view.resize(view.size() + QSize(1080, 770) - view.centralWidget()->size());
-    QApplication::processEvents();
-    auto &list = Find<QTableView>("CashList");
-    EXPECT_EQ(Columns(list),
-              QStringList({"Belegdatum 115", "Einnahmen 70", "Ausgaben 72", "Steuer 90",
-                           "Buchungstext 185", "Bel.Nr. 70", "Notiz 160", "Bestand 276"}));
-    EXPECT_FALSE(list.horizontalHeader()->isVisible());
-    const QImage rows = list.viewport()->grab().toImage();
-    for (int row = 0; row < 5; ++row) {
-        EXPECT_EQ(rows.pixel(2, 18 * row + 2), row % 2 == 0 ? 0xffffffff : 0xffd2edf5);
-    }
-    for (const int column : {0, 3, 4}) {
-        EXPECT_LT(DrawnArea(CellImage(list, 0, column)).left(), 8) << column;
-    }
-    for (const int column : {2, 7}) {
-        EXPECT_GT(DrawnArea(CellImage(list, 1, column)).right(), list.columnWidth(column) - 8)
-            << column;
-    }
-    EXPECT_GT(DrawnArea(CellImage(list, 0, Journal::Input)).right(), 62);
-    EXPECT_EQ(list.grab().toImage().pixel(0, 99), 0xff6e6e6e) << "the colour of the frame";
-    for (const int column : {7, 4}) { // Only the account is too long for its cell.
-        QHelpEvent help(QEvent::ToolTip, Centre(list, 0, column), QCursor::pos());
-        QApplication::sendEvent(list.viewport(), &help);
-        EXPECT_EQ(QToolTip::text(),
-                  column == 4 ? "<p>Erlöse &lt;19%&gt; und noch einiges mehr</p>" : QString());
-    }
     Click(list, 1, 4);
-    EXPECT_EQ(CellImage(list, 1, 6).pixel(5, 5), 0xff1f6aa5) << "the selected row";
+    Type("{Shift+Up}");
+    const QImage image = list.grab().toImage();
+    EXPECT_EQ(image.pixel(0, 99), 0xff6e6e6e) << "the frame";
+    EXPECT_EQ(image.pixel(115, 18), 0xff1f6aa5) << "the selected row";
+    for (int row = 1; row < 5; ++row) {
+        EXPECT_EQ(image.pixel(115, 18 * row + 18), row % 2 == 0 ? 0xffffffff : 0xffd2edf5);
+    }
+    Click(list.viewport(), {9, 99});
+    EXPECT_EQ(bookings.ListIndex(), -1) << "a click below the rows selects none";
 }
 
-TEST_F(ListboxViewTest, CentresTheCheckMarkOfActiveAccounts) {
-    env.Run("UPDATE cash_accounts SET active = 0 WHERE id > 1");
+TEST_F(ListboxViewTest, ShowsTextsInOneLineOrAsToolTips) {
+    env.Add({.category = "Erlöse <19%> und noch einiges mehr", .note = "a\nb\tc\bd"});
+    env.Add({});
+    env.Add({.note = "a b c d"});
     Open();
-    window.MenuAction("preferences");
-    QApplication::processEvents();
-    auto &list = Find<QTableView>("CashaccountList");
-    EXPECT_EQ(Columns(list).mid(1), QStringList({"Kontonummer 100", "Art 50", "Aktiv 50"}));
-    EXPECT_EQ(Columns(Find<QTableView>("CashbookList")).mid(0, 2),
-              QStringList({"Kassen 110", "Konto 42"}));
-    const int row = window.bookingAccounts.CashaccountList.FindRow("1");
-    list.scrollTo(list.model()->index(row, 0));
-    const QImage box = CellImage(list, row, BookingAccounts::Active);
-    EXPECT_NEAR(2 * DrawnArea(box).center().x(), box.width(), 4);
-    const QImage other = CellImage(list, row > 1 ? row - 2 : row + 2,
-                                   BookingAccounts::Active); // With the same background colour.
-    const auto brightness = [](const QImage &cell) {
-        return qGray(
-            cell.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixel(0, 0));
+    EXPECT_EQ(Cell(list, 0, Journal::Note).toImage(), Cell(list, 2, Journal::Note).toImage());
+    QHelpEvent help(QEvent::ToolTip, Centre(list, 0, Journal::Category), {});
+    QApplication::sendEvent(list.viewport(), &help);
+    EXPECT_EQ(QToolTip::text(), "<p>Erlöse &lt;19%&gt; und noch einiges mehr</p>");
+}
+
+TEST_F(ListboxViewTest, LaysOutItsColumns) {
+    env.Add({});
+    env.Add({.type = "A"});
+    view.resize(1200, 900);
+    Open();
+    EXPECT_GT(Drawn(Cell(list, 0, Journal::Input)).right(), 62);
+    EXPECT_GT(Drawn(Cell(list, 1, Journal::Output)).right(), 64);
+    EXPECT_EQ(list.horizontalHeader()->length(), list.viewport()->width());
+    view.centralWidget()->setFont(QFont("DejaVu Sans", 22)); // 11 is the largest of the design.
+    EXPECT_EQ(list.rowHeight(0), 36);
+    EXPECT_EQ(list.columnWidth(0), 230);
+}
+
+TEST_F(ListboxViewTest, CentresTheDarkMarkOfAnActiveAccount) {
+    const QTableView &table = OpenAccounts();
+    const auto active = Cell(table, 0, BookingAccounts::Active);
+    EXPECT_NEAR(Drawn(active).center().x(), active.rect().center().x(), 2);
+    const auto brightness = [](const QPixmap &cell) {
+        return qGray(cell.scaled(1, 1, {}, Qt::SmoothTransformation).toImage().pixel(0, 0));
     };
-    EXPECT_LT(brightness(box), brightness(other)) << "the mark is dark";
+    EXPECT_LT(brightness(active), brightness(Cell(table, 2, BookingAccounts::Active)));
+}
+
+TEST_F(ListboxViewTest, KeepsTheSelectedRowAndOpensItsMenuBelow) {
+    QTableView &table = OpenAccounts();
+    table.setFocus();
+    Type("{Shift+F10}");
+    EXPECT_FALSE(QApplication::activePopupWidget()) << "no row is selected";
+    Type("{Home}");
+    accounts.PressHeading(BookingAccounts::Name);
+    Type("{Up}");
+    EXPECT_EQ(accounts.ListIndex(), 1) << "above the last row";
+    window.bookingAccounts.LoadCashAccounts();
+    Type("{Down}");
+    EXPECT_EQ(accounts.ListIndex(), 2) << "below the second row";
+    Click(table.viewport(), {9, 99});
+    EXPECT_EQ(accounts.ListIndex(), 2) << "a selection is required";
+    Type("{Shift+F10}");
+    const QPoint below = table.visualRect(table.currentIndex()).bottomLeft();
+    EXPECT_EQ(QApplication::activePopupWidget()->pos(), table.viewport()->mapToGlobal(below));
 }

@@ -7,10 +7,9 @@
 #include <QCoreApplication>
 #include <QLabel>
 
+/// 11 points is the largest size that is not scaled.
 static QFont DesignFont(int scale) {
-    QFont font("DejaVu Sans");
-    font.setPointSize(11 * scale); // The largest size that is not scaled.
-    return font;
+    return {"DejaVu Sans", 11 * scale};
 }
 
 class FormTest : public testing::Test {
@@ -41,6 +40,15 @@ TEST_F(FormTest, ScalesRectanglesAndFontSizesWithItsFont) {
     QCoreApplication::processEvents();
     EXPECT_EQ(label.geometry(), QRect(20, 20, 120, 40));
     EXPECT_EQ(title.font().pixelSize(), 40);
+}
+
+TEST_F(FormTest, ScalesAlikeForPointAndPixelSizes) {
+    QFont font("DejaVu Sans", 18);
+    form.setFont(font);
+    const QSize size = form.sizeHint();
+    font.setPixelSize(24); // The same size at 96 dpi.
+    form.setFont(font);
+    EXPECT_EQ(form.sizeHint(), size);
 }
 
 TEST_F(FormTest, FitsATextThatChangesToItsRectangle) {
