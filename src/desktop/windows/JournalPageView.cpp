@@ -19,13 +19,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize designSize{1080, 770};
 constexpr Form::Frame frameOfControls{0xffececec, 0xffcccccc};
 
 } // namespace
 
 JournalPageView::JournalPageView(const Parts &parts, const UserLocale &locale, QWidget *parent)
-    : Form(designSize, parent) {
+    : Form({1080, 770}, parent) {
     // In the order of the Tab key.
     AddEntryRow(parts.entryRow, locale);
     AddButtons(parts.entryRow);

@@ -13,14 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr QSize designSize{1080, 770};
-
-} // namespace
-
 PreferencesPageView::PreferencesPageView(const Parts &parts, QWidget *parent)
-    : Form(designSize, parent) {
+    : Form({1080, 770}, parent) {
     // In the order of the Tab key.
     AddCompany(parts.companyProfile);
     AddContact(parts.companyProfile);
