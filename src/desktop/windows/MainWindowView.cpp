@@ -61,10 +61,11 @@ void MainWindowView::FitToFont() {
 }
 
 bool MainWindowView::event(QEvent *event) {
+    const bool isHandled = QMainWindow::event(event);
     if (event->type() == QEvent::ApplicationFontChange) {
         FitToFont();
     }
-    return QMainWindow::event(event);
+    return isHandled;
 }
 
 void MainWindowView::closeEvent(QCloseEvent *event) {

@@ -67,10 +67,11 @@ WelcomeWindowView::WelcomeWindowView(WelcomeWindow &window, MenuItem &menuBar,
 }
 
 bool WelcomeWindowView::event(QEvent *event) {
+    const bool isHandled = QMainWindow::event(event);
     if (event->type() == QEvent::ApplicationFontChange) {
         UseDesktopFont(*form_, designSize);
     }
-    return QMainWindow::event(event);
+    return isHandled;
 }
 
 Form *WelcomeWindowView::CreatePage(const QString &name, QWidget *parent) {

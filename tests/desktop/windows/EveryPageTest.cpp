@@ -154,6 +154,14 @@ TEST_F(EveryPage, LimitsItsFontSizeToTheScreen) {
     }
 }
 
+TEST_F(EveryPage, LimitsItsFontSizeWhenTheDesktopFontChanges) {
+    ForEveryPage([](const QMainWindow &window) {
+        UseFont(9);
+        UseFont(40);
+        EXPECT_EQ(window.centralWidget()->fontInfo().pixelSize(), 14);
+    });
+}
+
 /// Returns the accessible names of the controls in tab order.
 static QString TabOrder(const QWidget &window) {
     QStringList order;
