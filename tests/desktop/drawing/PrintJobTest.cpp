@@ -43,7 +43,6 @@ protected:
         const QString xml = Run("pdftotext", {"-bbox", path, "-"});
         return xml.split('\n').filter("<word").replaceInStrings(word, "\\1 \\2 \\3 \\4").join(", ");
     }
-    /// Returns the output of a poppler tool.
     static QByteArray Run(const QString &tool, const QStringList &arguments) {
         QProcess process;
         process.start(tool, arguments);
@@ -74,7 +73,6 @@ TEST_F(PrintJobTest, PrintsCopiesPageByPage) {
 
 TEST_F(PrintJobTest, DrawsColouredLinesAndBoldTextInAFixedPitch) {
     const auto draw = [](PrintJob &job) {
-        EXPECT_EQ(QSizeF(job.Width(), job.Height()).toSize(), QSize(595, 842));
         job.SetForeColor(Color{0xff0000});
         job.DrawLine(100, 200, 150, 200);
         job.SetTextFont("No such family");
@@ -118,20 +116,17 @@ protected:
         Write("cupsd.conf", "Listen %1/socket\n");
         Write("cups-files.conf", "ServerRoot %1\nStateDir %1\nCacheDir %1\nRequestRoot %1/spool\n"
                                  "AccessLog %1/log\nErrorLog %1/log\nPageLog %1/log\n");
-        Write("printers.conf",
-              "<Printer Offen>\n</Printer>\n<Printer Zu>\nAccepting No\n</Printer>\n");
+        Write("printers.conf", "<Printer Auf>\n</Printer>\n<Printer Zu>\nAccepting No\n</Printer>");
         service.start("/usr/sbin/cupsd", {"-f", "-c", folder.filePath("cupsd.conf"), "-s",
                                           folder.filePath("cups-files.conf")});
-        const QString socket = folder.filePath("socket");
-        EXPECT_TRUE(QTest::qWaitFor([&] { return QFile::exists(socket); }));
-        cupsSetServer(qUtf8Printable(socket));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(folder.filePath("socket")); }));
+        cupsSetServer(qUtf8Printable(folder.filePath("socket")));
     }
     void Write(const QString &name, QString text) const {
         QFile file(folder.filePath(name));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         EXPECT_GT(file.write(text.replace("%1", folder.path()).toUtf8()), 0);
     }
-    /// Returns the message shown to the user, if any.
     QString PrintOn(const QString &queue, const std::function<void(PrintJob &)> &draw = DrawPages) {
         failure.clear();
         printer = std::make_unique<QPrinter>();
@@ -146,10 +141,10 @@ protected:
 TEST_F(PrintQueueTest, ReportsWhyAPrintJobFailed) {
     EXPECT_EQ(PrintOn("Zu"),
               "Der Drucker Zu hat den Bericht nicht angenommen: Er nimmt keine Aufträge an.");
-    EXPECT_EQ(PrintOn("Offen"), "");
+    EXPECT_EQ(PrintOn("Auf"), "");
     const auto stopService = [this](PrintJob & /*job*/) {
         service.terminate();
         EXPECT_TRUE(service.waitForFinished());
     };
-    EXPECT_TRUE(PrintOn("Offen", stopService).contains(": Er ist nicht mehr eingerichtet, oder "));
+    EXPECT_TRUE(PrintOn("Auf", stopService).contains(": Er ist nicht mehr eingerichtet, oder "));
 }

@@ -63,7 +63,7 @@ TEST_F(PreferencesPage, StoresAndClosesTheOpenCellBeforeACommand) {
 
 TEST_F(PreferencesPage, StoresTheOpenCellWhenAKeyChangesTheRow) {
     Click(accounts, 0, BookingAccounts::Account);
-    Type("{F2}7{Down}{F2}d{Up}{F2}e{PgDown}{F2}f{PgUp}"); // F2 opens a name, or nothing in a cell.
+    Type("{F2}7{Down}{F2}d{Up}{F2}e{PgDown}{F2}f{PgUp}"); // F2 opens a name, or keeps an open cell.
     EXPECT_EQ(Accounts(), "e7E1 f10A0");
 }
 
