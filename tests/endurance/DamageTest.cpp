@@ -3,8 +3,7 @@
 #include <QDir>
 #include <QRegularExpression>
 
-class Damage : public ProgramTest {
-protected:
+struct Damage : ProgramTest {
     Damage() {
         Program program(desktop);
         for (int i = 0; i < 30; ++i) {
@@ -18,37 +17,35 @@ protected:
         return file.readAll();
     }
     static QByteArray Damaged(QByteArray bytes) {
-        const int position = RandomBelow(int(bytes.size()));
-        switch (RandomBelow(4)) {
-        case 0:
-            return bytes.first(RandomBelow(2) == 0 ? position : position / 1024 * 1024);
-        case 1:
-            return bytes.replace(position, 1000,
-                                 QByteArray(RandomBelow(3000), char(RandomBelow(256))));
-        default:
+        int position = RandomBelow(int(bytes.size()));
+        if (RandomBelow(2) == 0) {
             bytes[position] = char(bytes[position] ^ (1 << RandomBelow(8)));
             return bytes;
         }
+        position &= -RandomBelow(2) * 1023 - 1; // Often at the start of a page.
+        return RandomBelow(2) == 0
+                   ? bytes.first(position)
+                   : bytes.replace(position, 1000, QByteArray(RandomBelow(3000), '\0'));
     }
-    /// Opens the file, shows every page, prints and exports. Returns the contents of each step up
-    /// to the first message.
-    QStringList ShowPages() {
+    /// Opens the file, shows every page, prints and exports. Returns the contents up to the first
+    /// message.
+    QString ShowPages() {
         desktop.printout.emplace();
         Program program(desktop);
         MainWindow &window = *program.window;
+        QString shown;
         messages.clear();
-        QStringList pages;
         for (const QString command : {"", "print", "export", "preferences", "cashbook"}) {
             window.MenuAction(command);
             messages += desktop.TakeMessages().split('|', Qt::SkipEmptyParts);
             if (messages.isEmpty()) {
-                pages.append(desktop.printout->join('\n') + window.journal.CashList.Cell(-1, -1) +
-                             window.accountingExport.ExportList.Cell(-1, -1) +
-                             window.cashBooks.CashbookList.Cell(-1, -1) +
-                             window.bookingAccounts.CashaccountList.Cell(-1, -1));
+                shown += desktop.printout->join('\n') +
+                         window.accountingExport.ExportList.Cell(-1, -1) +
+                         window.cashBooks.CashbookList.Cell(-1, -1) +
+                         window.bookingAccounts.CashaccountList.Cell(-1, -1) + '\f';
             }
         }
-        return pages;
+        return shown;
     }
 
     QStringList messages;
@@ -56,14 +53,12 @@ protected:
 
 TEST_F(Damage, IsReportedAndLeftUnchanged) {
     const QByteArray undamaged = Bytes();
-    const QStringList before = ShowPages();
+    const QString before = ShowPages();
     Run(170, [&] {
         const QByteArray damaged = Damaged(undamaged);
         file.resize(0);
-        file.seek(0);
         file.write(damaged);
-        const QStringList pages = ShowPages();
-        EXPECT_EQ(pages, before.first(pages.size()));
+        EXPECT_TRUE(before.startsWith(ShowPages()));
         EXPECT_EQ(messages.filter(QRegularExpression("^DB (Connection )?Error: .")), messages);
         EXPECT_EQ(Bytes(), damaged);
         EXPECT_EQ(QFileInfo(file).dir().entryList(QDir::Files), QStringList("Zolmark.sdb"));

@@ -4,8 +4,9 @@
 #include "setup/WelcomeWindow.h"
 #include "support/TestEnvironment.h"
 
-/// The program from its start, without widgets. The welcome window creates a missing database file
-/// and opens the main window.
+#include <QMap>
+
+/// The program from its start, without widgets. It creates a missing database file.
 struct Program {
     explicit Program(FakeDesktop &desktop) : app(desktop, UserLocale(QLocale())) {
         QObject::connect(&welcome, &WelcomeWindow::MainWindowRequested, &welcome,
@@ -17,20 +18,18 @@ struct Program {
         }
     }
 
-    /// Runs a command on the booking with a voucher number. With an amount, saves a receipt with a
-    /// note that repeats the number so many times.
-    void Run(const QString &command, const QString &number, const QString &amount = {}) {
+    /// Runs a command on the booking with a voucher number. After "new" and "edit" saves the amount
+    /// and a note that repeats the number so many times.
+    void Run(const QString &command, const QString &number, const QString &amount) {
         Listbox &list = window->journal.CashList;
         list.SetListIndex(int(list.Cell(-1, Journal::SaleNumber).split('\n').indexOf(number)));
         window->MenuAction(command);
-        if (!amount.isEmpty()) {
-            EntryRow &row = window->entryRow;
-            row.InputField.SetText(amount);
-            row.pickLists.CategoryCombo.SetListIndex(0);
-            row.SaleNumberField.SetText(number);
-            row.NoteField.SetText(number.repeated(amount.toInt()));
-            (command == "new" ? row.SubmitButton : row.ChangeButton).Press();
-        }
+        EntryRow &row = window->entryRow;
+        row.InputField.SetText(amount);
+        row.pickLists.CategoryCombo.SetListIndex(0);
+        row.SaleNumberField.SetText(number);
+        row.NoteField.SetText(number.repeated(amount.toInt()));
+        (command == "new" ? row.SubmitButton : row.ChangeButton).Press();
     }
 
     /// Returns the amount for each voucher number; empty or 0 if the booking is incomplete.
@@ -39,11 +38,11 @@ struct Program {
                     "length(replace(note, salesnumber, ' ')) = input AND vdate || tax || category "
                     "|| cashbookID || bdate || account > '') FROM cash_journal");
     }
-    /// Returns "ok" or what SQLCipher's checks find; those of version 4 list each damaged page.
+    /// Returns "ok", or the damage; version 4 of SQLCipher lists each page.
     QStringList Integrity() const {
         return Read("PRAGMA integrity_check").keys() + Read("PRAGMA cipher_integrity_check").keys();
     }
-    /// Returns the second column by the first one; joins those with the same first one.
+    /// Returns the second column by the first one, joined if that is not unique.
     QMap<QString, QString> Read(const QString &sql) const {
         QMap<QString, QString> rows;
         const auto records = app.kvoDB().SQLSelect(sql);
@@ -59,9 +58,7 @@ struct Program {
     std::optional<MainWindow> window;
 };
 
-/// Starts programs with the same database file.
-class ProgramTest : public Endurance {
-protected:
+struct ProgramTest : Endurance {
     FakeDesktop desktop;
     QFile file{desktop.Path("data/Brevant/Zolmark.sdb")};
 };

@@ -56,7 +56,7 @@ TEST_F(PreferencesPage, StoresAndClosesTheOpenCellBeforeACommand) {
     Type("a{Alt+D}x");
     EXPECT_EQ(env.Value("SELECT name FROM cash_book"), "a");
     DoubleClick(cashBooks, 0, 0);
-    const QWidget &editor = *QApplication::focusWidget(); // Deleted by the event loop.
+    const QWidget &editor = *QApplication::focusWidget(); // The event loop deletes it.
     window.MenuAction("new");
     EXPECT_FALSE(editor.isVisible());
 }

@@ -5,7 +5,10 @@
 /// Returns the day or the hint after typing into a field of 15 November 2025, in the year 2026.
 static QString Typed(const QString &text) {
     DateControl field("", Date(QDate(2025, 11, 15)), [] { return Date(QDate(2026, 3, 15)); });
-    return field.SetTyped(text) ? field.DateValue().SQLDate() : field.Hint();
+    EXPECT_FALSE(field.SetTyped("x")); // Its hint is removed by the next text.
+    const bool isDay = field.SetTyped(text);
+    EXPECT_EQ(field.Hint().isEmpty(), isDay);
+    return isDay ? field.DateValue().SQLDate() : field.Hint();
 }
 
 TEST(DateControl, ReadsEveryDateFormat) {
@@ -29,7 +32,8 @@ TEST(DateControl, RefusesTextsThatAreNoDay) {
 }
 
 TEST(DateControl, StaysInTheYears1To9999) {
-    DateControl field("", Date(QDate(1, 1, 1)), [] { return Date(QDate(10000, 1, 1)); });
+    DateControl field("", Date(QDate(2, 1, 1)), [] { return Date(QDate(10000, 1, 1)); });
+    field.SetYear(1);
     field.Step(-1);
     field.Today();
     EXPECT_EQ(field.Year(), 1);
