@@ -13,7 +13,7 @@ const auto anyKeys =
     "{F4} {F10} {Space} {Alt+Down} {Ctrl+X} {Ctrl+V} {Ctrl+D} {Ctrl+L} {Ctrl+N} "
     "12,50 1.250,00 7 + -3 31.12. O'Neill e";
 
-/// Performs random actions in a main window with its own database file.
+/// Acts in a main window with its own database file.
 struct RandomUser {
     RandomUser() {
         env.desktop.printout.emplace();
@@ -52,7 +52,7 @@ struct RandomUser {
                 Check();
             }
         }
-        // The last one is shown if a booking was deleted while it was being changed.
+        // The last one is shown if a booking was deleted during its change.
         EXPECT_EQ(env.desktop.TakeMessages().remove(QRegularExpression(
                       "(Hauptkasse kann|DB Error: (UNIQUE|Der Datensatz))[^|]*|\\|")),
                   "");

@@ -27,8 +27,7 @@ struct Damage : ProgramTest {
                    ? bytes.first(position)
                    : bytes.replace(position, 1000, QByteArray(RandomBelow(3000), '\0'));
     }
-    /// Opens the file, shows every page, prints and exports. Returns the contents up to the first
-    /// message.
+    /// Shows every page, prints and exports. Returns the contents up to the first message.
     QString ShowPages() {
         desktop.printout.emplace();
         Program program(desktop);

@@ -42,7 +42,7 @@ struct Program {
     QStringList Integrity() const {
         return Read("PRAGMA integrity_check").keys() + Read("PRAGMA cipher_integrity_check").keys();
     }
-    /// Returns the second column by the first one, joined if that is not unique.
+    /// Returns the second column by the first one; joins duplicates.
     QMap<QString, QString> Read(const QString &sql) const {
         QMap<QString, QString> rows;
         const auto records = app.kvoDB().SQLSelect(sql);

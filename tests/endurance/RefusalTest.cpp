@@ -23,8 +23,8 @@ TEST_F(Refusal, IsReportedAndLeavesTheFilesUnchanged) {
         const int step = RandomBelow(4);
         {
             // The rollback journal or the database becomes too long.
-            const FullDisk disk(RandomBelow(4) == 0 ? RandomBelow(1000)
-                                                    : file.size() + RandomBelow(20'000));
+            const qint64 begin = RandomBelow(4) == 0 ? 0 : file.size();
+            const FullDisk disk(rlim_t(begin + RandomBelow(begin == 0 ? 1000 : 20'000)));
             program.emplace(desktop).Run(commands[step], step == 0 ? "R2" : "R1",
                                          QString::number(3 + RandomBelow(3000)));
         }

@@ -5,7 +5,7 @@ class EntryRowTest : public EnvironmentTest {
 protected:
     EntryRowTest() : EnvironmentTest(TestEnvironment::Storage::File) { window.Event_Open(); }
 
-    QString Press(PushButton &button) {
+    QString Press(PushButton &button) const {
         button.Press();
         return row.ErrorLabel.Text();
     }

@@ -17,6 +17,7 @@ TEST_F(JournalTest, ListsAnyStoredBookingByDateAndId) {
 b|114,51
 15.03.2026|10,00||keine|Einlage|||124,51
 15.03.2026||5,00|7% VSt.||||119,51)");
+    EXPECT_EQ(std::get<QString>(bookings.CellTag(3, Journal::Category)), "8400");
 }
 
 TEST_F(JournalTest, SortsBookingsOfADayByTheValueOfTheirIds) {

@@ -41,6 +41,11 @@ TEST_F(DateFieldTest, KeepsTheFocusUntilTheDateIsValid) {
     }
 }
 
+TEST_F(DateFieldTest, RemovesTheMessageWithTheTextOnEscape) {
+    EXPECT_EQ(Typed("31.02.\r\x1b"), "15.11.2025");
+    EXPECT_EQ(field.accessibleDescription(), "");
+}
+
 TEST_F(DateFieldTest, StepsByKeysAndByTheWheelWhileFocused) {
     EXPECT_EQ(TurnWheel(60), "15.11.2025");
     EXPECT_EQ(TurnWheel(180), "17.11.2025");
