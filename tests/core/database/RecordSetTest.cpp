@@ -57,3 +57,8 @@ TEST_F(RecordSetTest, ReadsTextsNumbersAndDates) {
     EXPECT_FALSE(values->IdxField(5).DateValue());
     EXPECT_FALSE(values->IdxField(6).DateValue());
 }
+
+TEST_F(RecordSetTest, ReadsBooleans) {
+    env.Run("UPDATE cash_accounts SET active = 0");
+    EXPECT_EQ(env.Value("SELECT active FROM cash_accounts"), "False");
+}

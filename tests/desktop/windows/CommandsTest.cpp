@@ -63,6 +63,7 @@ TEST_F(Commands, NeedASelectedBookingInTheFocusedList) {
     const auto &button = Find<QAction>("DeleteButton");
     Q_EMIT bookings.KeyDown();
     EXPECT_FALSE(button.isEnabled()) << "the list is empty";
+    EXPECT_FALSE(Find<QAction>("CopyItem").isEnabled());
     env.Add({});
     Choose("NewSaleItem");
     Click(list, 0, 0);

@@ -154,11 +154,14 @@ TEST_F(EveryPage, LimitsItsFontSizeToTheScreen) {
     }
 }
 
-TEST_F(EveryPage, LimitsItsFontSizeWhenTheDesktopFontChanges) {
+TEST_F(EveryPage, LimitsALargeDesktopFont) {
+    UseFont(40);
     ForEveryPage([](const QMainWindow &window) {
+        const QWidget &pages = *window.centralWidget();
+        EXPECT_EQ(pages.fontInfo().pixelSize(), 14) << "when the window is created";
         UseFont(9);
         UseFont(40);
-        EXPECT_EQ(window.centralWidget()->fontInfo().pixelSize(), 14);
+        EXPECT_EQ(pages.fontInfo().pixelSize(), 14) << "when the font changes";
     });
 }
 
