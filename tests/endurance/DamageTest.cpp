@@ -7,7 +7,7 @@ struct Damage : ProgramTest {
     Damage() {
         Program program(desktop);
         for (int i = 0; i < 30; ++i) {
-            // A long note continues on overflow pages, which are read only with the note.
+            // Every other note continues on overflow pages.
             program.Run("new", u"R%1"_s.arg(i), QString::number(1 + i % 2 * 3000));
         }
         EXPECT_TRUE(file.open(QIODevice::ReadWrite | QIODevice::Unbuffered));

@@ -21,7 +21,7 @@ struct Kill : ProgramTest {
             QString before;
             for (const auto &step :
                  QStringList{"new", "edit", "delete"}.first(1 + RandomBelow(3))) {
-                // Some notes fill many pages of the file, which takes longer to write.
+                // Some notes fill many pages, which takes longer to write.
                 const int amount = 1 + RandomBelow(4) / 3 * RandomBelow(10'000);
                 const QString after = step == "delete" ? "" : QString::number(amount);
                 log << number << ' ' << before << ' ' << after << Qt::endl;
