@@ -18,7 +18,7 @@ BareDatabase::BareDatabase(const QString &path) {
     handle_.reset(handle);
     sqlite3_key(handle, fixedKey.constData(), static_cast<int>(fixedKey.size()));
     for (const char *pragma : {"PRAGMA cipher_compatibility = 3", "PRAGMA cache_size = -65536",
-                               "PRAGMA temp_store = MEMORY", "PRAGMA synchronous = FULL"}) {
+                               "PRAGMA temp_store = MEMORY", "PRAGMA synchronous = EXTRA"}) {
         Run(pragma);
     }
     Run("SELECT count(*) FROM sqlite_master");

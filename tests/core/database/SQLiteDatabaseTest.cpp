@@ -33,6 +33,7 @@ TEST_F(FileTest, IsEncryptedWithARandomSalt) {
     EXPECT_NE(bytes.read(16), QByteArray(16, '\0'));
     EXPECT_EQ(DeriveKey(fixedKey, file.Path()).size(), 99); // x'...' with 96 digits
     EXPECT_EQ(env.Value("PRAGMA temp_store"), "2") << "temporary files are not encrypted";
+    EXPECT_EQ(env.Value("PRAGMA synchronous"), "3") << "a booking must survive a power failure";
     other.SetEncryptionKey("rk");
     EXPECT_FALSE(other.Connect());
 }
