@@ -7,9 +7,20 @@
 #include <QThread>
 #include <sqlite3.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int lockPollMs = 20;
+
+QString LastErrorMessage(sqlite3 *handle) {
+    // SQLite writes only to the file that it has opened: "attempt to write a readonly database".
+    if (sqlite3_extended_errcode(handle) == SQLITE_READONLY_DBMOVED) {
+        return u"Die Datei des Kassenbuchs wurde ersetzt, verschoben oder gelöscht. Die letzte "
+               "Eingabe ist nicht gespeichert. Bitte beenden Sie Zolmark und starten Sie es neu."_s;
+    }
+    return QString::fromUtf8(sqlite3_errmsg(handle));
+}
 
 } // namespace
 
@@ -78,7 +89,7 @@ int Connection::Changes() const {
 bool Connection::SetResult(int resultCode) {
     const bool isSuccess =
         resultCode == SQLITE_OK || resultCode == SQLITE_ROW || resultCode == SQLITE_DONE;
-    message_ = isSuccess ? QString() : QString::fromUtf8(sqlite3_errmsg(Handle()));
+    message_ = isSuccess ? QString() : LastErrorMessage(Handle());
     return isSuccess;
 }
 

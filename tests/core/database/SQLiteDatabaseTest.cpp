@@ -52,6 +52,15 @@ TEST_F(FileTest, IsWaitedForOnceWhileItIsLocked) {
     EXPECT_EQ(Write(), "");
 }
 
+TEST_F(FileTest, IsNotWrittenAfterItWasReplaced) {
+    ASSERT_TRUE(QFile::copy(file.Path(), env.desktop.Path("newer")));
+    ASSERT_TRUE(QFile::remove(file.Path()));
+    ASSERT_TRUE(QFile::rename(env.desktop.Path("newer"), file.Path()));
+    EXPECT_TRUE(Write().startsWith("Die Datei des Kassenbuchs wurde ersetzt")) << Write();
+    EXPECT_TRUE(other.Connect());
+    EXPECT_EQ(Write(), "");
+}
+
 TEST_F(FileTest, IsUnlockedByQueriesThatEndEarly) {
     SQLiteDatabase &database = env.app.kvoDB();
     const QString query = "SELECT * FROM cash_tax";
