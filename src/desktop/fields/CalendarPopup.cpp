@@ -51,6 +51,7 @@ CalendarPopup::CalendarPopup(QDate day, const QLocale &locale, QWidget *field)
 }
 
 void CalendarPopup::Open() {
+    adjustSize();
     move(Position());
     show();
     setFocus(Qt::PopupFocusReason);
@@ -70,10 +71,9 @@ void CalendarPopup::Select(QDate day) {
 QPoint CalendarPopup::Position() const {
     const QWidget &field = *parentWidget();
     const QRect available = field.screen()->availableGeometry();
-    const QSize size = sizeHint();
-    const QPoint above = field.mapToGlobal(QPoint(0, -size.height()));
+    const QPoint above = field.mapToGlobal(QPoint(0, -height()));
     const QPoint below = field.mapToGlobal(QPoint(0, field.height()));
-    const int right = std::max(available.left(), available.right() - size.width());
+    const int right = std::max(available.left(), available.right() + 1 - width());
     return {std::clamp(below.x(), available.left(), right),
-            below.y() + size.height() > available.bottom() ? above.y() : below.y()};
+            below.y() + height() > available.bottom() ? above.y() : below.y()};
 }
