@@ -124,7 +124,7 @@ TEST_F(QtDesktopTest, ShowsNothingAfterTheEndOfTheApplication) {
 TEST(TerminationSignals, AreRaisedOnceEach) {
     int raised = 0;
     const TerminationSignals signals;
-    QObject::connect(&signals, &TerminationSignals::Raised, [&raised] { ++raised; });
+    QObject::connect(&signals, &TerminationSignals::Raised, &signals, [&raised] { ++raised; });
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         std::raise(signal);
         QTest::qWait(1);
