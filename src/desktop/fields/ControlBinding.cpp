@@ -1,5 +1,6 @@
 #include "desktop/fields/ControlBinding.h"
 
+#include "desktop/fields/Announcement.h"
 #include "desktop/fields/Focus.h"
 #include "desktop/fields/HintView.h"
 #include "platform/controls/Control.h"
@@ -18,6 +19,9 @@ public:
         connect(&control, &Control::HintChanged, this, [this] {
             ShowHint();
             widget_.setAccessibleDescription(control_.Hint());
+            if (hasFocus_ && !control_.Hint().isEmpty()) {
+                Announce(*widget_.window(), control_.Hint());
+            }
         });
     }
 

@@ -1,5 +1,6 @@
 #include "desktop/windows/JournalPageView.h"
 
+#include "desktop/fields/Announcement.h"
 #include "desktop/fields/ComboBoxView.h"
 #include "desktop/fields/ControlBinding.h"
 #include "desktop/fields/DateControlView.h"
@@ -29,7 +30,6 @@ JournalPageView::JournalPageView(const Parts &parts, const UserLocale &locale, Q
     AddEntryRow(parts.entryRow, locale);
     AddButtons(parts.entryRow);
     AddErrorBar(parts.entryRow);
-    DescribeErrors(parts.entryRow);
     AddCashList(parts.journal);
     AddSelectors(parts.selectors);
     AddBalances(parts.balances);
@@ -77,20 +77,13 @@ void JournalPageView::AddErrorBar(EntryRow &row) {
     SetTextColour(*message, 0xffffffff);
     bar->Add(message, {13, 0, 448, 18});
     Add(bar, {141, 135, 471, 20});
-}
-
-void JournalPageView::DescribeErrors(EntryRow &row) {
-    for (const Control *each : std::initializer_list<Control *>{
-             &row.DateField, &row.InputField, &row.OutputField, &row.pickLists.TaxCombo,
-             &row.pickLists.CategoryCombo, &row.SaleNumberField, &row.NoteField, &row.SubmitButton,
-             &row.ChangeButton, &row.CancelButton}) {
-        auto *field = findChild<QWidget *>(each->objectName());
-        const auto describe = [each, field, &row] {
-            field->setAccessibleDescription(
-                (row.ErrorLabel.Text() + u' ' + each->Hint()).trimmed());
-        };
-        connect(&row.ErrorLabel, &Label::Updated, field, describe);
-        connect(each, &Control::HintChanged, field, describe);
+    // Connected after the row's own handlers: the label has the result of this press.
+    for (const PushButton *button : {&row.SubmitButton, &row.ChangeButton}) {
+        connect(button, &PushButton::Action, this, [this, &row] {
+            if (!row.ErrorLabel.Text().isEmpty()) {
+                Announce(*window(), row.ErrorLabel.Text());
+            }
+        });
     }
 }
 

@@ -27,8 +27,6 @@ private:
     QWidget *AddAmountField(TextField &field, const QRect &rect);
     void AddButtons(EntryRow &row);
     void AddErrorBar(EntryRow &row);
-    /// Makes assistive tools read the error text of the row with each of its fields.
-    void DescribeErrors(EntryRow &row);
     void AddCashList(Journal &journal);
     void AddSelectors(Selectors &selectors);
     void AddBalances(Balances &balances);

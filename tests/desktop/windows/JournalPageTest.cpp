@@ -1,6 +1,7 @@
 #include "desktop/fields/HintView.h"
 #include "support/MainWindowTest.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QCompleter>
 #include <QLabel>
@@ -71,14 +72,27 @@ TEST_F(JournalPageTest, ShowsHintsOnlyBelowTheFocusedField) {
     const auto &hint = *view.findChild<HintView *>();
     EXPECT_EQ(hint.pos(), input.mapTo(&view, QPoint(0, input.height() + 2)));
     Type("\r");
-    EXPECT_EQ(input.accessibleDescription(),
-              "Bitte Art der Einnahme/Ausgabe auswählen! wird als 12,35 gelesen");
     QApplication::processEvents();
     const auto &message = Find<QWidget>("ErrorRect");
     EXPECT_EQ(hint.y(), message.mapTo(&view, QPoint(0, message.height())).y());
     Click(&hint, hint.rect().center());
     EXPECT_EQ(bookings.ListIndex(), 0) << "the hint passes the click on to the list";
     EXPECT_FALSE(hint.isVisible());
+}
+
+TEST_F(JournalPageTest, AnnouncesHintsAndRefusedBookings) {
+    Open();
+    Type("\t\r");
+    auto &announcement = Find<QWidget>("Announcement");
+    const auto &spoken = *QAccessible::queryAccessibleInterface(&announcement);
+    EXPECT_EQ(spoken.role(), QAccessible::Notification);
+    EXPECT_EQ(spoken.text(QAccessible::Name),
+              "Bitte einen Betrag bei Einnahme oder Ausgabe eintragen!");
+    Type("1.234");
+    EXPECT_EQ(spoken.text(QAccessible::Name), "wird als 1,23 gelesen");
+    EXPECT_EQ(input.accessibleDescription(), "wird als 1,23 gelesen");
+    Type("\r");
+    EXPECT_EQ(spoken.text(QAccessible::Name), "Bitte Art der Einnahme/Ausgabe auswählen!");
 }
 
 TEST_F(JournalPageTest, FitsLongNamesToPopupsAndFields) {
