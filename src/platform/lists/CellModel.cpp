@@ -237,8 +237,8 @@ QVariant CellModel::data(const QModelIndex &index, int role) const {
         return static_cast<int>(CellCheck(index.row(), index.column()) ? Qt::Checked
                                                                        : Qt::Unchecked);
     }
-    if (role == Qt::AccessibleTextRole && isCheckBox) {
-        return CellCheck(index.row(), index.column()) ? u"ja"_s : u"nein"_s;
+    if (role == Qt::AccessibleTextRole) {
+        return SpokenText(index.row(), index.column());
     }
     return role == Qt::TextAlignmentRole ? AlignmentOf(index.column()) : QVariant();
 }
@@ -251,6 +251,13 @@ QVariant CellModel::headerData(int section, Qt::Orientation orientation, int rol
         return Heading(section);
     }
     return role == Qt::TextAlignmentRole ? AlignmentOf(section) : QVariant();
+}
+
+QString CellModel::SpokenText(int row, int column) const {
+    const bool isCheckBox = TypeOfColumn(column) == ColumnType::CheckBox;
+    const QString checked = CellCheck(row, column) ? u"ja"_s : u"nein"_s;
+    const QString text = isCheckBox ? checked : Cell(row, column);
+    return text.isEmpty() ? text : Heading(column) + u' ' + text;
 }
 
 QVariant CellModel::AlignmentOf(int column) const {

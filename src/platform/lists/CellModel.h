@@ -105,6 +105,8 @@ private:
     const Column &ColumnAt(int column) const { return columns_[static_cast<size_t>(column)]; }
     Column &ColumnAt(int column) { return columns_[static_cast<size_t>(column)]; }
     QString JoinedCells(int begin, int end, int column) const;
+    /// Returns the heading and the content of a cell: screen readers read a row cell by cell.
+    QString SpokenText(int row, int column) const;
     QVariant AlignmentOf(int column) const;
     void NotifyCellChanged(int row, int column);
 
