@@ -39,7 +39,10 @@ void PickLists::LoadRows(const QString &sql, QLatin1StringView tagColumn, const 
     if (!std::is_sorted(rows.begin(), rows.end(), less)) {
         std::stable_sort(rows.begin(), rows.end(), less);
     }
-    list.SetRows(std::move(rows));
+    // The rows rarely change while an amount is typed, and a screen reader follows each change.
+    if (!list.HasRows(rows)) {
+        list.SetRows(std::move(rows));
+    }
 }
 
 void PickLists::LoadAccounts(const QString &type) {

@@ -15,8 +15,11 @@ public:
     struct Row {
         QString text;
         QString tag;
+
+        bool operator==(const Row &) const = default;
     };
 
+    const std::vector<Row> &Rows() const { return rows_; }
     int Count() const { return static_cast<int>(rows_.size()); }
     /// Text and Tag return an empty text for an index outside of the list.
     QString Text(int row) const;
@@ -50,6 +53,7 @@ public:
     /// signal, a combo box emits TextChanged if its text was not empty.
     void SetRows(std::vector<Row> rows);
     void DeleteAllRows() { SetRows({}); }
+    bool HasRows(const std::vector<Row> &rows) const { return rows_.Rows() == rows; }
 
     int ListCount() const { return rows_.Count(); }
     /// Returns the selected row, -1 if there is none.
