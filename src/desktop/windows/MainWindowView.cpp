@@ -11,7 +11,6 @@
 #include "shell/MainWindow.h"
 
 #include <QApplication>
-#include <QStackedWidget>
 
 using namespace Qt::StringLiterals;
 

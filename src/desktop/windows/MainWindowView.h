@@ -4,7 +4,6 @@
 
 class FolderItem;
 class MainWindow;
-class QStackedWidget;
 class UserLocale;
 
 /// Shows the main window: menu bar, tool bar, pages.
@@ -25,5 +24,5 @@ private:
     void FitToFont();
 
     MainWindow &window_;
-    QStackedWidget *pages_;
+    QWidget *pages_;
 };

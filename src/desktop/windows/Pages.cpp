@@ -3,16 +3,19 @@
 #include "desktop/fields/ControlBinding.h"
 #include "platform/controls/PagePanel.h"
 
-#include <QStackedWidget>
+#include <QStackedLayout>
+#include <QWidget>
 
-QStackedWidget *CreatePages(PagePanel &panel, std::vector<CreatePage> pages, QWidget *parent) {
-    auto *view = new QStackedWidget(parent);
+QWidget *CreatePages(PagePanel &panel, std::vector<CreatePage> pages, QWidget *parent) {
+    // Not a QStackedWidget, which screen readers announce as a layered pane.
+    auto *view = new QWidget(parent);
+    auto *stack = new QStackedLayout(view);
     BindControl(panel, *view);
-    const auto show = [view, &panel, pages = std::move(pages)] {
-        while (view->count() <= panel.Value()) {
-            view->addWidget(pages.at(static_cast<size_t>(view->count()))(view));
+    const auto show = [view, stack, &panel, pages = std::move(pages)] {
+        while (stack->count() <= panel.Value()) {
+            stack->addWidget(pages.at(static_cast<size_t>(stack->count()))(view));
         }
-        view->setCurrentIndex(panel.Value());
+        stack->setCurrentIndex(panel.Value());
     };
     show();
     QObject::connect(&panel, &PagePanel::Updated, view, show);

@@ -4,7 +4,6 @@
 #include <vector>
 
 class PagePanel;
-class QStackedWidget;
 class QWidget;
 
 /// Creates a page as a child of the parent.
@@ -13,4 +12,4 @@ using CreatePage = std::function<QWidget *(QWidget *parent)>;
 /// Creates the widget that shows the pages of a panel, as a child of the parent, and binds the two.
 /// A page is created when it or a later one is first shown, which makes a start 15 ms faster. The
 /// focus returns to where it was on the page.
-QStackedWidget *CreatePages(PagePanel &panel, std::vector<CreatePage> pages, QWidget *parent);
+QWidget *CreatePages(PagePanel &panel, std::vector<CreatePage> pages, QWidget *parent);

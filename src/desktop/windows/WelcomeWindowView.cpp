@@ -16,7 +16,6 @@
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
-#include <QStackedWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -189,7 +188,9 @@ QWidget *WelcomeWindowView::AddChoice(TLXCanvasButton &canvas, const Choice &cho
     auto *view = new CanvasView(canvas, form_);
     form_->Add(view, rect);
     QAbstractButton *button = view->AddButton(choice.title.text, {{0, 0}, rect.size()});
-    button->setAccessibleDescription(choice.description.text.trimmed());
+    // Without the hyphen of the line break, which is spoken.
+    button->setAccessibleDescription(
+        QString(choice.description.text).trimmed().replace(u"k-t"_s, u"kt"_s));
     const auto add = [this](const Text &text, int height, int fontSize, bool isBold) {
         QLabel *label = form_->AddText(text.name, text.text, {640, text.top, 162, height},
                                        Qt::AlignTop, fontSize, isBold);
