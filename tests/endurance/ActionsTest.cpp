@@ -1,6 +1,8 @@
 #include "endurance/Endurance.h"
 #include "support/MainWindowTest.h"
 
+#include <QScrollBar>
+
 static auto Pick(const auto &values) {
     return values[RandomBelow(int(values.size()))];
 }
@@ -24,6 +26,9 @@ struct RandomUser {
         view.show(); // A command may have closed it.
         view.activateWindow();
         env.desktop.menuChoice = RandomBelow(2);
+        for (QScrollBar *bar : view.findChildren<QScrollBar *>()) {
+            bar->setContextMenuPolicy(Qt::PreventContextMenu); // Its menu would wait for a choice.
+        }
         QString keys = Word(anyKeys);
         const QWidget &widget = *Pick(view.findChildren<QWidget *>());
         const int action = RandomBelow(9);
