@@ -1,5 +1,6 @@
 #include "desktop/fields/Fields.h"
 
+#include "desktop/fields/Announcement.h"
 #include "desktop/fields/ControlBinding.h"
 #include "platform/controls/Label.h"
 #include "platform/controls/PushButton.h"
@@ -115,6 +116,17 @@ QComboBox *CreatePopupMenu(PopupMenu &menu, QWidget *parent) {
     QObject::connect(&menu, &PopupMenu::Updated, view,
                      [view, &menu] { view->setCurrentIndex(menu.ListIndex()); });
     QObject::connect(view, &QComboBox::activated, &menu, &PopupMenu::SetListIndex);
+#if QT_VERSION < QT_VERSION_CHECK(6, 8, 0)
+    // Screen readers do not get the selected row of a combo box from older versions of Qt.
+    const auto speak = [view](const QString &row) {
+        view->setAccessibleDescription(row);
+        if (view->hasFocus()) {
+            Announce(*view->window(), row);
+        }
+    };
+    speak(view->currentText());
+    QObject::connect(view, &QComboBox::currentTextChanged, view, speak);
+#endif
     return view;
 }
 
