@@ -29,11 +29,11 @@ QSizeF PaperSize(const QPrinter &printer) {
     return printer.pageLayout().fullRect(QPageLayout::Point).size();
 }
 
-/// Returns the lower end of the printable area in points.
-double PrintableBottom(const QPrinter &printer) {
+/// Returns the margins in points in which the printer can't print.
+QMarginsF PrinterMargins(const QPrinter &printer) {
     QPageLayout layout = printer.pageLayout();
     layout.setUnits(QPageLayout::Point);
-    return layout.fullRect().height() - layout.minimumMargins().bottom();
+    return layout.minimumMargins();
 }
 
 /// Returns why the last printed job has not reached its queue, in German; empty if it has. Qt does
@@ -48,8 +48,9 @@ QString QueueFailure(const QString &printer) {
         reason = u"Er nimmt keine Aufträge an."_s;
     } else if (QPrinterInfo::printerInfo(printer).isNull()) {
         reason = u"Er ist nicht mehr eingerichtet, oder der Druckdienst läuft nicht."_s;
-    } else if (status == IPP_STATUS_ERROR_INTERNAL || status == IPP_STATUS_ERROR_REQUEST_ENTITY) {
-        // For example on a full disk; the library's text is then that of a system call.
+    } else if (status == IPP_STATUS_ERROR_INTERNAL || status == IPP_STATUS_ERROR_REQUEST_ENTITY ||
+               status == IPP_STATUS_ERROR_REQUEST_VALUE) {
+        // For example on a full disk; the library's text then misleads.
         reason = u"Der Druckdienst konnte ihn nicht speichern."_s;
     }
     return u"Der Drucker %1 hat den Bericht nicht angenommen: %2"_s.arg(printer, reason);
@@ -89,32 +90,33 @@ double PrintJob::Height() const {
     return PaperSize(*printer_).height();
 }
 
-PrintJob::Page &PrintJob::CurrentPage(double bottom) {
+PrintJob::Page &PrintJob::CurrentPage(double top, double bottom) {
     Page &page = pages_.back();
+    page.top = std::min(page.top, top);
     page.bottom = std::max(page.bottom, bottom);
     return page;
 }
 
-Picture &PrintJob::Shapes(double bottom) {
-    Picture &shapes = CurrentPage(bottom).shapes;
+Picture &PrintJob::Shapes(double top, double bottom) {
+    Picture &shapes = CurrentPage(top, bottom).shapes;
     shapes.SetForeColor(color_);
     return shapes;
 }
 
 void PrintJob::DrawLine(double x1, double y1, double x2, double y2) {
-    Shapes(std::max(y1, y2)).DrawLine(x1, y1, x2, y2);
+    Shapes(std::min(y1, y2), std::max(y1, y2)).DrawLine(x1, y1, x2, y2);
 }
 
 void PrintJob::DrawRect(double left, double top, double width, double height) {
-    Shapes(top + height).DrawRect(left, top, width, height);
+    Shapes(top, top + height).DrawRect(left, top, width, height);
 }
 
 void PrintJob::FillRect(double left, double top, double width, double height) {
-    Shapes(top + height).FillRect(left, top, width, height);
+    Shapes(top, top + height).FillRect(left, top, width, height);
 }
 
 void PrintJob::DrawPicture(const FolderItem &file, double x, double y) {
-    Shapes(y).DrawPicture(file, x, y);
+    Shapes(y, y).DrawPicture(file, x, y);
 }
 
 void PrintJob::SetTextFont(const QString &family) {
@@ -132,7 +134,8 @@ double PrintJob::TextHeight() const {
 
 void PrintJob::DrawString(const QString &text, double x, double y) {
     const QFontMetricsF metrics(font_, printer_.get());
-    CurrentPage(y + metrics.descent() * pointsPerInch / printer_->resolution())
+    const double toPoints = pointsPerInch / printer_->resolution();
+    CurrentPage(y - metrics.ascent() * toPoints, y + metrics.descent() * toPoints)
         .texts.push_back({OneLine(text), {x, y}, font_, QColor(QRgb(color_.rgb))});
 }
 
@@ -209,7 +212,13 @@ void PrintJob::PrintPage(QPainter &painter, const Page &page) const {
     painter.save();
     const double toDevice = painter.device()->logicalDpiY() / pointsPerInch;
     painter.scale(toDevice, toDevice);
-    const double fit = std::min(1.0, PrintableBottom(*printer_) / page.bottom);
+    const QMarginsF margins = PrinterMargins(*printer_);
+    const double printableBottom = Height() - margins.bottom();
+    double fit = std::min(1.0, printableBottom / page.bottom);
+    if (page.top * fit < margins.top()) {
+        fit = std::min(1.0, (printableBottom - margins.top()) / (page.bottom - page.top));
+        painter.translate(0, margins.top() - page.top * fit);
+    }
     painter.scale(fit, fit);
     {
         PainterGraphics surface(painter, QRectF({}, PaperSize(*printer_)));

@@ -10,6 +10,7 @@
 
 #include <deque>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -20,9 +21,9 @@ class QPrinter;
 
 /// A print job on a printer or into a PDF file. It records the pages and prints them when it is
 /// destroyed: the selected pages in the selected order and number of copies. A page that would
-/// extend beyond the lower edge of the paper is scaled down as a whole. A PDF file is written
-/// completely or not at all. A job is successful when its queue has accepted it; what the printer
-/// does with it then is not known here.
+/// extend into the upper or lower margin of the printer is moved and scaled down as a whole. A PDF
+/// file is written completely or not at all. A job is successful when its queue has accepted it;
+/// what the printer does with it then is not known here.
 class PrintJob : public PrinterGraphics {
 public:
     /// Called with a German message on failure, through the event loop.
@@ -60,13 +61,15 @@ private:
 
         Picture shapes;
         std::vector<Text> texts;
-        /// The lower end of the drawing in points.
+        /// The upper and lower end of the drawing in points.
+        double top = std::numeric_limits<double>::max();
         double bottom = 0;
     };
 
-    Page &CurrentPage(double bottom);
-    /// Returns the picture of the current page for a shape that extends down to `bottom`.
-    Picture &Shapes(double bottom);
+    /// Returns the current page for a drawing between two y coordinates.
+    Page &CurrentPage(double top, double bottom);
+    /// The same for a shape.
+    Picture &Shapes(double top, double bottom);
     std::vector<const Page *> PagesToPrint() const;
     /// These three return an error message, empty on success.
     [[nodiscard]] QString TryPrint() const noexcept;

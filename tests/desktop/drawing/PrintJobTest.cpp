@@ -89,6 +89,19 @@ TEST_F(PrintJobTest, DrawsColouredLinesAndBoldTextInAFixedPitch) {
     EXPECT_EQ(page.pixelColor(330, 200), QColor(Qt::red)) << "the underline";
 }
 
+TEST_F(PrintJobTest, KeepsPagesOutOfTheMarginsOfThePrinter) {
+    const QPageLayout layout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {},
+                             QPageLayout::Point, {0, 36, 0, 36});
+    printer->setPageLayout(layout);
+    const auto draw = [](PrintJob &job) {
+        job.DrawString("head", 40, 15);
+        job.NextPage();
+        job.DrawString("head", 40, 15);
+        job.DrawString("838", 40, 838);
+    };
+    EXPECT_EQ(Print(draw), "40 64 48 head, 36 59 47 head, 36 53 805 838");
+}
+
 TEST_F(PrintJobTest, ReportsAnEmptyRange) {
     printer->setFromTo(4, 9);
     EXPECT_EQ(Print(), "");
