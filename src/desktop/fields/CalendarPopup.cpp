@@ -52,6 +52,8 @@ CalendarPopup::CalendarPopup(QDate day, const QLocale &locale, QWidget *field)
 
 void CalendarPopup::Open() {
     adjustSize();
+    // The size hint cuts off the names of the days in some large fonts.
+    resize(width() + 2 * fontMetrics().averageCharWidth(), height());
     move(Position());
     show();
     setFocus(Qt::PopupFocusReason);
