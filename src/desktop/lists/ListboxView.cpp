@@ -172,6 +172,10 @@ void ListboxView::mousePressEvent(QMouseEvent *event) {
         return;
     }
     QTableView::mousePressEvent(event);
+    // Qt 6.8 keeps the selection.
+    if (!list_.RequiresSelection() && !indexAt(event->position().toPoint()).isValid()) {
+        clearSelection();
+    }
 }
 
 void ListboxView::mouseReleaseEvent(QMouseEvent *event) {
