@@ -1,6 +1,7 @@
 #include "desktop/fields/CalendarPopup.h"
 
 #include "desktop/drawing/Frame.h"
+#include "desktop/fields/Announcement.h"
 
 #include <QPainter>
 #include <QScreen>
@@ -46,6 +47,10 @@ CalendarPopup::CalendarPopup(QDate day, const QLocale &locale, QWidget *field)
     weekend.setForeground(weekendRed);
     setWeekdayTextFormat(Qt::Saturday, weekend);
     setWeekdayTextFormat(Qt::Sunday, weekend);
+    // Screen readers read the whole week of a selected day.
+    connect(this, &QCalendarWidget::selectionChanged, this, [this] {
+        Announce(*this, this->locale().toString(selectedDate(), QLocale::LongFormat));
+    });
     connect(this, &QCalendarWidget::clicked, this, &CalendarPopup::Select);
     connect(this, &QCalendarWidget::activated, this, &CalendarPopup::Select);
 }

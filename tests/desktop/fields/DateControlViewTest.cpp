@@ -107,7 +107,10 @@ TEST_F(DateFieldTest, ChoosesADateInTheCalendar) {
     EXPECT_EQ(field.selectedText(), "01.11.2025");
     Type("1.2.{Alt+Down}{Right}{Down}{PgDown}\r");
     EXPECT_EQ(field.selectedText(), "09.03.2025");
-    Type("{F4}{Right}\x1b");
+    Type("{F4}{Right}");
+    EXPECT_EQ(Calendar()->findChild<QWidget *>("Announcement")->accessibleName(),
+              "Montag, 10. März 2025");
+    Type("\x1b");
     EXPECT_FALSE(Calendar());
 }
 
